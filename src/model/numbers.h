@@ -1,0 +1,37 @@
+#pragma once
+// Numbers and their text. One rule for rounding everywhere: named quantities are 32-bit variables;
+// the expressions between them are evaluated in double precision and rounded when stored. Products
+// of integers are formed in double precision too: exact wherever 32 bits would do, never undefined.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace zentrik {
+
+// Nearest integer, halves to the even neighbour, saturating at the 32-bit ends; not-a-number gives 0.
+std::int32_t toInt(double value);
+
+// Nearest 32-bit real, saturating at the largest finite one; not-a-number gives 0.
+float toReal(double value);
+
+// The number at the front of a text ("." as decimal point, blanks before it allowed, exponent
+// allowed); 0 where there is none. Always finite: "inf" and "nan" are no numbers.
+double leadingNumber(std::string_view text);
+
+// Shortest general decimal form: at most 7 significant digits, "1E+07" for large magnitudes.
+std::string realText(float value);
+// The same with up to 15 digits, for numbers that never were 32-bit reals.
+std::string realText(double value);
+// Appends realText(value) without a temporary; for the file writer.
+void appendReal(std::string& out, float value);
+
+// Exactly `decimals` digits after the point.
+std::string fixedText(double value, int decimals);
+
+// The clock read-out: a blank, then three decimals.
+std::string clockText(float time);
+
+inline const char* booleanText(bool value) { return value ? "True" : "False"; }
+
+}  // namespace zentrik

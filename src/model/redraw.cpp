@@ -1,0 +1,72 @@
+#include "model/redraw.h"
+
+#include "model/connected.h"
+#include "model/grid.h"
+#include "model/numbers.h"
+#include "model/shooter_aim.h"
+#include "model/store.h"
+
+#include <algorithm>
+
+namespace zentrik {
+
+namespace {
+
+// A shooter finds its trigger the first time it is drawn, keeps it locked, and shows its aim.
+void aimShooters(Editor& ed) {
+    forEachNode(ed, [&](std::int32_t i, Node& node) {
+        if (!node.Locked || node.Res1 == none) return;
+        if (node.Res1 == 0) node.Res1 = GetTriggerNode(ed, i);
+        if (!nodeExists(ed, node.Res1)) return;
+        nodeAt(ed, node.Res1).Locked = true;
+        panel(ed, 1) = fixedText(barrelAngle(ed, node) * 57.296, 1);
+    });
+}
+
+}  // namespace
+
+void DisplayScene(Editor& ed, float PX, float PY) {
+    if (ed.buttons.ball) aimShooters(ed);
+    ed.rubberBand.reset();
+    if (PX >= 0 && PY >= 0 && ed.DrawMode && ed.SelectedNode != none)
+        ed.rubberBand = PointF{SnapToGrid(ed, PX), SnapToGrid(ed, PY)};
+    if (ed.AnimationTime == 0) redrawPhaseManager(ed, ed.AnimationTime);
+    ed.linkControls = ed.SelectedLink != none;
+    ed.nodeControls = ed.SelectedNode != none;
+    showClock(ed);
+    ed.sceneBlank = false;
+    ed.instructionsShown = false;
+    ed.sceneStale = true;
+}
+
+void DrawPhaseManager(Editor& ed, float phase) {
+    std::array<std::int32_t, 361> stack{};  // discs already laid out at each whole degree
+    const double width = ed.phaseWidth;
+    forEachLink(ed, [&](std::int32_t, Link& link) {
+        if (!link.Animator) return;
+        link.Res1 = toInt(link.Angle * 0.8 * width / 360 + 0.1 * width);
+        auto& height = stack[static_cast<std::size_t>(std::clamp(toInt(link.Angle), 0, 360))];
+        link.Res4 = height * 200 + 300;
+        ++height;
+    });
+    ed.phaseShift = phase;
+    ed.phaseStale = true;
+}
+
+void redrawPhaseManager(Editor& ed, float phase) {
+    if (ed.marks.mnuDisplayAngleManager) DrawPhaseManager(ed, phase);
+}
+
+void DisplayOnscreenInstructions(Editor& ed) {
+    ed.instructionsShown = true;
+    ed.sceneStale = true;
+}
+
+void clearPath(Editor& ed) {
+    ed.pathDots.clear();
+    ++ed.pathErased;
+}
+
+void showClock(Editor& ed) { panel(ed, 4) = "Time: " + clockText(ed.AnimationTime); }
+
+}  // namespace zentrik

@@ -1,0 +1,29 @@
+#pragma once
+// What a redraw changes at its call. Pixels are painted later, once per screen refresh at most, from
+// the record as it then stands.
+
+#include "model/editor.h"
+
+namespace zentrik {
+
+// The full redraw of the scene. PX, PY: the pointer in twips from mouse handlers, -1, -1 from every
+// other caller. Locks the trigger nodes of shooters, enables the property toolbar's groups, shows the
+// clock, and marks the scene stale.
+void DisplayScene(Editor& ed, float PX, float PY);
+
+// Lays every animated link's disc out in the phase strip (into the link's Res1, Res4) and shifts the
+// strip's sine curve by phase, radians. Angles outside 0 to 360 stack at the nearer end.
+void DrawPhaseManager(Editor& ed, float phase);
+// The same, only while the strip is shown.
+void redrawPhaseManager(Editor& ed, float phase);
+
+// The text printed over the scene until the next redraw.
+void DisplayOnscreenInstructions(Editor& ed);
+
+// Erases the dots of the node path window.
+void clearPath(Editor& ed);
+
+// Status panel 4.
+void showClock(Editor& ed);
+
+}  // namespace zentrik

@@ -1,0 +1,33 @@
+#include "model/shooter_aim.h"
+
+#include "model/numbers.h"
+#include "model/store.h"
+
+#include <cmath>
+
+namespace zentrik {
+
+std::int32_t GetTriggerNode(const Editor& ed, std::int32_t i) {
+    for (const Link& link : ed.Links) {
+        if (!link.Used || !endsExist(ed, link)) continue;
+        if (link.N1 == i) return link.N2;
+        if (link.N2 == i) return link.N1;
+    }
+    return 0;
+}
+
+float GetVectorAngle(float dx, float dy) {
+    if (dx == 0) return dy < 0 ? 1.5708F : dy > 0 ? 4.7124F : 0;
+    if (dy == 0) return dx < 0 ? 3.1416F : 0;
+    const double a = std::fabs(std::atan(static_cast<double>(dy) / static_cast<double>(dx)));
+    if (dx > 0) return toReal(dy < 0 ? a : 6.2832 - a);
+    return toReal(dy < 0 ? 3.1416 - a : 3.1416 + a);
+}
+
+float barrelAngle(const Editor& ed, const Node& shooter) {
+    const Node& trigger = nodeAt(ed, shooter.Res1);
+    return GetVectorAngle(toReal(static_cast<double>(shooter.X) - trigger.X),
+                          toReal(static_cast<double>(shooter.Y) - trigger.Y));
+}
+
+}  // namespace zentrik

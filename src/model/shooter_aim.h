@@ -1,0 +1,18 @@
+#pragma once
+// Where a shooter points: its trigger node and the angles between nodes.
+
+#include "model/editor.h"
+
+namespace zentrik {
+
+// The node at the other end of the first used link that touches node i; 0 when there is none.
+std::int32_t GetTriggerNode(const Editor& ed, std::int32_t i);
+
+// Angle in radians, [0, 2 pi), of the vector (dx, -dy) counter-clockwise from +x; with y growing
+// downwards a vector that points up the screen has pi / 2. The zero vector gives 0.
+float GetVectorAngle(float dx, float dy);
+
+// Direction from a shooter's trigger, which must exist, through the shooter. Radians.
+float barrelAngle(const Editor& ed, const Node& shooter);
+
+}  // namespace zentrik

@@ -1,0 +1,152 @@
+#include "model/store.h"
+
+#include "model/host.h"
+#include "model/numbers.h"
+#include "model/redraw.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace zentrik {
+
+namespace {
+
+std::string number(std::int32_t value) { return std::to_string(value); }
+
+template <class Record>
+std::int32_t countUsed(const std::vector<Record>& records) {
+    const auto used =
+        std::count_if(records.begin() + 1, records.end(), [](const Record& record) { return record.Used; });
+    return static_cast<std::int32_t>(used);
+}
+
+}  // namespace
+
+float linkLength(const Editor& ed, const Link& link) {
+    const Node& a = nodeAt(ed, link.N1);
+    const Node& b = nodeAt(ed, link.N2);
+    const double dx = static_cast<double>(a.X) - b.X;
+    const double dy = static_cast<double>(a.Y) - b.Y;
+    return toReal(std::sqrt(dy * dy + dx * dx));
+}
+
+PointF linkMidpoint(const Editor& ed, const Link& link) {
+    const Node& a = nodeAt(ed, link.N1);
+    const Node& b = nodeAt(ed, link.N2);
+    return {toReal((static_cast<double>(a.X) + b.X) / 2), toReal((static_cast<double>(a.Y) + b.Y) / 2)};
+}
+
+Node standardNode(Editor& ed, double x, double y) {
+    Node node;
+    node.Used = true;
+    node.X = toInt(x);
+    node.Y = toInt(y);
+    node.Mass = 1;
+    node.Res1 = none;
+    node.Sprite = noSprite;
+    node.color = ed.marks.mnuUseRandom ? GetRandomColor(ed.chance) : ed.NodeColor;
+    return node;
+}
+
+std::int32_t appendNode(Editor& ed, Node node) {
+    ed.Nodes.push_back(std::move(node));
+    return lastNode(ed);
+}
+
+std::int32_t appendLink(Editor& ed, const Link& link) {
+    ed.Links.push_back(link);
+    return lastLink(ed);
+}
+
+Link defaultLink(const Editor& ed, std::int32_t n1, std::int32_t n2) {
+    Link link;
+    link.Used = true;
+    link.N1 = n1;
+    link.N2 = n2;
+    link.k = ed.DefaultLinkK;
+    link.Force = ed.DefaultLinkForce;
+    return link;
+}
+
+void CreateLink(Editor& ed) {
+    if (ed.SelectedNode == none) return;
+    const std::int32_t end = ed.HoverNode != none ? ed.HoverNode : lastNode(ed) + 1;
+    appendLink(ed, defaultLink(ed, ed.SelectedNode, end));
+}
+
+void DeleteLink(Editor& ed) {
+    if (linkExists(ed, ed.SelectedLink)) linkAt(ed, ed.SelectedLink).Used = false;
+    ed.SelectedLink = none;
+}
+
+void DeleteNode(Editor& ed) {
+    if (ed.SelectedNode == none) return;
+    for (Link& link : ed.Links)
+        if (link.N1 == ed.SelectedNode || link.N2 == ed.SelectedNode) link.Used = false;
+    ed.DrawMode = false;
+    if (nodeExists(ed, ed.SelectedNode)) nodeAt(ed, ed.SelectedNode).Used = false;
+    ed.SelectedNode = none;
+    ed.HoverNode = none;
+}
+
+std::int32_t UsedNodes(const Editor& ed) { return countUsed(ed.Nodes); }
+std::int32_t UsedLinks(const Editor& ed) { return countUsed(ed.Links); }
+
+void NoSelections(Editor& ed) {
+    ed.HoverNode = none;
+    ed.SelectedNode = none;
+    ed.SelectedLink = none;
+    ed.HoverLink = none;
+}
+
+void showCounts(Editor& ed) {
+    panel(ed, 1) = "Nodes: " + number(UsedNodes(ed));
+    panel(ed, 2) = "Links: " + number(UsedLinks(ed));
+}
+
+void ClearAnimation(Editor& ed) {
+    ed.Nodes.assign(1, Node{});
+    ed.Links.assign(1, Link{});
+    NoSelections(ed);
+    showCounts(ed);
+    panel(ed, 3) = "Cycles: 0";
+    clearPath(ed);
+    DisplayScene(ed, -1, -1);
+}
+
+void mnuCompact_Click(Editor& ed, Host& host) {
+    const std::int32_t oldNodes = lastNode(ed);
+    const std::int32_t oldLinks = lastLink(ed);
+    const std::int32_t usedNodes = UsedNodes(ed);
+    const std::int32_t usedLinks = UsedLinks(ed);
+
+    std::vector<Node> nodes(1);
+    std::vector<std::int32_t> newNumber(ed.Nodes.size(), 0);
+    forEachNode(ed, [&](std::int32_t i, const Node& node) {
+        newNumber[static_cast<std::size_t>(i)] = static_cast<std::int32_t>(nodes.size());
+        nodes.push_back(node);
+    });
+    if (std::cmp_not_equal(nodes.size() - 1, usedNodes))
+        host.messageBox("Compact node error", "Zentrik", BoxIcon::plain);
+
+    std::vector<Link> links(1);
+    for (std::int32_t j = 1; j <= oldLinks; ++j) {
+        if (!linkAt(ed, j).Used) continue;
+        Link link = linkAt(ed, j);
+        link.N1 = nodeExists(ed, link.N1) ? newNumber[static_cast<std::size_t>(link.N1)] : 0;
+        link.N2 = nodeExists(ed, link.N2) ? newNumber[static_cast<std::size_t>(link.N2)] : 0;
+        links.push_back(link);
+    }
+    if (std::cmp_not_equal(links.size() - 1, usedLinks))
+        host.messageBox("Compact link error", "Zentrik", BoxIcon::plain);
+
+    ed.Nodes = std::move(nodes);
+    ed.Links = std::move(links);
+    redrawPhaseManager(ed, ed.AnimationTime);
+    DisplayScene(ed, -1, -1);
+    panel(ed, 5) = "Compact complete.   Nodes: " + number(oldNodes) + " to " + number(lastNode(ed)) +
+                   "      Links: " + number(oldLinks) + " to " + number(lastLink(ed));
+}
+
+}  // namespace zentrik

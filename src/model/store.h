@@ -1,0 +1,82 @@
+#pragma once
+// Creating, deleting, counting and compacting nodes and links, and the selection they affect.
+
+#include "model/editor.h"
+
+namespace zentrik {
+
+class Host;
+
+inline std::int32_t lastNode(const Editor& ed) { return static_cast<std::int32_t>(ed.Nodes.size()) - 1; }
+inline std::int32_t lastLink(const Editor& ed) { return static_cast<std::int32_t>(ed.Links.size()) - 1; }
+
+// Slot access by the 32-bit numbers that links and selections hold; the caller knows the slot exists.
+inline Node& nodeAt(Editor& ed, std::int32_t i) { return ed.Nodes[static_cast<std::size_t>(i)]; }
+inline const Node& nodeAt(const Editor& ed, std::int32_t i) { return ed.Nodes[static_cast<std::size_t>(i)]; }
+inline Link& linkAt(Editor& ed, std::int32_t i) { return ed.Links[static_cast<std::size_t>(i)]; }
+inline const Link& linkAt(const Editor& ed, std::int32_t i) { return ed.Links[static_cast<std::size_t>(i)]; }
+
+inline bool nodeExists(const Editor& ed, std::int32_t i) { return i >= 1 && i <= lastNode(ed); }
+inline bool linkExists(const Editor& ed, std::int32_t i) { return i >= 1 && i <= lastLink(ed); }
+
+// The selected record, or null when nothing is selected or the selection outlived its slot (compaction
+// leaves selections as they are).
+inline Node* selectedNode(Editor& ed) {
+    return nodeExists(ed, ed.SelectedNode) ? &nodeAt(ed, ed.SelectedNode) : nullptr;
+}
+inline Link* selectedLink(Editor& ed) {
+    return linkExists(ed, ed.SelectedLink) ? &linkAt(ed, ed.SelectedLink) : nullptr;
+}
+
+// A hand-made file may hold links to nodes that are not there. Whatever follows a link's ends asks
+// this first and passes over such a link.
+inline bool endsExist(const Editor& ed, const Link& link) {
+    return nodeExists(ed, link.N1) && nodeExists(ed, link.N2);
+}
+
+// Calls visit(number, link) for every used link with both ends, in index order.
+template <class EditorType, class Visit>
+void forEachLink(EditorType& ed, Visit visit) {
+    for (std::int32_t j = 1; j <= lastLink(ed); ++j)
+        if (linkAt(ed, j).Used && endsExist(ed, linkAt(ed, j))) visit(j, linkAt(ed, j));
+}
+
+// Calls visit(number, node) for every used node, in index order.
+template <class EditorType, class Visit>
+void forEachNode(EditorType& ed, Visit visit) {
+    for (std::int32_t i = 1; i <= lastNode(ed); ++i)
+        if (nodeAt(ed, i).Used) visit(i, nodeAt(ed, i));
+}
+
+// Distance of a link's two existing ends, twips.
+float linkLength(const Editor& ed, const Link& link);
+// Midpoint of a link with existing ends, twips.
+PointF linkMidpoint(const Editor& ed, const Link& link);
+
+// A new standard node with default fields at a place, coloured by the node colour settings.
+Node standardNode(Editor& ed, double x, double y);
+// Both append at the end, never into a freed slot, and return the new slot's number.
+std::int32_t appendNode(Editor& ed, Node node);
+std::int32_t appendLink(Editor& ed, const Link& link);
+// A used link between two nodes with the default spring constant and force; lengths are 0.
+Link defaultLink(const Editor& ed, std::int32_t n1, std::int32_t n2);
+
+// Appends a link from the selected node to the hover node, or else to the node appended next.
+// Does nothing without a selected node.
+void CreateLink(Editor& ed);
+void DeleteLink(Editor& ed);
+void DeleteNode(Editor& ed);
+
+std::int32_t UsedNodes(const Editor& ed);
+std::int32_t UsedLinks(const Editor& ed);
+
+void NoSelections(Editor& ed);
+// Empties the model and the path window; the clock and the cycle counter go on.
+void ClearAnimation(Editor& ed);
+// Renumbers the model so that only used records remain, in their old order.
+void mnuCompact_Click(Editor& ed, Host& host);
+
+// Status panels 1 and 2.
+void showCounts(Editor& ed);
+
+}  // namespace zentrik
