@@ -46,15 +46,6 @@ std::size_t writeGeneral(char (&buffer)[40], Real value, int digits) {
 
 }  // namespace
 
-std::int32_t toInt(double value) {
-    using Limits = std::numeric_limits<std::int32_t>;
-    if (std::isnan(value)) return 0;
-    const double rounded = std::nearbyint(value);
-    if (rounded <= Limits::min()) return Limits::min();
-    if (rounded >= Limits::max()) return Limits::max();
-    return static_cast<std::int32_t>(rounded);
-}
-
 float toReal(double value) {
     constexpr float largest = std::numeric_limits<float>::max();
     if (std::isnan(value)) return 0;

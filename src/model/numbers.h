@@ -3,14 +3,21 @@
 // the expressions between them are evaluated in double precision and rounded when stored. Products
 // of integers are formed in double precision too: exact wherever 32 bits would do, never undefined.
 
+#include <cmath>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 
 namespace zentrik {
 
 // Nearest integer, halves to the even neighbour, saturating at the 32-bit ends; not-a-number gives 0.
-std::int32_t toInt(double value);
+inline std::int32_t toInt(double value) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    if (value > Limits::min() && value < Limits::max()) return static_cast<std::int32_t>(std::llrint(value));
+    if (std::isnan(value)) return 0;
+    return value < 0 ? Limits::min() : Limits::max();
+}
 
 // Nearest 32-bit real, saturating at the largest finite one; not-a-number gives 0.
 float toReal(double value);

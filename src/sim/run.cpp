@@ -1,0 +1,70 @@
+#include "sim/run.h"
+
+#include "model/redraw.h"
+#include "model/store.h"
+#include "sim/step.h"
+
+namespace zentrik {
+
+void setRate(Editor& ed, std::int32_t milliseconds) {
+    if (milliseconds >= shortestPeriod && milliseconds <= longestPeriod) ed.Timer1.interval = milliseconds;
+}
+
+void Timer1_Timer(Editor& ed) {
+    // Counts up for as long as the program runs, so it must survive its own end.
+    ed.Cycles = static_cast<std::int32_t>(static_cast<std::uint32_t>(ed.Cycles) + 1);
+    panel(ed, 3) = "Cycles: " + std::to_string(ed.Cycles);
+    CalculatePositions(ed);
+    if (ed.SingleStep) ed.Timer1.enabled = false;
+}
+
+void StartStop(Editor& ed) {
+    ed.Timer1.enabled = ed.buttons.start;
+    ed.tips.start = ed.buttons.start ? "Stop" : "Start";
+    if (ed.buttons.start) ed.SingleStep = false;
+}
+
+void stopAnimation(Editor& ed) {
+    if (!ed.buttons.start) return;
+    ed.buttons.start = false;
+    StartStop(ed);
+}
+
+void startClicked(Editor& ed, Host&) {
+    if (!ed.Timer1.enabled) SaveState(ed);
+    ed.InitialVelocityPending = true;
+    StartStop(ed);
+    DisplayScene(ed, -1, -1);
+}
+
+void singleClicked(Editor& ed, Host&) {
+    stopAnimation(ed);
+    ed.SingleStep = true;
+    ed.Timer1.enabled = true;
+}
+
+void repositionClicked(Editor& ed, Host&) {
+    clearPath(ed);
+    RestoreState(ed);
+    ed.AnimationTime = 0;
+    DisplayScene(ed, -1, -1);
+}
+
+void mnuSetZero_Click(Editor& ed, Host&) {
+    ed.AnimationTime = 0;
+    redrawPhaseManager(ed, 0);
+    showClock(ed);
+}
+
+void SaveState(Editor& ed) {
+    ed.SavedNodes = ed.Nodes;
+    ed.SavedLinks = ed.Links;
+}
+
+void RestoreState(Editor& ed) {
+    NoSelections(ed);
+    ed.Nodes = ed.SavedNodes;
+    ed.Links = ed.SavedLinks;
+}
+
+}  // namespace zentrik

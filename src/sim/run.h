@@ -1,0 +1,32 @@
+#pragma once
+// Run control: the animation timer's tick, start and stop, single steps, and the snapshot.
+
+#include "model/editor.h"
+
+namespace zentrik {
+
+class Host;
+
+// Periods the animation timer accepts, milliseconds.
+inline constexpr std::int32_t shortestPeriod = 1, longestPeriod = 65535;
+// Changes the timer's period; refuses one it does not accept and leaves the old one.
+void setRate(Editor& ed, std::int32_t milliseconds);
+
+void Timer1_Timer(Editor& ed);
+
+// Makes the timer and the tool tip follow the start button.
+void StartStop(Editor& ed);
+// Releases the start button and stops the timer if the animation runs.
+void stopAnimation(Editor& ed);
+
+// The buttons start (after it changed its state), single and reposition.
+void startClicked(Editor& ed, Host& host);
+void singleClicked(Editor& ed, Host& host);
+void repositionClicked(Editor& ed, Host& host);
+
+void mnuSetZero_Click(Editor& ed, Host& host);
+
+void SaveState(Editor& ed);
+void RestoreState(Editor& ed);
+
+}  // namespace zentrik
