@@ -1,0 +1,136 @@
+#include "project/forms.h"
+
+#include "model/numbers.h"
+#include "project/columns.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <system_error>
+
+namespace zentrik {
+
+namespace {
+
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+
+std::string_view trimmed(std::string_view field) {
+    while (!field.empty() && isBlank(field.front())) field.remove_prefix(1);
+    while (!field.empty() && isBlank(field.back())) field.remove_suffix(1);
+    return field;
+}
+
+// True when the whole text is one number of the value's type.
+template <class Number>
+bool readWhole(std::string_view text, Number& value) {
+    const char* end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, value);
+    return result.ec == std::errc{} && result.ptr == end;
+}
+
+// For what the direct way does not take: a plus sign, blanks, decimals, magnitudes beyond the type.
+bool readSlowly(std::string_view text, double& value) {
+    text = trimmed(text);
+    if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+    const char* end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, value);
+    if (result.ptr != end || result.ec == std::errc::invalid_argument) return false;
+    if (result.ec == std::errc::result_out_of_range) value = leadingNumber(text);
+    return std::isfinite(value);
+}
+
+bool fitsItsField(const std::string& text) {
+    return text.find_first_of("\r\n") == std::string::npos && (text + " : ").find(separator) == text.size();
+}
+
+}  // namespace
+
+bool readForm(std::string_view field, bool& value) {
+    if (field == "True" || field == "False") {
+        value = field == "True";
+        return true;
+    }
+    const std::string_view word = trimmed(field);
+    double number = 0;
+    if (word.size() == 4 && beginsIgnoringCase(word, "true"))
+        value = true;
+    else if (word.size() == 5 && beginsIgnoringCase(word, "false"))
+        value = false;
+    else if (readSlowly(word, number))
+        value = number != 0;
+    else
+        return false;
+    return true;
+}
+
+bool readForm(std::string_view field, std::int32_t& value) {
+    std::int32_t whole = 0;
+    if (readWhole(field, whole)) {
+        value = whole;
+        return true;
+    }
+    double number = 0;
+    if (!readSlowly(field, number)) return false;
+    number = std::nearbyint(number);
+    using Limits = std::numeric_limits<std::int32_t>;
+    if (number < Limits::min() || number > Limits::max()) return false;
+    value = toInt(number);
+    return true;
+}
+
+bool readForm(std::string_view field, float& value) {
+    float real = 0;
+    if (!readWhole(field, real) || !std::isfinite(real)) {
+        double number = 0;
+        if (!readSlowly(field, number)) return false;
+        if (std::fabs(number) > static_cast<double>(std::numeric_limits<float>::max())) return false;
+        real = toReal(number);
+    }
+    value = real + 0.0F;  // "-0" is 0
+    return true;
+}
+
+bool readForm(std::string_view field, std::string& value) {
+    value = field;
+    return true;
+}
+
+void appendForm(std::string& out, bool value) { out += booleanText(value); }
+
+void appendForm(std::string& out, std::int32_t value) {
+    char buffer[12];
+    out.append(buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr);
+}
+
+void appendForm(std::string& out, float value) {
+    // A value that is not finite would make the file unreadable.
+    appendReal(out, std::isfinite(value) ? value : toReal(static_cast<double>(value)));
+}
+
+void appendForm(std::string& out, const std::string& value) {
+    if (fitsItsField(value)) {
+        out += value;
+        return;
+    }
+    std::string text = oneLine(value);
+    // The separator behind the field counts too: with it, a text ending in " :" ends early.
+    text += separator;
+    const std::size_t end = text.size() - separator.size();
+    for (std::size_t at = 0; (at = text.find(separator, at)) < end; ++at) text[at + 1] = ';';
+    out.append(text, 0, end);
+}
+
+bool beginsIgnoringCase(std::string_view text, std::string_view lower) {
+    if (text.size() < lower.size()) return false;
+    const auto same = [](char wanted, char c) { return wanted == lowered(c); };
+    return std::equal(lower.begin(), lower.end(), text.begin(), same);
+}
+
+std::string oneLine(std::string text) {
+    const auto isBreak = [](char c) { return c == '\r' || c == '\n'; };
+    std::replace_if(text.begin(), text.end(), isBreak, ' ');
+    return text;
+}
+
+}  // namespace zentrik

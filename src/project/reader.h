@@ -1,0 +1,36 @@
+#pragma once
+// From the bytes of a project file to a project.
+
+#include "project/columns.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zentrik {
+
+struct Project {
+    std::string title;
+    std::optional<GlobalSettings> global;  // the last global line of the file
+    std::vector<Link> Links = std::vector<Link>(1);
+    std::vector<Node> Nodes = std::vector<Node>(1);  // SpriteIndex not looked up
+};
+
+// Why reading stopped.
+struct ReadProblem {
+    std::size_t line = 0;  // counted from 1; 0 = the file as a whole
+    std::string text;
+};
+
+struct Reading {
+    std::optional<Project> project;  // none when there was not even a title
+    std::optional<ReadProblem> problem;
+};
+
+// Takes any bytes whatever. Records are numbered 1, 2, 3 ... in the order of their lines; links keep
+// their ends as they stand, whether such nodes exist or not. Lines end in CR LF or LF. The first
+// malformed line ends the reading with a problem and leaves what was read before it.
+Reading parseProject(std::string_view bytes);
+
+}  // namespace zentrik

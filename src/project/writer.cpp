@@ -1,0 +1,63 @@
+#include "project/writer.h"
+
+#include "model/addresses.h"
+#include "project/columns.h"
+#include "project/forms.h"
+
+namespace zentrik {
+
+namespace {
+
+template <class Record, std::size_t count>
+void appendFields(std::string& out, const Column<Record> (&columns)[count], const Record& record) {
+    for (const auto& column : columns) {
+        out += separator;
+        std::visit([&](auto member) { appendForm(out, record.*member); }, column.member);
+    }
+    out += lineEnd;
+}
+
+template <class Record, std::size_t count>
+void appendSection(std::string& out, std::string_view name, std::string_view commentStart,
+                   const Column<Record> (&columns)[count], const std::vector<Record>& records) {
+    out.append(name).append(lineEnd).append(commentStart);
+    for (const auto& column : columns) out.append(column.name).append(column.afterName);
+    out += lineEnd;
+    for (std::size_t i = 1; i < records.size(); ++i) {
+        appendForm(out, static_cast<std::int32_t>(i));
+        appendFields(out, columns, records[i]);
+    }
+}
+
+GlobalSettings globalSettings(const Editor& ed) {
+    GlobalSettings global;
+    global.Gravity = ed.Gravity;
+    global.Friction = ed.Friction;
+    global.Viscosity = ed.Viscosity;
+    global.LeftWind = ed.LeftWind;
+    global.Bounce = ed.Bounce;
+    global.TimeInterval = ed.TimeInterval;
+    global.timerPeriod = ed.Timer1.interval;
+    global.DeltaAngle = ed.DeltaAngle;
+    global.sceneWidth = static_cast<float>(ed.sceneWidth);
+    global.sceneHeight = static_cast<float>(ed.sceneHeight);
+    global.AnimationTime = ed.AnimationTime;
+    return global;
+}
+
+}  // namespace
+
+std::string projectBytes(const Editor& ed) {
+    std::string out;
+    out.reserve(1000 + 100 * ed.Links.size() + 150 * ed.Nodes.size());
+    out.append(magicWord).append("   ").append(webPage).append("   ").append(makerName).append(lineEnd);
+    out.append(oneLine(ed.ProjectTitle)).append(lineEnd);
+    out.append(globalComment).append(lineEnd);
+    out += "Global Settings";
+    appendFields(out, globalColumns, globalSettings(ed));
+    appendSection(out, "Links", linkCommentStart, linkColumns, ed.Links);
+    appendSection(out, "Nodes", nodeCommentStart, nodeColumns, ed.Nodes);
+    return out;
+}
+
+}  // namespace zentrik
