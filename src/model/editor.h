@@ -111,6 +111,7 @@ struct Editor {
     std::int32_t spriteEntry = 0;                     // its selected entry
     std::vector<std::string> savedNames;              // entries of lstSaved
     std::string savedText;                            // its text: the current project's name
+    std::int32_t windowWidth = 0, windowHeight = 0;  // inside of the main window, twips
     Layout layout;
     std::int32_t sceneWidth = 0, sceneHeight = 0;     // picS, twips
     std::int32_t phaseWidth = 0, phaseHeight = 1500;  // picPhase, twips

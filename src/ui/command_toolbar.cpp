@@ -1,0 +1,131 @@
+#include "ui/command_toolbar.h"
+
+#include "edit/hit.h"
+#include "edit/objects.h"
+#include "edit/transforms.h"
+#include "effects/shooter.h"
+#include "model/host.h"
+#include "model/redraw.h"
+#include "model/store.h"
+#include "project/library.h"
+#include "sim/run.h"
+#include "ui/online.h"
+#include "ui/options.h"
+
+namespace zentrik {
+
+namespace {
+
+void newClicked(Editor& ed, Host&) {
+    stopAnimation(ed);
+    ClearAnimation(ed);
+    ed.AnimationTime = 0;
+    redrawPhaseManager(ed, ed.AnimationTime);
+    showClock(ed);
+}
+
+void refreshClicked(Editor& ed, Host& host) {
+    stopAnimation(ed);
+    reloadProject(ed, host);
+}
+
+void redrawWhileStopped(Editor& ed, Host&) {
+    if (!ed.Timer1.enabled) DisplayScene(ed, -1, -1);
+}
+
+void deleteClicked(Editor& ed, Host& host) {
+    if (ed.SelectedNode != none && ed.SelectedLink != none &&
+        !host.confirm("You are about to delete BOTH a node and a link.  Proceed?", "Delete Node/Link"))
+        return;
+    DeleteNode(ed);
+    DeleteLink(ed);
+    DisplayScene(ed, -1, -1);
+    showCounts(ed);
+}
+
+// A command on the model followed by a redraw.
+template <void (*change)(Editor&)>
+void andRedraw(Editor& ed, Host&) {
+    change(ed);
+    DisplayScene(ed, -1, -1);
+}
+
+template <int columns, int rows>
+void moveBy(Editor& ed, Host&) {
+    moveProject(ed, columns, rows);
+    DisplayScene(ed, -1, -1);
+}
+
+void barrierClicked(Editor& ed, Host& host) {
+    ConvertObjectToBarrier(ed, host);
+    DisplayScene(ed, -1, -1);
+}
+
+constexpr CommandRow button(const char* key, const char* tip, const char* icon, Command command) {
+    return {key, tip, icon, ButtonStyle::button, command, nullptr};
+}
+constexpr CommandRow check(const char* key, const char* tip, const char* icon, bool Buttons::*pressed,
+                           Command command) {
+    return {key, tip, icon, ButtonStyle::check, command, pressed};
+}
+constexpr CommandRow line{"", "", "", ButtonStyle::separator, nullptr, nullptr};
+constexpr CommandRow room{"", "", "", ButtonStyle::room, nullptr, nullptr};
+constexpr Command nothing = nullptr;
+
+// clang-format off
+constexpr CommandRow rows[] = {
+    line,
+    button("new", "New Animation (Clear Screen)", "blank", newClicked),
+    button("save", "Save Project", "save", saveProject),
+    button("refresh", "Reload Animation From File", "refresh", refreshClicked),
+    room, room, room, room,
+    line,
+    check("start", "Start Animation", "start", &Buttons::start, startClicked),
+    button("reposition", "Reset To Last Start", "reset", repositionClicked),
+    check("slow", "Slow Speed Animation", "slow", &Buttons::slow, nothing),
+    button("single", "Single Step Animation", "one", singleClicked),
+    check("animation", "Enable Link Animators", "sinewave", &Buttons::animation, nothing),
+    line,
+    button("delete", "Delete Selected Node/Link", "deletered", deleteClicked),
+    button("duplicate", "Duplicate Selected Object", "duplicate", mnuDuplicateObject_Click),
+    button("fire", "Fire Shooter", "shoot", mnuFire_Click),
+    line,
+    button("up", "Move Project Up", "uphand", moveBy<0, -1>),
+    button("down", "Move Project Down", "downhand", moveBy<0, 1>),
+    button("left", "Move Project Left", "lefthand", moveBy<-1, 0>),
+    button("right", "Move Project Right", "righthand", moveBy<1, 0>),
+    button("full", "Center Project", "full", andRedraw<CenterAnimation>),
+    button("rotate", "Rotate Project", "rotate", andRedraw<RotateAnimation>),
+    button("increase", "Enlarge Project", "plus", andRedraw<Increase>),
+    button("decrease", "Shrink Project", "minus", andRedraw<Decrease>),
+    button("barrier", "Convert Object to Barrier", "flagred", barrierClicked),
+    line,
+    button("nextnode", "Next Node", "plusn", andRedraw<NextNode>),
+    button("nextlink", "Next Link", "plusl", andRedraw<NextLink>),
+    check("data", "Display Maximum Project Information", "data", &Buttons::data, redrawWhileStopped),
+    check("simple", "Display Global Settings as Single Line", "data2", &Buttons::simple, redrawWhileStopped),
+    check("numbers", "Display Node/Link Numbers", "pound", &Buttons::numbers, redrawScene),
+    check("draw", "Allow Draw Links", "pencil", &Buttons::draw, nothing),
+    check("same", "Lock Rest Length of Links", "same", &Buttons::same, nothing),
+    check("ball", "Show Nodes", "ball", &Buttons::ball, redrawScene),
+    check("line", "Show Links", "link", &Buttons::line, redrawScene),
+    check("activeline", "Highlight Animated LInks", "chaing", &Buttons::activeline, redrawScene),
+    check("sprite", "Display Sprites", "face", &Buttons::sprite, redrawScene),
+    check("grid", "Display Grid", "grid", &Buttons::grid, redrawScene),
+    check("snap", "Snap to Grid", "snap", &Buttons::snap, nothing),
+    line,
+    button("message", "Get Zentrik Message from Server", "info", messageClicked),
+    button("email", "Email Author", "email", mnuEmail_Click),
+};
+// clang-format on
+
+}  // namespace
+
+std::span<const CommandRow> commandRows() { return rows; }
+
+void pressCommand(Editor& ed, Host& host, const CommandRow& row) {
+    if (row.pressed != nullptr) ed.buttons.*row.pressed = !(ed.buttons.*row.pressed);
+    if (row.command != nullptr) row.command(ed, host);
+}
+
+}  // namespace zentrik

@@ -1,0 +1,41 @@
+#include "ui/online.h"
+
+#include "model/addresses.h"
+#include "model/host.h"
+#include "model/redraw.h"
+
+namespace zentrik {
+
+namespace {
+
+constexpr std::size_t longestMessage = 300;  // bytes shown of what a server sends
+
+void open(Editor& ed, Host& host, const char* address) {
+    if (!host.openAddress(address)) panel(ed, 5) = std::string("Nothing on this computer opens ") + address;
+}
+
+}  // namespace
+
+void mnuForums_Click(Editor& ed, Host& host) { open(ed, host, forumPage); }
+void mnuOnlineHelp_Click(Editor& ed, Host& host) { open(ed, host, helpPage); }
+void mnuOnlineUpdate_Click(Editor& ed, Host& host) { open(ed, host, updatePage); }
+void mnuAbout_Click(Editor&, Host& host) { host.showAbout(); }
+
+void messageClicked(Editor& ed, Host& host) {
+    DisplayOnscreenInstructions(ed);
+    host.fetchMessage(messageFile);
+}
+
+void messageArrived(Editor& ed, const std::string& text) {
+    const std::size_t start = text.find_first_not_of(" \t\r\n");
+    const std::size_t end = start == std::string::npos ? start : text.find_first_of("\r\n", start);
+    const std::string line = start == std::string::npos ? "" : text.substr(start, end - start);
+    if (line.empty()) return messageFailed(ed, "the server sent no text");
+    panel(ed, 5) = line.substr(0, longestMessage);
+}
+
+void messageFailed(Editor& ed, const std::string& reason) {
+    panel(ed, 5) = "The message could not be fetched: " + reason;
+}
+
+}  // namespace zentrik

@@ -1,0 +1,84 @@
+#include "ui/options.h"
+
+#include "model/host.h"
+#include "model/numbers.h"
+#include "model/redraw.h"
+#include "sim/run.h"
+#include "ui/layout.h"
+
+namespace zentrik {
+
+namespace {
+
+constexpr std::int32_t smallestGrid = 50;  // twips
+
+void askColor(Editor& ed, Host& host, std::int32_t Editor::*color) {
+    const std::int32_t chosen = host.SelectColor();
+    if (chosen != none) ed.*color = chosen;
+    DisplayScene(ed, -1, -1);
+}
+
+void askReal(Editor& ed, Host& host, const char* prompt, const char* title, float Editor::*value) {
+    const std::string answer = host.inputBox(prompt, title, realText(ed.*value));
+    if (!answer.empty()) ed.*value = toReal(leadingNumber(answer));
+}
+
+}  // namespace
+
+void mnuResetGlobal_Click(Editor& ed, Host&) {
+    ed.Gravity = 1;
+    ed.Friction = 0.5F;
+    ed.Viscosity = 0;
+    ed.LeftWind = 0;
+    ed.Bounce = 0.5F;
+    ed.TimeInterval = 20;
+    setRate(ed, 20);
+    ed.DeltaAngle = 1;
+    DisplayScene(ed, -1, -1);
+}
+
+void mnuGridSize_Click(Editor& ed, Host& host) {
+    const std::string answer = host.inputBox("Enter grid size.", "Grid Size", realText(ed.GridSize));
+    const std::int32_t size = toInt(leadingNumber(answer));
+    if (size >= smallestGrid) ed.GridSize = static_cast<float>(size);
+    DisplayScene(ed, -1, -1);
+}
+
+void setNodeRadius(Editor& ed, std::int32_t radius) {
+    ed.NodeRadius = radius;
+    ed.HitRadius = toInt(radius + 30.0);
+}
+
+void mnuSetRadius_Click(Editor& ed, Host& host) {
+    const std::string answer =
+        host.inputBox("Enter node radius.", "Set Node Radius", std::to_string(ed.NodeRadius));
+    if (!answer.empty()) setNodeRadius(ed, toInt(leadingNumber(answer)));
+    DisplayScene(ed, -1, -1);
+}
+
+void mnuDefaultK_Click(Editor& ed, Host& host) {
+    askReal(ed, host, "Enter default spring constant.", "Default Spring Constant", &Editor::DefaultLinkK);
+}
+
+void mnuDefaultForce_Click(Editor& ed, Host& host) {
+    askReal(ed, host, "Enter default link force.", "Default Link Force", &Editor::DefaultLinkForce);
+}
+
+void mnuLineColor_Click(Editor& ed, Host& host) { askColor(ed, host, &Editor::LinkColor); }
+void mnuNodeColor_Click(Editor& ed, Host& host) { askColor(ed, host, &Editor::NodeColor); }
+void mnuBackgroundColor_Click(Editor& ed, Host& host) { askColor(ed, host, &Editor::BackColor); }
+
+void redrawScene(Editor& ed, Host&) { DisplayScene(ed, -1, -1); }
+
+void redrawStripAndScene(Editor& ed, Host&) {
+    redrawPhaseManager(ed, ed.AnimationTime);
+    DisplayScene(ed, -1, -1);
+}
+
+void layOutAgain(Editor& ed, Host&) { layOut(ed); }
+
+void followFireworksMark(Editor& ed, Host&) { ed.timerFireWorks.enabled = ed.marks.mnuDisplayFireWorks; }
+
+void followPathMark(Editor& ed, Host& host) { host.showPathWindow(ed.marks.mnuDisplayPath); }
+
+}  // namespace zentrik

@@ -1,0 +1,98 @@
+#include "ui/phase_manager.h"
+
+#include "edit/hit.h"
+#include "edit/mouse.h"
+#include "model/numbers.h"
+#include "model/readout.h"
+#include "model/redraw.h"
+#include "model/store.h"
+
+#include <algorithm>
+
+namespace zentrik {
+
+namespace {
+
+void redrawBoth(Editor& ed) {
+    DrawPhaseManager(ed, ed.AnimationTime);
+    DisplayScene(ed, -1, -1);
+}
+
+bool within(float at, std::int32_t centre, std::int32_t radius) {
+    return static_cast<double>(centre) - radius < at && at < static_cast<double>(centre) + radius;
+}
+
+void pick(Editor& ed, float X, float Y) {
+    std::int32_t link = none;
+    ed.PhaseDragging = OverPhase(ed, X, Y, link);
+    if (!ed.PhaseDragging) {
+        ed.SelectedAnimatorLink = ed.SelectedLink;
+        return;
+    }
+    ed.SelectedAnimatorLink = ed.SelectedLink = link;
+    DisplayLinkData(ed, link);
+}
+
+}  // namespace
+
+bool OverPhase(Editor& ed, float X, float Y, std::int32_t& iOver) {
+    iOver = none;
+    for (std::int32_t j = 1; j <= lastLink(ed); ++j) {
+        const Link& link = linkAt(ed, j);
+        if (!link.Used || !within(X, link.Res1, ed.HitRadius) || !within(Y, link.Res4, ed.HitRadius))
+            continue;
+        iOver = j;
+        panel(ed, 5) = linkText(ed, j);
+        return true;
+    }
+    return false;
+}
+
+float SnapToPhaseGrid(const Editor& ed, float X) {
+    const double axis = 0.8 * ed.phaseWidth;
+    const double offset = X - 0.1 * ed.phaseWidth;
+    double angle = axis > 0 ? offset / axis * 360 : 0;
+    const double step = static_cast<double>(ed.PhaseGridStep);
+    const double cell = step / 360 * axis;
+    const std::int32_t c = toInt(cell);
+    if (ed.buttons.snap && c > 0) {
+        const std::int32_t n = toInt(offset);
+        angle = (n % c < cell / 2 ? n / c : n / c + 1) * step;
+    }
+    return toReal(std::clamp(angle, 0.0, 360.0));
+}
+
+void picPhase_MouseDown(Editor& ed, int Button, float X, float Y) {
+    if (Button == leftButton) {
+        pick(ed, X, Y);
+    } else if (Button == rightButton) {
+        ed.PhaseDragging = false;
+        ed.PhaseOverLink = ed.SelectedAnimatorLink = ed.SelectedLink = none;
+    } else {
+        return;
+    }
+    redrawBoth(ed);
+}
+
+void picPhase_MouseMove(Editor& ed, float X, float Y) {
+    if (ed.PhaseDragging && linkExists(ed, ed.SelectedAnimatorLink)) {
+        linkAt(ed, ed.SelectedAnimatorLink).Angle = SnapToPhaseGrid(ed, X);
+    } else {
+        const bool over = OverPhase(ed, X, Y, ed.PhaseOverLink);
+        panel(ed, 5) = over ? "Link: " + std::to_string(ed.PhaseOverLink) : "";
+    }
+    redrawBoth(ed);
+}
+
+void picPhase_MouseUp(Editor& ed) { ed.PhaseDragging = false; }
+
+void picPhase_DblClick(Editor& ed) {
+    if (ed.SelectedAnimatorLink == none) return;
+    if (linkExists(ed, ed.SelectedAnimatorLink)) linkAt(ed, ed.SelectedAnimatorLink).Animator = false;
+    ed.SelectedAnimatorLink = none;
+    ed.PhaseDragging = false;
+    redrawBoth(ed);
+    panel(ed, 5).clear();
+}
+
+}  // namespace zentrik

@@ -1,0 +1,15 @@
+#pragma once
+// Giving nodes their sprites.
+
+#include "ui/commands.h"
+
+namespace zentrik {
+
+// An entry of the sprite list was chosen: it becomes the selected node's sprite.
+void lstSprites_Click(Editor& ed, std::int32_t entry);
+// A picture of the sprite browser was clicked; Index is its entry in the list.
+void imgSprite_Click(Editor& ed, std::int32_t Index);
+// Gives every node slot a random sprite.
+void mnuRandomNodes_Click(Editor& ed, Host& host);
+
+}  // namespace zentrik
