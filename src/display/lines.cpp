@@ -64,7 +64,7 @@ private:
         if (lines_.isEmpty()) return;
         const int width = canvas_.lineWidth(width_);
         QPen pen(colorOf(color_), width);
-        pen.setCapStyle(width_ > 1 ? Qt::RoundCap : Qt::FlatCap);
+        pen.setCapStyle(width_ > 1 ? Qt::SquareCap : Qt::FlatCap);
         canvas_.painter.setPen(pen);
         canvas_.painter.setRenderHint(QPainter::Antialiasing, width == 1 || smoothWide_);
         canvas_.painter.drawLines(lines_);

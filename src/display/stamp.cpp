@@ -71,10 +71,13 @@ void Stamp::colour(std::int32_t fill, std::int32_t outline) {
     const auto* from = reinterpret_cast<const QRgb*>(weights_.constBits());
     auto* to = reinterpret_cast<QRgb*>(coloured_.bits());
     std::transform(from, from + weights_.width() * weights_.height(), to, [&](QRgb weight) {
-        const int fillPart = qRed(weight), rimPart = qGreen(weight);
-        const auto mix = [&](int a, int b) { return (a * fillPart + b * rimPart + 127) / 255; };
+        const int fillPart = qRed(weight), rimPart = qGreen(weight), coverage = qAlpha(weight);
+        // Rounding must not lift a premultiplied part above the coverage: blending would overflow.
+        const auto mix = [&](int a, int b) {
+            return std::min((a * fillPart + b * rimPart + 127) / 255, coverage);
+        };
         return qRgba(mix(qRed(in), qRed(rim)), mix(qGreen(in), qGreen(rim)), mix(qBlue(in), qBlue(rim)),
-                     qAlpha(weight));
+                     coverage);
     });
 }
 
