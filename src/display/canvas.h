@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPointF>
 #include <QRect>
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 

@@ -67,7 +67,11 @@ private:
         pen.setCapStyle(width_ > 1 ? Qt::SquareCap : Qt::FlatCap);
         canvas_.painter.setPen(pen);
         canvas_.painter.setRenderHint(QPainter::Antialiasing, width == 1 || smoothWide_);
+        // An even width is sharp around a border between pixels, an odd one around a pixel's middle.
+        const double shift = (width - canvas_.thinWidth) % 2 == 0 ? 0 : -0.5;
+        canvas_.painter.translate(shift, shift);
         canvas_.painter.drawLines(lines_);
+        canvas_.painter.translate(-shift, -shift);
         canvas_.painter.setRenderHint(QPainter::Antialiasing, false);
         lines_.clear();
     }
