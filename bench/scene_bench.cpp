@@ -1,0 +1,113 @@
+// A redraw at 1920 x 1080 pixels, and what drawing every item by its own QPainter call would cost.
+
+#include "display/scene.h"
+#include "model/store.h"
+#include "model/units.h"
+#include "scenes/scenes.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QImage>
+#include <QPainter>
+
+namespace {
+
+using namespace zentrik;
+
+QImage frame(int ratio) {
+    QImage image(1920 * ratio, 1080 * ratio, QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    return image;
+}
+
+void redraw(benchmark::State& state, const Editor& ed, const SpritePictures& sprites = {}, int ratio = 1) {
+    QImage image = frame(ratio);
+    for (auto _ : state) {
+        QPainter painter(&image);
+        drawScene(painter, ed, sprites);
+    }
+    state.counters["nodes"] = UsedNodes(ed);
+    state.counters["links"] = UsedLinks(ed);
+}
+
+// 10,000 nodes with two links each.
+Editor sparseLattice() {
+    Editor ed = scenes::latticeOf(10000);
+    for (std::size_t j = 1; j < ed.Links.size(); ++j) ed.Links[j].Used = j % 4 < 2;
+    return ed;
+}
+
+void scene(benchmark::State& state) { redraw(state, scenes::latticeOf(static_cast<int>(state.range(0)))); }
+BENCHMARK(scene)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+void sceneTwoLinksANode(benchmark::State& state) { redraw(state, sparseLattice()); }
+BENCHMARK(sceneTwoLinksANode)->Unit(benchmark::kMillisecond);
+
+void sceneDoublePixels(benchmark::State& state) {
+    redraw(state, scenes::latticeOf(static_cast<int>(state.range(0))), {}, 2);
+}
+BENCHMARK(sceneDoublePixels)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+void sceneRandomColours(benchmark::State& state) {
+    Editor ed = scenes::latticeOf(10000);
+    for (Node& node : ed.Nodes) node.color = GetRandomColor(ed.chance);
+    redraw(state, ed);
+}
+BENCHMARK(sceneRandomColours)->Unit(benchmark::kMillisecond);
+
+void sceneWithGrid(benchmark::State& state) {
+    Editor ed = scenes::latticeOf(1000);
+    ed.buttons.grid = true;
+    redraw(state, ed);
+}
+BENCHMARK(sceneWithGrid)->Unit(benchmark::kMillisecond);
+
+void sceneWithAllTexts(benchmark::State& state) {
+    Editor ed = scenes::latticeOf(static_cast<int>(state.range(0)));
+    ed.buttons.numbers = ed.buttons.data = ed.buttons.simple = true;
+    redraw(state, ed);
+}
+BENCHMARK(sceneWithAllTexts)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+// The baseline: one drawLine and one drawEllipse an item, in the same quality.
+void itemByItem(benchmark::State& state) {
+    const Editor ed = scenes::latticeOf(static_cast<int>(state.range(0)));
+    QImage image = frame(1);
+    const auto place = [](const Node& node) {
+        return QPointF(node.X, node.Y) / twipsPerPixel + QPointF(0.5, 0.5);
+    };
+    for (auto _ : state) {
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillRect(image.rect(), Qt::white);
+        forEachLink(ed, [&](std::int32_t, const Link& link) {
+            painter.drawLine(place(nodeAt(ed, link.N1)), place(nodeAt(ed, link.N2)));
+        });
+        painter.setBrush(Qt::black);
+        forEachNode(ed, [&](std::int32_t, const Node& node) { painter.drawEllipse(place(node), 4, 4); });
+    }
+}
+BENCHMARK(itemByItem)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+void tenThousandSprites(benchmark::State& state) {
+    const int side = static_cast<int>(state.range(0));
+    QImage ball(side, side, QImage::Format_ARGB32_Premultiplied);
+    ball.fill(Qt::transparent);
+    QPainter painter(&ball);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::darkCyan);
+    painter.drawEllipse(ball.rect().adjusted(1, 1, -1, -1));
+    painter.end();
+
+    Editor ed = scenes::latticeOf(10000);
+    ed.buttons.sprite = ed.marks.mnuAllowSprites = true;
+    ed.buttons.line = ed.buttons.ball = false;
+    for (Node& node : ed.Nodes) node.SpriteIndex = 1;
+    SpritePictures sprites;
+    sprites.names.push_back("ball.png");
+    sprites.pictures.push_back(ball);
+    redraw(state, ed, sprites);
+}
+BENCHMARK(tenThousandSprites)->Arg(16)->Arg(32)->Arg(48)->Unit(benchmark::kMillisecond);
+
+}  // namespace

@@ -1,0 +1,140 @@
+#include "display/lettering.h"
+
+#include "model/units.h"
+
+#include <QFontMetricsF>
+#include <QPainterPath>
+#include <QPen>
+
+namespace zentrik {
+
+namespace {
+
+double luminance(std::int32_t color) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    const QColor c = colorOf(color);
+    return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
+}
+
+double contrast(std::int32_t a, std::int32_t b) {
+    const double la = luminance(a) + 0.05, lb = luminance(b) + 0.05;
+    return std::max(la / lb, lb / la);
+}
+
+std::int32_t mixed(std::int32_t from, std::int32_t to, int eighths) {
+    std::int32_t color = 0;
+    for (int shift = 0; shift < 24; shift += 8) {
+        const int a = (from >> shift) & 0xFF, b = (to >> shift) & 0xFF;
+        color |= (a + (b - a) * eighths / 8) << shift;
+    }
+    return color;
+}
+
+constexpr double haloReach = 0.14;  // of the font's size
+
+void strokeHalo(QPainter& painter, QPointF baseline, const QFont& font, const QString& text, QColor paper) {
+    QPainterPath outline;
+    outline.addText(baseline, font, text);
+    paper.setAlpha(220);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(
+        outline, QPen(paper, 2 * haloReach * font.pixelSize(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+}  // namespace
+
+QFont sceneFont(double ratio, double size, bool bold) {
+    QFont font;
+    font.setFamilies({"Arial", "Liberation Sans", "Nimbus Sans", "DejaVu Sans"});
+    font.setStyleHint(QFont::SansSerif);
+    font.setHintingPreference(QFont::PreferFullHinting);  // whole-pixel advances: even spacing
+    font.setPixelSize(static_cast<int>(std::lround(size * 96 / 72 * ratio)));
+    font.setBold(bold);
+    // The columns of the tables are narrow: a wide face would run them into each other.
+    if (QFontMetricsF(font).horizontalAdvance('0') > 0.6 * font.pixelSize())
+        font.setStretch(QFont::SemiCondensed);
+    return font;
+}
+
+double sceneLineHeight() { return std::ceil(QFontMetricsF(sceneFont(1)).height()) * twipsPerPixel; }
+
+std::int32_t legibleInk(std::int32_t ink, std::int32_t paper) {
+    constexpr double sufficient = 3.9, good = 7;
+    if (contrast(ink, paper) >= sufficient) return ink;
+    const std::int32_t end = contrast(black, paper) > contrast(white, paper) ? black : white;
+    for (int eighths = 1; eighths < 8; ++eighths)
+        if (const std::int32_t mixture = mixed(ink, end, eighths); contrast(mixture, paper) >= good)
+            return mixture;
+    return end;
+}
+
+void drawHaloText(QPainter& painter, QPointF baseline, const QFont& font, const QString& text, QColor ink,
+                  QColor paper) {
+    strokeHalo(painter, baseline, font, text, paper);
+    painter.setFont(font);
+    painter.setPen(ink);
+    painter.drawText(baseline, text);
+}
+
+Lettering::Lettering(const QFont& font, std::int32_t ink, std::int32_t paper)
+    : font_(font),
+      ink_(colorOf(legibleInk(ink, paper))),
+      paper_(colorOf(paper)),
+      ascent_(std::ceil(QFontMetricsF(font).ascent())) {}
+
+const Lettering::Letter& Lettering::letter(char c) {
+    if (c < ' ' || c > '~') c = ' ';
+    Letter& made = letters_[static_cast<std::size_t>(c)];
+    if (made.made) return made;
+    const QFontMetricsF metrics(font_);
+    const QString text{QChar::fromLatin1(c)};
+    made.made = true;
+    made.advance = metrics.horizontalAdvance(text);
+    if (c == ' ') return made;
+
+    const QPointF baseline(0, ascent_);
+    const auto picture = [&](double margin, auto draw) {
+        const QRect box = metrics.boundingRect(text)
+                              .translated(baseline)
+                              .adjusted(-margin, -margin, margin, margin)
+                              .toAlignedRect();
+        Picture result{box.topLeft(), QImage(box.size(), QImage::Format_ARGB32_Premultiplied)};
+        result.image.fill(Qt::transparent);
+        QPainter painter(&result.image);
+        painter.translate(-box.topLeft());
+        draw(painter);
+        return result;
+    };
+    made.halo = picture(haloReach * font_.pixelSize() + 1,
+                        [&](QPainter& painter) { strokeHalo(painter, baseline, font_, text, paper_); });
+    made.ink = picture(1, [&](QPainter& painter) {
+        painter.setFont(font_);
+        painter.setPen(ink_);
+        painter.drawText(baseline, text);
+    });
+    return made;
+}
+
+// All halos first, so that none covers its neighbour's ink.
+void Lettering::print(QPainter& painter, QPointF topLeft, std::string_view text) {
+    for (const auto part : {&Letter::halo, &Letter::ink}) {
+        QPointF corner = topLeft;
+        for (const char c : text) {
+            const Letter& made = letter(c);
+            const Picture& picture = made.*part;
+            if (!picture.image.isNull()) painter.drawImage(corner.toPoint() + picture.offset, picture.image);
+            corner.rx() += made.advance;
+        }
+    }
+}
+
+double Lettering::width(std::string_view text) {
+    double sum = 0;
+    for (const char c : text) sum += letter(c).advance;
+    return sum;
+}
+
+}  // namespace zentrik

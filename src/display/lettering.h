@@ -1,0 +1,57 @@
+#pragma once
+// Text over a busy picture: letters legible on any background, and cheap enough for a number beside
+// each of ten thousand nodes.
+
+#include "display/canvas.h"
+
+#include <QFont>
+#include <QImage>
+#include <QPoint>
+#include <QString>
+#include <array>
+#include <string_view>
+
+namespace zentrik {
+
+// The font of the scene and of the phase strip, in device pixels of the canvas; size in points.
+QFont sceneFont(double ratio, double size = 8.25, bool bold = false);
+// Height of a line of that font at size 8.25, twips; the same at every device pixel ratio.
+double sceneLineHeight();
+
+// The ink itself where it stands out from the paper, else the nearest mixture with black or white that
+// reads well. Contrast as in WCAG 2.1, from relative luminance; red on white, at 4.0, just stands out.
+std::int32_t legibleInk(std::int32_t ink, std::int32_t paper);
+
+// One line of any text with a halo of the paper's colour. Left end of the baseline in device pixels.
+void drawHaloText(QPainter& painter, QPointF baseline, const QFont& font, const QString& text, QColor ink,
+                  QColor paper);
+
+// Stamps texts letter by letter from pictures made once per letter. Characters outside printable ASCII
+// leave a gap as wide as a blank.
+class Lettering {
+public:
+    Lettering(const QFont& font, std::int32_t ink, std::int32_t paper);
+
+    // Top-left corner in device pixels.
+    void print(QPainter& painter, QPointF topLeft, std::string_view text);
+    double width(std::string_view text);
+
+private:
+    struct Picture {
+        QPoint offset;  // from the letter's top-left corner
+        QImage image;
+    };
+    struct Letter {
+        bool made = false;
+        double advance = 0;
+        Picture halo, ink;
+    };
+    const Letter& letter(char c);
+
+    QFont font_;
+    QColor ink_, paper_;
+    double ascent_;
+    std::array<Letter, 127> letters_;
+};
+
+}  // namespace zentrik

@@ -1,0 +1,57 @@
+#include "display/scene.h"
+
+#include "display/lettering.h"
+#include "display/lines.h"
+#include "display/nodes.h"
+#include "display/overlays.h"
+
+#include <QFontMetricsF>
+#include <map>
+
+namespace zentrik {
+
+namespace {
+
+void drawPage(const Canvas& canvas, const TextPage& page, std::int32_t paper) {
+    const QFont font = sceneFont(canvas.ratio);
+    std::map<std::int32_t, Lettering> letterings;  // by colour
+    for (const TextRun& run : page.runs)
+        letterings.try_emplace(run.color, font, run.color, paper)
+            .first->second.print(canvas.painter, {canvas.pixels(run.x), canvas.pixels(run.y)}, run.text);
+}
+
+void drawTitle(const Canvas& canvas, const Editor& ed, std::int32_t ink) {
+    constexpr qsizetype longest = 1000;  // letters; far more than a scene is wide
+    const QString title = QString::fromStdString(ed.ProjectTitle).left(longest);
+    const QFont font = sceneFont(canvas.ratio, 16, true);
+    const QFontMetricsF metrics(font);
+    const QPointF baseline(std::round((canvas.pixels(ed.sceneWidth) - metrics.horizontalAdvance(title)) / 2),
+                           std::round(canvas.pixels(250) + metrics.ascent()));
+    drawHaloText(canvas.painter, baseline, font, title, colorOf(legibleInk(ink, ed.BackColor)),
+                 colorOf(ed.BackColor));
+}
+
+}  // namespace
+
+void drawScene(QPainter& painter, const Editor& ed, const SpritePictures& sprites) {
+    const Canvas canvas(painter, ed.sceneWidth, ed.sceneHeight);
+    painter.fillRect(canvas.frame, colorOf(ed.BackColor));
+    if (ed.sceneBlank) return;
+
+    const bool running = ed.Timer1.enabled;
+    if (!running || ed.marks.mnuAllowGrid) DisplayGrid(canvas, ed);
+    if (ed.buttons.line) drawLinks(canvas, ed);
+    if (ed.buttons.activeline) drawAnimatedLinks(canvas, ed);
+    if (ed.buttons.ball) drawNodes(canvas, ed);
+    drawMarks(canvas, ed);
+    drawRubberBand(canvas, ed);
+
+    const double lineHeight = sceneLineHeight();
+    const TextPage overlays = overlayPage(ed, lineHeight);
+    drawPage(canvas, overlays, ed.BackColor);
+    if (ed.marks.mnuDisplayTitle) drawTitle(canvas, ed, overlays.color);
+    if (ed.buttons.sprite && (running || ed.marks.mnuAllowSprites)) ShowImages(canvas, ed, sprites);
+    if (ed.instructionsShown) drawPage(canvas, instructionsPage(ed, lineHeight), ed.BackColor);
+}
+
+}  // namespace zentrik

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace zentrik {
+
+// Model and layout are in twips, 1440 to the inch; a device-independent pixel is 1/96 inch.
+inline constexpr int twipsPerPixel = 15;
+
+}  // namespace zentrik

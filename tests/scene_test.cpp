@@ -1,0 +1,363 @@
+// Painting probed by colour at known points: every layer, each switch on and off.
+
+#include "display/scene.h"
+
+#include "display/path.h"
+#include "display/phase_strip.h"
+#include "display/stamp.h"
+#include "model/redraw.h"
+#include "model/store.h"
+#include "model/units.h"
+#include "scenes/scenes.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <limits>
+
+namespace zentrik {
+namespace {
+
+constexpr std::int32_t paper = 0xF0F8FF, ink = 0x00A000, fill = 0x40C0E0;
+
+QImage blankImage(std::int32_t width, std::int32_t height, double ratio) {
+    QImage image(QSize(width, height) / twipsPerPixel * ratio, QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::magenta);
+    return image;
+}
+
+QImage painted(const Editor& ed, double ratio = 1) {
+    QImage image = blankImage(ed.sceneWidth, ed.sceneHeight, ratio);
+    QPainter painter(&image);
+    drawScene(painter, ed, {});
+    return image;
+}
+
+// Colour at a place in twips.
+std::int32_t at(const QImage& image, double x, double y) {
+    const double unit = image.devicePixelRatio() / twipsPerPixel;
+    const QColor c = image.pixelColor(static_cast<int>(x * unit), static_cast<int>(y * unit));
+    return c.red() + 256 * c.green() + 65536 * c.blue();
+}
+
+// Nodes 1 (1500, 1500) and 2 (4500, 1500), joined by link 1; a scene of 400 x 300 pixels.
+Editor pair() {
+    Editor ed;
+    ed.sceneWidth = 6000;
+    ed.sceneHeight = 4500;
+    ed.BackColor = paper;
+    ed.LinkColor = ink;
+    ed.NodeColor = fill;
+    ed.NodeRadius = 150;
+    ed.GridSize = 300;
+    scenes::addNode(ed, 1500, 1500);
+    scenes::addNode(ed, 4500, 1500);
+    scenes::addLink(ed, 1, 2);
+    return ed;
+}
+
+struct Probe {
+    const char* what;
+    std::function<void(Editor&)> change;
+    double x, y;
+    std::int32_t expected;
+};
+
+TEST(Scene, EveryLayerShowsWhereItsSwitchesSay) {
+    const auto nothing = [](Editor&) {};
+    const Probe probes[] = {
+        {"background", nothing, 3000, 3000, paper},
+        {"background to the last corner", nothing, 5999, 4499, paper},
+        {"node", nothing, 1500, 1500, fill},
+        {"circle: no corner", nothing, 1635, 1635, paper},
+        {"outline",
+         [](Editor& ed) {
+             ed.Nodes[1].Locked = true;
+             ed.Nodes[1].Res1 = none;
+         },
+         1650, 1500, black},
+        {"no balls", [](Editor& ed) { ed.buttons.ball = false; }, 1500, 1515, paper},
+        {"link", nothing, 2500, 1500, ink},
+        {"no lines", [](Editor& ed) { ed.buttons.line = false; }, 2500, 1500, paper},
+        {"unused link", [](Editor& ed) { ed.Links[1].Used = false; }, 2500, 1500, paper},
+        {"link to nowhere", [](Editor& ed) { ed.Links[1].N2 = 77; }, 2500, 1500, paper},
+        {"barrier", [](Editor& ed) { ed.Links[1].Barrier = true; }, 2500, 1485, red},
+        {"link is thin", nothing, 2500, 1485, paper},
+        {"selected link", [](Editor& ed) { ed.SelectedLink = 1; }, 2500, 1500, blue},
+        {"selected barrier is thin",
+         [](Editor& ed) {
+             ed.SelectedLink = 1;
+             ed.Links[1].Barrier = true;
+         },
+         2500, 1485, paper},
+        {"animated link, not highlighted", [](Editor& ed) { ed.Links[1].Animator = true; }, 2500, 1500, ink},
+        {"animated link without lines",
+         [](Editor& ed) {
+             ed.Links[1].Animator = ed.buttons.activeline = true;
+             ed.buttons.line = false;
+         },
+         2500, 1500, blue},
+        {"highlight of plain link", [](Editor& ed) { ed.buttons.activeline = true; }, 2500, 1500, ink},
+        {"locked: square",
+         [](Editor& ed) {
+             ed.Nodes[1].Locked = true;
+             ed.Nodes[1].Res1 = none;
+         },
+         1620, 1620, fill},
+        {"shooter: large square",
+         [](Editor& ed) {
+             ed.Nodes[1].Locked = true;
+             ed.Nodes[1].Res1 = 0;
+         },
+         1700, 1700, fill},
+        {"shooter without trigger: no barrel",
+         [](Editor& ed) {
+             ed.Nodes[1].Locked = true;
+             ed.Nodes[1].Res1 = 0;
+         },
+         1215, 1500, paper},
+        {"barrel, away from the trigger",
+         [](Editor& ed) {
+             ed.Nodes[1].Locked = true;
+             ed.Nodes[1].Res1 = 2;
+         },
+         1215, 1500, green},
+        {"trigger that does not exist",
+         [](Editor& ed) {
+             ed.Nodes[1].Locked = true;
+             ed.Nodes[1].Res1 = 99;
+         },
+         1215, 1500, paper},
+        {"unlocked shooter is a circle", [](Editor& ed) { ed.Nodes[1].Res1 = 2; }, 1635, 1635, paper},
+        {"gravity dot", [](Editor& ed) { ed.Nodes[1].Gravity = -1; }, 1500, 1500, yellow},
+        {"gravity dot is half as wide", [](Editor& ed) { ed.Nodes[1].Gravity = 1; }, 1500, 1600, fill},
+        {"selected node, balls off",
+         [](Editor& ed) {
+             ed.SelectedNode = 1;
+             ed.buttons.ball = false;
+         },
+         1500, 1600, red},
+        {"selected locked node",
+         [](Editor& ed) {
+             ed.SelectedNode = 1;
+             ed.Nodes[1].Locked = true;
+         },
+         1620, 1620, red},
+        {"selected node keeps its gravity dot",
+         [](Editor& ed) {
+             ed.SelectedNode = 1;
+             ed.Nodes[1].Gravity = 1;
+         },
+         1500, 1500, yellow},
+        {"hover covers selection", [](Editor& ed) { ed.SelectedNode = ed.HoverNode = 1; }, 1500, 1500, white},
+        {"selected link's dot, lines off",
+         [](Editor& ed) {
+             ed.SelectedLink = 1;
+             ed.buttons.line = false;
+         },
+         3000, 1600, blue},
+        {"hover link's dot", [](Editor& ed) { ed.HoverLink = 1; }, 3000, 1600, white},
+        {"stale selections",
+         [](Editor& ed) { ed.SelectedNode = ed.HoverNode = ed.SelectedLink = ed.HoverLink = 1000; }, 3000,
+         1600, paper},
+        {"rubber band",
+         [](Editor& ed) {
+             ed.SelectedNode = 1;
+             ed.rubberBand = PointF{1500, 4000};
+         },
+         1500, 3000, ink},
+        {"grid dot", [](Editor& ed) { ed.buttons.grid = true; }, 300, 300, gridGrey},
+        {"no grid dot at the edge", [](Editor& ed) { ed.buttons.grid = true; }, 0, 300, paper},
+        {"grid off", nothing, 300, 300, paper},
+        {"grid while running", [](Editor& ed) { ed.buttons.grid = ed.Timer1.enabled = true; }, 300, 300,
+         paper},
+        {"grid allowed while running",
+         [](Editor& ed) { ed.buttons.grid = ed.Timer1.enabled = ed.marks.mnuAllowGrid = true; }, 300, 300,
+         gridGrey},
+        {"blank scene", [](Editor& ed) { ed.sceneBlank = true; }, 1500, 1500, paper},
+    };
+    for (const Probe& probe : probes)
+        for (const double ratio : {1.0, 2.0}) {
+            Editor ed = pair();
+            probe.change(ed);
+            EXPECT_EQ(at(painted(ed, ratio), probe.x, probe.y), probe.expected)
+                << probe.what << " at ratio " << ratio;
+        }
+}
+
+TEST(Scene, LaterLinksAndNodesLieOnTop) {
+    Editor ed = pair();
+    scenes::addNode(ed, 4500, 1500);
+    ed.Nodes[3].color = 0x123456;
+    ed.Links[1].Barrier = true;
+    scenes::addLink(ed, 2, 1);
+    const QImage image = painted(ed);
+    EXPECT_EQ(at(image, 4500, 1500), 0x123456);
+    EXPECT_EQ(at(image, 2500, 1500), ink);
+    EXPECT_EQ(at(image, 2500, 1485), red);
+}
+
+// The picture's pixels of one colour; texts are told from their background this way.
+int count(const QImage& image, const QRect& area, std::int32_t color) {
+    int found = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            found +=
+                image.pixelColor(x, y) == QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
+    return found;
+}
+
+TEST(Scene, TextsAppearWithTheirSwitchesAndStandOutFromTheBackground) {
+    Editor ed;
+    ed.sceneWidth = 9000;
+    ed.sceneHeight = 4500;
+    ed.ProjectTitle = "Title";
+    const QRect title(200, 17, 200, 25), simple(7, 0, 400, 16), instructions(30, 80, 500, 150);
+    const auto inked = [&](const QRect& area) {
+        return area.width() * area.height() - count(painted(ed), area, ed.BackColor);
+    };
+    EXPECT_EQ(inked(title) + inked(simple) + inked(instructions), 0);
+    ed.marks.mnuDisplayTitle = true;
+    EXPECT_GT(inked(title), 100);
+    EXPECT_EQ(inked(title.translated(-200, 0)), 0) << "the title is centred";
+    ed.buttons.simple = true;
+    EXPECT_GT(inked(simple), 50);
+    ed.instructionsShown = true;
+    EXPECT_GT(inked(instructions), 1000);
+
+    for (const std::int32_t back : {0x000000, 0x202020, 0x808080, 0x0000FF, 0xFFFFFF}) {
+        ed.BackColor = back;
+        int apart = 0;  // furthest brightness from the background's
+        const QImage image = painted(ed);
+        for (int y = title.top(); y < title.bottom(); ++y)
+            for (int x = title.left(); x < title.right(); ++x)
+                apart = std::max(apart, std::abs(qGray(image.pixel(x, y)) - qGray(image.pixel(0, 299))));
+        EXPECT_GT(apart, 70) << "background " << back;
+    }
+}
+
+// Both blend the same weights; only the rounding of two blendings against one may differ.
+TEST(Stamps, LookLikeShapesDrawnOneByOne) {
+    for (const double ratio : {1.0, 1.25, 2.0})
+        for (const Shape shape : {Shape::circle, Shape::square})
+            for (const double radius : {0.0, 15.0, 60.0, 90.0, 455.0}) {
+                QImage stamped = blankImage(1500, 1500, ratio), drawn = stamped;
+                QPainter onStamped(&stamped), onDrawn(&drawn);
+                {
+                    const Canvas a(onStamped, 1500, 1500), b(onDrawn, 1500, 1500);
+                    Stamp stamp(a, shape, radius);
+                    stamp.paint(100, 100, blue, white);
+                    stamp.paint(703, 691, fill, black);
+                    drawShape(onDrawn, shape, b.place(100, 100), b.pixels(radius), b.thinWidth, Qt::blue,
+                              Qt::white);
+                    drawShape(onDrawn, shape, b.place(703, 691), b.pixels(radius), b.thinWidth, colorOf(fill),
+                              Qt::black);
+                }
+                int worst = 0;
+                for (int y = 0; y < drawn.height(); ++y)
+                    for (int x = 0; x < drawn.width(); ++x) {
+                        const QColor p = stamped.pixelColor(x, y), q = drawn.pixelColor(x, y);
+                        worst = std::max({worst, std::abs(p.red() - q.red()), std::abs(p.green() - q.green()),
+                                          std::abs(p.blue() - q.blue())});
+                    }
+                EXPECT_LE(worst, 2) << "shape " << static_cast<int>(shape) << "ratio " << ratio << " radius "
+                                    << radius;
+            }
+}
+
+TEST(Scene, PlacesAndSizesOfAnyMagnitudeArePaintable) {
+    constexpr auto least = std::numeric_limits<std::int32_t>::min();
+    constexpr auto most = std::numeric_limits<std::int32_t>::max();
+    Editor ed = pair();
+    ed.buttons.grid = ed.buttons.numbers = ed.buttons.activeline = true;
+    const std::int32_t corners[] = {least, -15000, 0, 3000, most};
+    for (const std::int32_t x : corners)
+        for (const std::int32_t y : corners) {
+            const std::int32_t i = scenes::addNode(ed, x, y);
+            ed.Nodes.back().Locked = i % 2 == 0;
+            ed.Nodes.back().Res1 = i % 4 == 0 ? i - 1 : none;
+            ed.Nodes.back().Gravity = 1;
+            scenes::addLink(ed, i - 1, i);
+            ed.Links.back().Barrier = i % 3 == 0;
+            ed.Links.back().Animator = i % 5 == 0;
+        }
+    for (const std::int32_t radius : {least, 0, 400, most})
+        for (const float grid : {-1e38F, 0.0F, 1.0F, 1e38F}) {
+            ed.NodeRadius = radius;
+            ed.GridSize = grid;
+            ed.GridRadius = grid;
+            painted(ed);
+        }
+    ed.NodeRadius = 60;
+    ed.BackColor = ed.LinkColor = most;
+    EXPECT_EQ(at(painted(ed), 2000, 4000), white) << "colours beyond 24 bits keep their low bits";
+    ed.sceneWidth = ed.sceneHeight = 0;
+    QImage image(10, 10, QImage::Format_RGB32);
+    QPainter painter(&image);
+    drawScene(painter, ed, {});
+}
+
+// A line whose ends lie far outside runs through the same pixels as its visible part.
+TEST(Scene, LinesFromFarOutsideKeepTheirCourse) {
+    Editor ed = pair();
+    ed.Nodes[1].X = ed.Nodes[1].Y = -1500000000;
+    ed.Nodes[2].X = ed.Nodes[2].Y = 1500000000;
+    EXPECT_EQ(at(painted(ed), 3000, 3000), ink);
+    EXPECT_EQ(at(painted(ed), 3000, 3030), paper);
+}
+
+TEST(PhaseStrip, ShowsAxisDiscsMarksAndCurve) {
+    Editor ed = pair();
+    for (int k = 0; k < 3; ++k) scenes::addLink(ed, 1, 2);
+    for (std::size_t j = 2; j <= 4; ++j) {
+        ed.Links[j].Animator = true;
+        ed.Links[j].Angle = 90;
+    }
+    ed.phaseWidth = 12000;
+    ed.marks.mnuDisplayAngleManager = true;
+    DrawPhaseManager(ed, 0);
+    ed.SelectedAnimatorLink = 3;
+    ed.PhaseOverLink = 4;
+    for (const double ratio : {1.0, 2.0}) {
+        QImage image = blankImage(ed.phaseWidth, ed.phaseHeight, ratio);
+        QPainter painter(&image);
+        drawPhaseStrip(painter, ed);
+        const std::int32_t ground = at(image, 600, 600);
+        EXPECT_EQ(at(image, 3600, 300), fill);
+        EXPECT_EQ(at(image, 3600, 500), blue);
+        EXPECT_EQ(at(image, 3600, 700), white);
+        EXPECT_NE(at(image, 1200, 1400), ground) << "0 degrees";
+        EXPECT_NE(at(image, 1185, 1400), ground) << "thick";
+        EXPECT_NE(at(image, 10800, 10), ground) << "360 degrees";
+        EXPECT_NE(at(image, 4800, 1400), ground) << "135 degrees";
+        EXPECT_EQ(at(image, 4815, 1400), ground) << "thin";
+        EXPECT_EQ(at(image, 5400, 600), ground);
+        // d = 270 degrees lies at the lowest point of the curve: x = 0.8 * 12000 / 4 + 1200.
+        const std::int32_t low = at(image, 3600, 1440);
+        EXPECT_TRUE((low & 0xFF) > 0xE0 && ((low >> 8) & 0xFF) < 0xA0) << "reddish: " << low;
+    }
+    ed.SelectedAnimatorLink = ed.PhaseOverLink = 99;  // outlived by their links
+    ed.phaseWidth = ed.phaseHeight = 0;
+    QImage image(10, 10, QImage::Format_RGB32);
+    QPainter painter(&image);
+    drawPhaseStrip(painter, ed);
+}
+
+TEST(Path, AddsOnlyTheNewDots) {
+    const std::vector<PathDot> dots{
+        {150, 150, red}, {300, 300, green}, {450, 450, blue}, {-99, 1 << 30, red}};
+    for (const double ratio : {1.0, 2.0}) {
+        QImage image = blankImage(600, 600, ratio);
+        QPainter painter(&image);
+        drawPath(painter, dots, 1);
+        EXPECT_EQ(at(image, 150, 150), 0xFF00FF) << "drawn before";
+        EXPECT_EQ(at(image, 300, 300), green);
+        EXPECT_EQ(at(image, 314, 314), green) << "a whole pixel at any ratio";
+        EXPECT_EQ(at(image, 315, 315), 0xFF00FF);
+        EXPECT_EQ(at(image, 450, 450), blue);
+    }
+}
+
+}  // namespace
+}  // namespace zentrik

@@ -1,0 +1,115 @@
+#include "display/sprites.h"
+
+#include "display/scene.h"
+#include "scenes/scenes.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace zentrik {
+namespace {
+
+class Sprites : public testing::Test {
+protected:
+    QTemporaryDir folder;
+
+    void write(const char* name, const QByteArray& bytes) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    void writePicture(const char* name, int width, int height, QColor color) {
+        QImage image(width, height, QImage::Format_RGB32);
+        image.fill(color);
+        ASSERT_TRUE(image.save(folder.filePath(name)));
+    }
+    SpritePictures load(double ratio = 1) { return loadSprites(folder.path().toStdString(), ratio); }
+};
+
+constexpr const char* greenSquare =
+    "<svg xmlns='http://www.w3.org/2000/svg' width='20' height='10'>"
+    "<rect width='20' height='10' fill='#00ff00'/></svg>";
+
+TEST_F(Sprites, UnreadableFilesAreSkippedAndNamesKeepStep) {
+    writePicture("b.png", 4, 6, Qt::red);
+    writePicture("d.bmp", 8, 8, Qt::blue);
+    writePicture("e.jpg", 5, 5, Qt::white);
+    writePicture("g-wide.png", 5000, 1, Qt::white);
+    write("a.txt", "no picture");
+    write("c.png", "no picture either");
+    write("empty.gif", "");
+    write("f.svg", greenSquare);
+    write("f-broken.svg", "<svg");
+    write("f-huge.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='1e9' height='1e9'/>");
+    write("f-nothing.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='0' height='0'/>");
+    write("one-pixel.gif", QByteArray::fromBase64("R0lGODlhAQABAIAAAP8AAP8AACwAAAAAAQABAAACAkQBADs="));
+    ASSERT_TRUE(QDir(folder.path()).mkdir("folder.png"));
+
+    const SpritePictures sprites = load();
+    EXPECT_EQ(sprites.names,
+              (std::vector<std::string>{"<none>", "b.png", "d.bmp", "e.jpg", "f.svg", "one-pixel.gif"}));
+    EXPECT_EQ(sprites.skipped, (std::vector<std::string>{"a.txt", "c.png", "empty.gif", "f-broken.svg",
+                                                         "f-huge.svg", "f-nothing.svg", "g-wide.png"}));
+    ASSERT_EQ(sprites.pictures.size(), sprites.names.size());
+    EXPECT_TRUE(sprites.pictures[0].isNull());
+    EXPECT_EQ(sprites.pictures[1].size(), QSize(4, 6));
+    EXPECT_EQ(sprites.pictures[4].pixelColor(10, 5), QColor(Qt::green));
+    EXPECT_EQ(loadSprites("no such folder", 1).names, std::vector<std::string>{"<none>"});
+}
+
+TEST_F(Sprites, StandCentredOnTheirNodesAtTheirOwnSize) {
+    write("a.svg", greenSquare);
+    writePicture("b.png", 30, 30, Qt::red);
+    Editor ed;
+    ed.sceneWidth = ed.sceneHeight = 3000;
+    ed.buttons.sprite = ed.marks.mnuAllowSprites = true;
+    ed.buttons.ball = false;
+    for (const std::int32_t x : {750, 1500, 2250}) scenes::addNode(ed, x, 1500);
+    ed.Nodes[1].SpriteIndex = 1;
+    ed.Nodes[2].SpriteIndex = 2;
+    ed.Nodes[3].SpriteIndex = 77;  // a list that has grown shorter
+    scenes::addNode(ed, -2000000000, 2000000000);
+    ed.Nodes[4].SpriteIndex = 1;
+    scenes::addNode(ed, 1500, 2500);
+    ed.Nodes[5].SpriteIndex = -1;
+
+    // Pictures loaded for another ratio keep their size, too.
+    for (const double ratio : {1.0, 2.0})
+        for (const double loadedFor : {1.0, 2.0}) {
+            QImage image(QSize(200, 200) * ratio, QImage::Format_RGB32);
+            image.setDevicePixelRatio(ratio);
+            const SpritePictures sprites = load(loadedFor);
+            const auto at = [&](double x, double y) {
+                return image.pixelColor(static_cast<int>(x * ratio), static_cast<int>(y * ratio));
+            };
+            const auto draw = [&] {
+                QPainter painter(&image);
+                drawScene(painter, ed, sprites);
+            };
+            draw();
+            EXPECT_EQ(at(50 - 9, 100 - 4), QColor(Qt::green));
+            EXPECT_EQ(at(50 + 8.5, 100 + 3.5), QColor(Qt::green));
+            EXPECT_EQ(at(50 - 12, 100), QColor(Qt::white));
+            EXPECT_EQ(at(50, 100 - 7), QColor(Qt::white));
+            EXPECT_EQ(at(100 + 13, 100 - 13), QColor(Qt::red));
+            EXPECT_EQ(at(150, 100), QColor(Qt::white));
+
+            ed.marks.mnuAllowSprites = false;
+            draw();
+            EXPECT_EQ(at(100, 100), QColor(Qt::white));
+            ed.Timer1.enabled = true;
+            draw();
+            EXPECT_EQ(at(100, 100), QColor(Qt::red));
+            ed.buttons.sprite = false;
+            draw();
+            EXPECT_EQ(at(100, 100), QColor(Qt::white));
+            ed.Timer1.enabled = false;
+            ed.buttons.sprite = ed.marks.mnuAllowSprites = true;
+        }
+}
+
+}  // namespace
+}  // namespace zentrik
