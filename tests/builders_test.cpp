@@ -119,8 +119,8 @@ TEST(Builders, Spokes) {
         Site site("4:1000");
         site.ed.DefaultLinkForce = 0.7F;
         Editor& ed = site.build(phased ? mnuCreateConnectedNodeRingWithSpokes_Click
-                                             : mnuCreateConnectedNodeRingWithSpokesNo_Click)
-                               .ed;
+                                       : mnuCreateConnectedNodeRingWithSpokesNo_Click)
+                         .ed;
         ASSERT_EQ(lastLink(ed), 8);
         EXPECT_EQ(linkAt(ed, 4).Force, 0.7F);
         for (std::int32_t m = 1; m <= 4; ++m) {

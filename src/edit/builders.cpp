@@ -107,6 +107,11 @@ void addLongSpokes(Editor& ed, const Ring& ring) {
     }
 }
 
+// What a link in a hand-made file may fail to do; it has no middle then.
+bool joinsUsedNodes(const Editor& ed, const Link& link) {
+    return endsExist(ed, link) && nodeAt(ed, link.N1).Used && nodeAt(ed, link.N2).Used;
+}
+
 using AddLinks = void (*)(Editor& ed, const Ring& ring);
 
 struct RingBuilder {
@@ -146,7 +151,7 @@ void mnuCreateConnectedNodeRingWithLongSpokes_Click(Editor& ed, Host& host) { bu
 
 void mnuCreateNodeAtMidpoint_Click(Editor& ed, Host& host) {
     Link* selected = usedSelectedLink(ed);
-    if (!selected || !endsExist(ed, *selected)) {  // a link without both ends has no middle
+    if (!selected || !joinsUsedNodes(ed, *selected)) {
         refuse(ed, host, "You must first select a link!");
         return;
     }
