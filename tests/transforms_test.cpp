@@ -72,6 +72,8 @@ TEST(Transforms, WorkedPlaces) {
         EXPECT_EQ(place(ed, 4), c.freeSlot);
         EXPECT_FLOAT_EQ(linkAt(ed, 1).RestLength, c.length);
         EXPECT_FLOAT_EQ(linkAt(ed, 1).CurrentLength, c.length);
+        const bool reshapes = c.length != 2000;
+        EXPECT_EQ(linkAt(ed, 2).RestLength, reshapes && !c.object ? 0 : 5);
         EXPECT_EQ(ed.SelectedNode, c.object ? 1 : none);
     }
 }
@@ -122,6 +124,14 @@ TEST(Transforms, AFullTurnComesBack) {
         EXPECT_NEAR(nodeAt(ed, i).X, nodeAt(barAndBall(), i).X, 60);
         EXPECT_NEAR(nodeAt(ed, i).Y, nodeAt(barAndBall(), i).Y, 60);
     }
+}
+
+TEST(Transforms, TurnsClockwiseByFiveDegrees) {
+    Editor ed;
+    addNode(ed, -1000000, 0);
+    addNode(ed, 1000000, 0);
+    RotateAnimation(ed);
+    EXPECT_EQ(place(ed, 2), std::pair(996195, 87155));
 }
 
 TEST(Transforms, ExtremePlacesSaturate) {

@@ -67,8 +67,6 @@ std::vector<Centre> centresFromTop(const Editor& ed) {
 std::vector<std::int32_t> nodesAtPoints(const Editor& ed, const std::vector<PointF>& points) {
     std::vector<std::int32_t> found(points.size(), none);
     const double half = ed.HitRadius;
-    if (half <= 0) return found;  // every box is empty
-
     const std::vector<Centre> centres = centresFromTop(ed);
     const auto fromLeft = sortedBy(centres.size(), [&](std::size_t i) { return centres[i].x; });
     MinimumTree taking(centres.size());
