@@ -1,5 +1,6 @@
 #include "edit/bulk.h"
 
+#include "model/numbers.h"
 #include "model/store.h"
 #include "rig.h"
 #include "scenes/scenes.h"
@@ -34,74 +35,82 @@ Editor twoPairs() {
     return ed;
 }
 
-// All that the commands may change, as text.
-std::string nodeFields(const Node& n) {
+// The fields that differ from the model as it was, in words.
+template <class Record>
+struct Changes {
+    const Record &was, &is;
     std::string text;
-    for (const float value : {n.Mass, n.Gravity, n.Rotate, n.Vx, n.Vy, n.Fx, n.Fy, n.Vxo, n.Vyo})
-        text += std::to_string(static_cast<int>(value)) + " ";
-    return text + (n.Locked ? "locked " : "loose ") + (n.Used ? "used " : "free ") + n.Sprite + " " +
-           std::to_string(n.SpriteIndex);
+
+    void note(const char* name, float Record::*field) {
+        if (was.*field != is.*field) text += std::string(name) + realText(is.*field) + " ";
+    }
+    void note(const char* name, bool Record::*field) {
+        if (was.*field != is.*field) text += std::string(is.*field ? "+" : "-") + name + " ";
+    }
+};
+
+std::string changed(const Node& is, const Node& was) {
+    Changes<Node> changes{was, is, ""};
+    changes.note("m", &Node::Mass);
+    changes.note("g", &Node::Gravity);
+    changes.note("r", &Node::Rotate);
+    changes.note("vx", &Node::Vx);
+    changes.note("vy", &Node::Vy);
+    changes.note("fx", &Node::Fx);
+    changes.note("fy", &Node::Fy);
+    changes.note("vxo", &Node::Vxo);
+    changes.note("vyo", &Node::Vyo);
+    changes.note("locked", &Node::Locked);
+    changes.note("used", &Node::Used);
+    if (was.Sprite != is.Sprite) changes.text += is.Sprite + std::to_string(is.SpriteIndex) + " ";
+    return changes.text;
 }
-std::string linkFields(const Link& l) {
-    return std::to_string(l.k).substr(0, 4) + " " + std::to_string(l.Force).substr(0, 4) + " " +
-           std::to_string(static_cast<int>(l.Angle)) + (l.Animator ? " animator" : "") +
-           (l.Barrier ? " barrier" : "") + (l.Used ? " used" : " free");
+std::string changed(const Link& is, const Link& was) {
+    Changes<Link> changes{was, is, ""};
+    changes.note("k", &Link::k);
+    changes.note("f", &Link::Force);
+    changes.note("a", &Link::Angle);
+    changes.note("animator", &Link::Animator);
+    changes.note("barrier", &Link::Barrier);
+    changes.note("used", &Link::Used);
+    return changes.text;
 }
+std::string node(const Editor& ed, std::int32_t i) { return changed(nodeAt(ed, i), nodeAt(twoPairs(), i)); }
+std::string link(const Editor& ed, std::int32_t j) { return changed(linkAt(ed, j), linkAt(twoPairs(), j)); }
 
 struct Row {
     Command command;
-    const char *node, *link;  // fields afterwards; null: unchanged
-    const char *objectMessage, *allMessage;
-    const char* objectNode = nullptr;  // where the object's nodes come out otherwise
+    std::string node, link;  // changes of a used, loose node and a used link
+    std::string message;     // after "Object " or "All "
+    std::string objectNode = node;
 };
 
+// clang-format off
 const Row rows[] = {
-    {mnuResetMass_Click, "1 9 9 9 9 9 9 9 9 loose used face.png 3", nullptr,
-     "Object nodes masses reset to 1!", "All node masses reset to 1!"},
-    {mnuResetGravity_Click, "9 1 9 9 9 9 9 9 9 loose used face.png 3", nullptr,
-     "Object node gravitational forces reset to 1!", "All node gravitational forces reset to 1!"},
-    {mnuResetRotationalForces_Click, "9 9 0 9 9 9 9 9 9 loose used face.png 3", nullptr,
-     "Object node rotational forces reset to 0!", "All node rotational forces reset to 0!"},
-    {mnuResetInitial_Click, "9 9 9 9 9 9 9 0 0 loose used face.png 3", nullptr,
-     "Object node initial velocities reset to 0!", "All node initial velocities reset to 0!"},
-    {mnuResetVelocity_Click, "9 9 9 0 0 0 0 9 9 loose used face.png 3", nullptr,
-     "Object node velocities reset to 0!", "All node velocities reset to 0!",
-     "9 9 9 0 0 9 9 9 9 loose used face.png 3"},
-    {mnuResetSprites_Click, "9 9 9 9 9 9 9 9 9 loose used <none> 0", nullptr,
-     "Object node sprites reset to <none>!", "All node sprites reset to <none>!"},
-    {mnuLockAll_Click, "9 9 9 9 9 9 9 9 9 locked used face.png 3", nullptr, "Object nodes locked!",
-     "All nodes locked!"},
-    {mnuClearAnimators_Click, nullptr, "9.00 9.00 9 barrier used", "Object link animators reset!",
-     "All link animators reset!"},
-    {mnuResetK_Click, nullptr, "5.00 9.00 9 animator barrier used", "Object link k's reset to 5 !",
-     "All link k's reset to 5 !"},
-    {mnuResetAngle_Click, nullptr, "9.00 9.00 0 animator barrier used", "Object link phase angles set to 0!",
-     "All link phase angles set to 0!"},
-    {mnuResetForce_Click, nullptr, "9.00 0.20 9 animator barrier used",
-     "Object link animator forces reset to 0.2 !", "All link animator forces reset to 0.2 !"},
-    {mnuResetBarriers_Click, nullptr, "9.00 9.00 9 animator used", "Object link barriers reset!",
-     "All link barriers reset!"},
-    {mnuSetLinkK_Click, nullptr, "7.10 9.00 9 animator barrier used", "Object link k's set to 7.1 !",
-     "All link k's set to 7.1 !"},
-    {mnuSetLinkF_Click, nullptr, "9.00 7.10 9 animator barrier used", "Object link f's set to 7.1 !",
-     "All link f's set to 7.1 !"},
-    {mnuDoubleK_Click, nullptr, "18.0 9.00 9 animator barrier used", "Object link k's doubled!",
-     "All link k's doubled!"},
-    {mnuHalfK_Click, nullptr, "4.50 9.00 9 animator barrier used", "Object link k's halved!",
-     "All link k's halved!"},
-    {mnuDoubleF_Click, nullptr, "9.00 18.0 9 animator barrier used", "Object link animator forces doubled!",
-     "All link animator forces doubled!"},
-    {mnuHalveF_Click, nullptr, "9.00 4.50 9 animator barrier used", "Object link animator forces halved!",
-     "All link animator forces halved!"},
-    {mnuRemoveNodes_Click, "9 9 9 9 9 9 9 9 9 loose free face.png 3", "9.00 9.00 9 animator barrier free",
-     "Object nodes removed!", "All nodes removed!"},
-    {mnuRemoveLinks_Click, nullptr, "9.00 9.00 9 animator barrier free", "Object links removed!",
-     "All links removed!"},
-    {mnuResetAllNodes_Click, "1 1 0 0 0 0 0 0 0 loose used <none> 0", nullptr,
-     "Object node properties reset!", "All node properties reset!", "1 1 0 0 0 9 9 0 0 loose used <none> 0"},
-    {mnuResetAllLinks_Click, nullptr, "5.00 0.20 0 used", "Object link properties reset!",
-     "All link properties reset!"},
+    {mnuResetGravity_Click, "g1 ", "", "node gravitational forces reset to 1!"},
+    {mnuResetRotationalForces_Click, "r0 ", "", "node rotational forces reset to 0!"},
+    {mnuResetInitial_Click, "vxo0 vyo0 ", "", "node initial velocities reset to 0!"},
+    {mnuResetVelocity_Click, "vx0 vy0 fx0 fy0 ", "", "node velocities reset to 0!", "vx0 vy0 "},
+    {mnuResetSprites_Click, "<none>0 ", "", "node sprites reset to <none>!"},
+    {mnuLockAll_Click, "+locked ", "", "nodes locked!"},
+    {mnuClearAnimators_Click, "", "-animator ", "link animators reset!"},
+    {mnuResetK_Click, "", "k5 ", "link k's reset to 5 !"},
+    {mnuResetAngle_Click, "", "a0 ", "link phase angles set to 0!"},
+    {mnuResetForce_Click, "", "f0.2 ", "link animator forces reset to 0.2 !"},
+    {mnuResetBarriers_Click, "", "-barrier ", "link barriers reset!"},
+    {mnuSetLinkK_Click, "", "k7.1 ", "link k's set to 7.1 !"},
+    {mnuSetLinkF_Click, "", "f7.1 ", "link f's set to 7.1 !"},
+    {mnuDoubleK_Click, "", "k18 ", "link k's doubled!"},
+    {mnuHalfK_Click, "", "k4.5 ", "link k's halved!"},
+    {mnuDoubleF_Click, "", "f18 ", "link animator forces doubled!"},
+    {mnuHalveF_Click, "", "f4.5 ", "link animator forces halved!"},
+    {mnuRemoveNodes_Click, "-used ", "-used ", "nodes removed!"},
+    {mnuRemoveLinks_Click, "", "-used ", "links removed!"},
+    {mnuResetAllNodes_Click, "m1 g1 r0 vx0 vy0 fx0 fy0 vxo0 vyo0 <none>0 ", "", "node properties reset!",
+     "m1 g1 r0 vx0 vy0 vxo0 vyo0 <none>0 "},
+    {mnuResetAllLinks_Click, "", "k5 f0.2 a0 -animator -barrier ", "link properties reset!"},
 };
+// clang-format on
 
 TEST(Bulk, WholeModelTakesEverySlot) {
     for (const Row& row : rows) {
@@ -109,14 +118,10 @@ TEST(Bulk, WholeModelTakesEverySlot) {
         ScriptedHost host;
         host.answers = {"7.1x"};
         row.command(ed, host);
-        SCOPED_TRACE(row.allMessage);
-        EXPECT_EQ(panel(ed, 5), row.allMessage);
-        for (const std::int32_t i : {1, 3})
-            EXPECT_EQ(nodeFields(nodeAt(ed, i)), row.node ? row.node : nodeFields(nodeAt(twoPairs(), i)));
-        for (const std::int32_t j : {1, 2})
-            EXPECT_EQ(linkFields(linkAt(ed, j)), row.link ? row.link : linkFields(linkAt(twoPairs(), j)));
-        EXPECT_EQ(nodeFields(nodeAt(ed, 5)) != nodeFields(nodeAt(twoPairs(), 5)),
-                  row.node && row.command != mnuRemoveNodes_Click);
+        EXPECT_EQ(panel(ed, 5), "All " + row.message);
+        for (const std::int32_t i : {1, 3}) EXPECT_EQ(node(ed, i), row.node) << row.message;
+        for (const std::int32_t j : {1, 2}) EXPECT_EQ(link(ed, j), row.link) << row.message;
+        EXPECT_EQ(node(ed, 5), row.command == mnuRemoveNodes_Click ? "" : row.node);
     }
 }
 
@@ -128,16 +133,11 @@ TEST(Bulk, ObjectScopeTakesTheSelectedObjectOnly) {
         ed.marks.mnuApplyChanges = true;
         ed.SelectedLink = 2;  // its first end, node 3, becomes selected
         row.command(ed, host);
-        SCOPED_TRACE(row.objectMessage);
-        EXPECT_EQ(panel(ed, 5), row.objectMessage);
+        EXPECT_EQ(panel(ed, 5), "Object " + row.message);
         EXPECT_EQ(ed.SelectedNode, row.command == mnuRemoveNodes_Click ? none : 3);
-        const char* node = row.objectNode ? row.objectNode : row.node;
-        EXPECT_EQ(nodeFields(nodeAt(ed, 3)), node ? node : nodeFields(nodeAt(twoPairs(), 3)));
-        EXPECT_EQ(linkFields(linkAt(ed, 2)), row.link ? row.link : linkFields(linkAt(twoPairs(), 2)));
-        for (const std::int32_t i : {1, 2, 5})
-            EXPECT_EQ(nodeFields(nodeAt(ed, i)), nodeFields(nodeAt(twoPairs(), i)));
-        for (const std::int32_t j : {1, 3})
-            EXPECT_EQ(linkFields(linkAt(ed, j)), linkFields(linkAt(twoPairs(), j)));
+        EXPECT_EQ(node(ed, 3), row.objectNode);
+        EXPECT_EQ(link(ed, 2), row.link);
+        EXPECT_EQ(node(ed, 1) + node(ed, 2) + node(ed, 5) + link(ed, 1) + link(ed, 3), "") << row.message;
     }
 }
 
@@ -151,14 +151,12 @@ TEST(Bulk, ObjectScopeWithoutSelectionRefuses) {
             ed.SelectedNode = ed.SelectedLink = stale;
             ed.sceneStale = false;
             row.command(ed, host);
-            SCOPED_TRACE(row.objectMessage);
             EXPECT_EQ(panel(ed, 5), "Select a node to execute this command!");
             EXPECT_EQ(host.beeps, row.command == mnuResetAllNodes_Click   ? 8
                                   : row.command == mnuResetAllLinks_Click ? 6
                                                                           : 1);
             EXPECT_TRUE(ed.sceneStale);
-            EXPECT_EQ(nodeFields(nodeAt(ed, 3)), nodeFields(nodeAt(twoPairs(), 3)));
-            EXPECT_EQ(linkFields(linkAt(ed, 2)), linkFields(linkAt(twoPairs(), 2)));
+            EXPECT_EQ(node(ed, 3) + link(ed, 2), "") << row.message;
         }
 }
 
@@ -174,20 +172,22 @@ TEST(Bulk, OnlyTheirOwnCommandsRedrawTheStrip) {
         return ed.phaseStale;
     };
     for (const Row& row : rows)
-        EXPECT_EQ(redraws(row.command), row.link && row.command != mnuDoubleF_Click) << row.allMessage;
+        EXPECT_EQ(redraws(row.command), row.link != "" && row.command != mnuDoubleF_Click) << row.message;
     EXPECT_TRUE(redraws(mnuRemoveFreeNodes_Click));
 }
 
-TEST(Bulk, UnlocksAsItLocks) {
+TEST(Bulk, UnlocksAndResetsMasses) {
     for (const bool object : {true, false}) {
         Editor ed = twoPairs();  // nodes 2 and 4 are locked
         ScriptedHost host;
         ed.marks.mnuApplyChanges = object;
         ed.SelectedNode = 4;
         mnuUnlockAll_Click(ed, host);
-        EXPECT_EQ(nodeAt(ed, 2).Locked, object);
-        EXPECT_FALSE(nodeAt(ed, 4).Locked);
         EXPECT_EQ(panel(ed, 5), object ? "Object nodes unlocked!" : "All nodes unlocked!");
+        mnuResetMass_Click(ed, host);
+        EXPECT_EQ(panel(ed, 5), object ? "Object nodes masses reset to 1!" : "All node masses reset to 1!");
+        EXPECT_EQ(node(ed, 4), "m1 -locked ");
+        EXPECT_EQ(node(ed, 2), object ? "" : "m1 -locked ");
     }
 }
 
