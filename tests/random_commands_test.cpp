@@ -44,9 +44,9 @@ void (*const transforms[])(Editor&) = {Increase, Decrease, RotateAnimation,     
 const char* const answers[] = {"",    "3:500", "5:700",        "1:1", "7.5",
                                "abc", "1e30",  "2000000000:5", "0:0", "-4:x"};
 
-class Session {
+class RandomEditing {
 public:
-    explicit Session(unsigned seed) : random_(seed) {}
+    explicit RandomEditing(unsigned seed) : random_(seed) {}
 
     void run(int events) {
         startModel();
@@ -150,7 +150,7 @@ private:
 TEST(RandomCommands, LeaveTheRecordWhole) {
     for (unsigned seed = 1; seed <= 150; ++seed) {
         SCOPED_TRACE(seed);
-        Session(seed).run(400);
+        RandomEditing(seed).run(400);
     }
 }
 
