@@ -1,0 +1,49 @@
+#include "edit/command.h"
+
+#include "model/connected.h"
+#include "model/host.h"
+#include "model/redraw.h"
+#include "model/store.h"
+
+namespace zentrik {
+
+bool objectSelected(const Editor& ed) {
+    if (nodeExists(ed, ed.SelectedNode)) return true;
+    return linkExists(ed, ed.SelectedLink) && nodeExists(ed, linkAt(ed, ed.SelectedLink).N1);
+}
+
+bool markSelectedObject(Editor& ed) {
+    if (!objectSelected(ed)) return false;
+    if (!nodeExists(ed, ed.SelectedNode)) ed.SelectedNode = none;
+    MarkConnectedNodes(ed, ed.SelectedNode, ed.SelectedLink);
+    return true;
+}
+
+Node* usedSelectedNode(Editor& ed) {
+    Node* node = selectedNode(ed);
+    return node && node->Used ? node : nullptr;
+}
+
+Link* usedSelectedLink(Editor& ed) {
+    Link* link = selectedLink(ed);
+    return link && link->Used ? link : nullptr;
+}
+
+void selectCreated(Editor& ed, std::int32_t node) {
+    ed.SelectedNode = node;
+    ed.HoverNode = node;
+    ed.SelectedLink = none;
+    ed.HoverLink = none;
+}
+
+void redrawStripAndScene(Editor& ed) {
+    redrawPhaseManager(ed, ed.AnimationTime);
+    DisplayScene(ed, -1, -1);
+}
+
+void refuse(Editor& ed, Host& host, const std::string& message) {
+    panel(ed, 5) = message;
+    host.beep();
+}
+
+}  // namespace zentrik

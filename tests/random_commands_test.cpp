@@ -1,0 +1,158 @@
+// Random sequences of editing commands on random models, with selections that name no slot, links to
+// nodes that are not there and odd settings, against what must hold after every single one.
+
+#include "edit/builders.h"
+#include "edit/bulk.h"
+#include "edit/hit.h"
+#include "edit/mouse.h"
+#include "edit/objects.h"
+#include "edit/transforms.h"
+#include "effects/fireworks.h"
+#include "effects/shooter.h"
+#include "model/invariants.h"
+#include "model/redraw.h"
+#include "model/store.h"
+#include "rig.h"
+#include "scenes/scenes.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <random>
+
+namespace zentrik {
+namespace {
+
+using Command = void (*)(Editor&, Host&);
+
+// clang-format off
+const Command commands[] = {
+    mnuCreateNodeRing_Click, mnuCreateConnectedNodeRing_Click, mnuCreateConnectedNodeRingWithSpokes_Click,
+    mnuCreateConnectedNodeRingWithSpokesNo_Click, mnuCreateConnectedNodeRingWithLongSpokes_Click,
+    mnuCreateNodeAtMidpoint_Click, ConvertObjectToBarrier, mnuDuplicateNode_Click, mnuDuplicateObject_Click,
+    mnuCreateRoad_Click, mnuResetMass_Click, mnuResetGravity_Click, mnuResetRotationalForces_Click,
+    mnuResetInitial_Click, mnuResetVelocity_Click, mnuResetSprites_Click, mnuUnlockAll_Click,
+    mnuLockAll_Click, mnuClearAnimators_Click, mnuResetK_Click, mnuResetAngle_Click, mnuResetForce_Click,
+    mnuResetBarriers_Click, mnuDoubleK_Click, mnuHalfK_Click, mnuDoubleF_Click, mnuHalveF_Click,
+    mnuSetLinkK_Click, mnuSetLinkF_Click, mnuRemoveNodes_Click, mnuRemoveLinks_Click,
+    mnuRemoveFreeNodes_Click, mnuResetAllNodes_Click, mnuResetAllLinks_Click, mnuFire_Click,
+    mnuShooterDirection_Click, mnuShooterVelocity_Click, mnuDisplayFireWorks_Click, mnuCompact_Click,
+};
+// clang-format on
+void (*const transforms[])(Editor&) = {Increase, Decrease, RotateAnimation,      CenterAnimation,
+                                       NextNode, NextLink, timerFireWorks_Timer, picS_DblClick};
+const char* const answers[] = {"",    "3:500", "5:700",        "1:1", "7.5",
+                               "abc", "1e30",  "2000000000:5", "0:0", "-4:x"};
+
+class RandomEditing {
+public:
+    explicit RandomEditing(unsigned seed) : random_(seed) {}
+
+    void run(int events) {
+        startModel();
+        for (int i = 0; i < events && !testing::Test::HasFailure(); ++i) {
+            if (lastNode(ed_) > 1500 || lastLink(ed_) > 3000 || UsedNodes(ed_) < 2) startModel();
+            const std::int32_t dangling = danglingLinks();
+            if (below(4) == 0) disturb();
+            const std::string what = event();
+            EXPECT_EQ(brokenRule(ed_), "") << "after " << what;
+            EXPECT_LE(danglingLinks(), dangling) << "after " << what;
+            EXPECT_FALSE(ed_.Nodes[0].Used || ed_.Links[0].Used);
+        }
+    }
+
+private:
+    int below(int n) { return std::uniform_int_distribution<int>(0, n - 1)(random_); }
+    bool flip() { return below(2) == 0; }
+    float coordinate() { return static_cast<float>(below(20) ? below(6000) : (below(3) - 1) * 4e9); }
+
+    void startModel() {
+        ed_ = scenes::fullScreen();
+        const int nodes = below(30);
+        for (int i = 0; i < nodes; ++i) {
+            Node& node = nodeAt(ed_, scenes::addNode(ed_, below(6000), below(6000)));
+            node.Used = below(4) != 0;
+            node.Locked = flip();
+            if (below(5) == 0) node.Res1 = below(nodes + 3) - 1;
+            if (below(40) == 0) node.X = std::numeric_limits<std::int32_t>::min();
+        }
+        for (int i = below(50); i > 0; --i) {
+            Link link = defaultLink(ed_, below(nodes + 4) - 2, below(nodes + 4) - 2);
+            link.Used = below(4) != 0;
+            link.Animator = flip();
+            appendLink(ed_, link);
+        }
+    }
+    // What other parts of the program may do between two commands.
+    void disturb() {
+        const auto anySlot = [&] { return below(3) ? below(lastNode(ed_) + 10) + 1 : none; };
+        for (bool* flag : {&ed_.marks.mnuApplyChanges, &ed_.marks.mnuUseRandom, &ed_.buttons.draw,
+                           &ed_.marks.mnuDisplayAngleManager, &ed_.buttons.same, &ed_.buttons.snap,
+                           &ed_.DrawMode, &ed_.MouseIsDown, &ed_.Timer1.enabled, &ed_.SelectedNodeClicked})
+            *flag = flip();
+        ed_.SelectedNode = anySlot();
+        ed_.SelectedLink = anySlot();
+        ed_.HoverNode = anySlot();
+        ed_.HoverLink = anySlot();
+        ed_.LastShooter = below(60);
+        constexpr std::int32_t radii[] = {90, 90, 30, 0, -70, std::numeric_limits<std::int32_t>::max()};
+        ed_.HitRadius = radii[below(6)];
+    }
+    std::string event() {
+        const float x = coordinate(), y = coordinate();
+        const int button = 1 << below(3);
+        switch (below(8)) {
+            case 0:
+                picS_MouseMove(ed_, button, x, y);
+                return "move";
+            case 1:
+                press(button, x, y);
+                return "press";
+            case 2:
+                picS_MouseUp(ed_, button, x, y);
+                return "release";
+            case 3:
+                moveProject(ed_, below(3) - 1, below(3) - 1);
+                return "moving the project";
+            case 4: {
+                const int which = below(std::size(transforms));
+                transforms[which](ed_);
+                return "transform " + std::to_string(which);
+            }
+            default: {
+                const int which = below(std::size(commands));
+                host_.answers = {answers[below(std::size(answers))]};
+                commands[which](ed_, host_);
+                return "command " + std::to_string(which);
+            }
+        }
+    }
+    void press(int button, float x, float y) {
+        const std::int32_t nodes = lastNode(ed_);
+        picS_MouseDown(ed_, button, x, y);
+        if (lastNode(ed_) == nodes) return;
+        EXPECT_EQ(ed_.SelectedNode, lastNode(ed_));
+        EXPECT_EQ(panel(ed_, 2), "Links: " + std::to_string(UsedLinks(ed_)));
+    }
+    // Used links that lack a used node at an end; a hand-made model has some, no command adds any.
+    std::int32_t danglingLinks() const {
+        const auto present = [&](std::int32_t i) { return nodeExists(ed_, i) && nodeAt(ed_, i).Used; };
+        std::int32_t count = 0;
+        for (const Link& link : ed_.Links) count += link.Used && !(present(link.N1) && present(link.N2));
+        return count;
+    }
+
+    Editor ed_;
+    ScriptedHost host_;
+    std::mt19937 random_;
+};
+
+TEST(RandomCommands, LeaveTheRecordWhole) {
+    for (unsigned seed = 1; seed <= 150; ++seed) {
+        SCOPED_TRACE(seed);
+        RandomEditing(seed).run(400);
+    }
+}
+
+}  // namespace
+}  // namespace zentrik
