@@ -117,7 +117,8 @@ TEST(Fireworks, TicksAddTheirBursts) {
     Editor ed = scenes::fullScreen();
     ScriptedHost host;
     ed.chance.seedSource = fixedSeed;
-    mnuDisplayFireWorks_Click(ed, host);
+    ed.marks.mnuDisplayFireWorks = true;
+    followFireworksMark(ed, host);
     EXPECT_TRUE(ed.timerFireWorks.enabled);
     timerFireWorks_Timer(ed);
     EXPECT_EQ(lastNode(ed), 0);
@@ -159,7 +160,8 @@ TEST(Fireworks, TicksAddTheirBursts) {
             EXPECT_EQ(panel(ed, 5), "Node ring created (0 : 0)");
         }
     }
-    mnuDisplayFireWorks_Click(ed, host);
+    ed.marks.mnuDisplayFireWorks = false;
+    followFireworksMark(ed, host);
     EXPECT_FALSE(ed.timerFireWorks.enabled);
 }
 

@@ -36,7 +36,7 @@ const Command commands[] = {
     mnuResetBarriers_Click, mnuDoubleK_Click, mnuHalfK_Click, mnuDoubleF_Click, mnuHalveF_Click,
     mnuSetLinkK_Click, mnuSetLinkF_Click, mnuRemoveNodes_Click, mnuRemoveLinks_Click,
     mnuRemoveFreeNodes_Click, mnuResetAllNodes_Click, mnuResetAllLinks_Click, mnuFire_Click,
-    mnuShooterDirection_Click, mnuShooterVelocity_Click, mnuDisplayFireWorks_Click, mnuCompact_Click,
+    mnuShooterDirection_Click, mnuShooterVelocity_Click, followFireworksMark, mnuCompact_Click,
 };
 // clang-format on
 void (*const transforms[])(Editor&) = {Increase, Decrease, RotateAnimation,      CenterAnimation,

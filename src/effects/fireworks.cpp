@@ -46,10 +46,7 @@ Burst addBurst(Editor& ed, Point centre, bool scattered) {
 
 }  // namespace
 
-void mnuDisplayFireWorks_Click(Editor& ed, Host&) {
-    ed.marks.mnuDisplayFireWorks = !ed.marks.mnuDisplayFireWorks;
-    ed.timerFireWorks.enabled = ed.marks.mnuDisplayFireWorks;
-}
+void followFireworksMark(Editor& ed, Host&) { ed.timerFireWorks.enabled = ed.marks.mnuDisplayFireWorks; }
 
 void timerFireWorks_Timer(Editor& ed) {
     if (!ed.Timer1.enabled) return;

@@ -7,7 +7,8 @@ namespace zentrik {
 
 class Host;
 
-void mnuDisplayFireWorks_Click(Editor& ed, Host& host);
+// The fireworks' timer runs exactly while their menu entry is checked.
+void followFireworksMark(Editor& ed, Host& host);
 
 // One tick of the fireworks' own timer. Adds nothing while the animation stands.
 void timerFireWorks_Timer(Editor& ed);

@@ -104,8 +104,10 @@ bool exportMail(Editor& ed, Host& host) {
 
 }  // namespace
 
-void SaveFile(Editor& ed, Host& host, const std::string& name) {
-    if (const std::string problem = storeProject(ed, name); !problem.empty()) tell(host, problem);
+bool SaveFile(Editor& ed, Host& host, const std::string& name) {
+    const std::string problem = storeProject(ed, name);
+    if (!problem.empty()) tell(host, problem);
+    return problem.empty();
 }
 
 void OpenFile(Editor& ed, Host& host, const std::string& name) {

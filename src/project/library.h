@@ -8,8 +8,8 @@ namespace zentrik {
 class Host;
 
 // Saves the model under a name and lists a new name. A message box tells of a name that is refused and
-// of a save that failed; the old file is then whole.
-void SaveFile(Editor& ed, Host& host, const std::string& name);
+// of a save that failed; the old file is then whole, and the answer false.
+bool SaveFile(Editor& ed, Host& host, const std::string& name);
 
 // Loads a project into the model, which the caller has cleared. A message box tells why a file was not
 // read, or not to its end; in the latter case what came before is loaded. Bytes of another kind leave the

@@ -77,8 +77,6 @@ void redrawStripAndScene(Editor& ed, Host&) {
 
 void layOutAgain(Editor& ed, Host&) { layOut(ed); }
 
-void followFireworksMark(Editor& ed, Host&) { ed.timerFireWorks.enabled = ed.marks.mnuDisplayFireWorks; }
-
 void followPathMark(Editor& ed, Host& host) { host.showPathWindow(ed.marks.mnuDisplayPath); }
 
 }  // namespace zentrik

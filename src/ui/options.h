@@ -24,7 +24,6 @@ void setNodeRadius(Editor& ed, std::int32_t radius);
 void redrawScene(Editor& ed, Host& host);
 void redrawStripAndScene(Editor& ed, Host& host);
 void layOutAgain(Editor& ed, Host& host);
-void followFireworksMark(Editor& ed, Host& host);
 void followPathMark(Editor& ed, Host& host);
 
 }  // namespace zentrik

@@ -27,7 +27,7 @@ constexpr Access timerPeriod{[](Editor& ed, double value) { setRate(ed, toInt(va
 // The rows' parts that most buttons of a kind share.
 constexpr PropertyRow plain(ButtonStyle style) {
     return {"", "",      style,   Owner::global, Pair::always, nullptr, "",    nullptr, "",
-            "", nullptr, nullptr, nullptr,       "",         "",      false, nullptr, nullptr};
+            "", nullptr, nullptr, nullptr,       "",           "",      false, nullptr, nullptr};
 }
 constexpr PropertyRow line = plain(ButtonStyle::separator);
 constexpr PropertyRow room = plain(ButtonStyle::room);

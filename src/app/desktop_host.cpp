@@ -1,0 +1,126 @@
+#include "app/desktop_host.h"
+
+#include "app/about_box.h"
+#include "model/records.h"
+#include "model/units.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QColorDialog>
+#include <QDesktopServices>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QUrl>
+#include <algorithm>
+
+namespace zentrik {
+
+namespace {
+
+QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+QMessageBox::Icon iconOf(BoxIcon icon) {
+    switch (icon) {
+        case BoxIcon::information:
+            return QMessageBox::Information;
+        case BoxIcon::exclamation:
+            return QMessageBox::Warning;
+        case BoxIcon::plain:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+// Runs a dialog while `open` counts it.
+int run(QDialog& dialog, int& open) {
+    ++open;
+    const int answer = dialog.exec();
+    --open;
+    return answer;
+}
+
+}  // namespace
+
+DesktopHost::DesktopHost(QWidget& window) : window_(window) {
+    fetcher_.fetched = [this](const QString& message, const QString& problem) {
+        if (messageFetched) messageFetched(message, problem);
+    };
+}
+
+std::string DesktopHost::inputBox(const std::string& prompt, const std::string& title,
+                                  const std::string& preset) {
+    QInputDialog dialog(&window_);
+    dialog.setObjectName("InputBox");
+    dialog.setWindowTitle(text(title));
+    dialog.setLabelText(text(prompt));
+    dialog.setTextValue(text(preset));
+    dialog.resize(380, dialog.sizeHint().height());
+    const bool accepted = run(dialog, open_) == QDialog::Accepted;
+    return accepted ? dialog.textValue().toStdString() : std::string();
+}
+
+void DesktopHost::messageBox(const std::string& message, const std::string& title, BoxIcon icon) {
+    QMessageBox box(iconOf(icon), text(title), text(message), QMessageBox::Ok, &window_);
+    box.setObjectName("MessageBox");
+    box.setTextFormat(Qt::PlainText);
+    run(box, open_);
+}
+
+bool DesktopHost::confirm(const std::string& question, const std::string& title) {
+    QMessageBox box(QMessageBox::Information, text(title), text(question),
+                    QMessageBox::Ok | QMessageBox::Cancel, &window_);
+    box.setObjectName("MessageBox");
+    box.setTextFormat(Qt::PlainText);
+    return run(box, open_) == QMessageBox::Ok;
+}
+
+std::int32_t DesktopHost::SelectColor() {
+    QColorDialog dialog(&window_);
+    dialog.setObjectName("ColorBox");
+    if (run(dialog, open_) != QDialog::Accepted) return none;
+    const QColor color = dialog.selectedColor();
+    return color.red() + 256 * color.green() + 65536 * color.blue();
+}
+
+void DesktopHost::beep() { QApplication::beep(); }
+
+bool DesktopHost::setClipboard(const std::string& content) {
+    QClipboard* clipboard = QApplication::clipboard();
+    clipboard->setText(text(content));
+    return clipboard->text().size() == text(content).size();
+}
+
+bool DesktopHost::openAddress(const std::string& address) {
+    return QDesktopServices::openUrl(QUrl::fromEncoded(QByteArray::fromStdString(address)));
+}
+
+void DesktopHost::fetchMessage(const std::string& address) { fetcher_.fetch(QUrl(text(address))); }
+
+void DesktopHost::showAbout() {
+    if (!about_) about_ = makeAboutBox(&window_);
+    about_->show();
+    about_->raise();
+}
+
+void DesktopHost::closeAbout() {
+    if (about_) about_->close();
+}
+
+void DesktopHost::resizeWindow(int width, int height) {
+    const QSize border = window_.frameGeometry().size() - window_.size();
+    const auto extent = [](int twips, int frame, int smallest, int largest) {
+        return std::clamp(twips / twipsPerPixel - frame, smallest, std::min(largest, 16384));
+    };
+    const QSize least = window_.minimumSize(), most = window_.maximumSize();
+    QSize size = window_.size();
+    if (width >= 0) size.setWidth(extent(width, border.width(), least.width(), most.width()));
+    if (height >= 0) size.setHeight(extent(height, border.height(), least.height(), most.height()));
+    window_.resize(size);
+    if (layOutWindow) layOutWindow();
+}
+
+void DesktopHost::showPathWindow(bool visible) {
+    if (placePathWindow) placePathWindow(visible);
+}
+
+}  // namespace zentrik

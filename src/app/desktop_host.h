@@ -1,0 +1,45 @@
+#pragma once
+#include "app/message_fetcher.h"
+#include "model/host.h"
+
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+
+namespace zentrik {
+
+// Answers the procedures' questions with dialogs of the main window and the desktop's services.
+class DesktopHost : public Host {
+public:
+    explicit DesktopHost(QWidget& window);
+
+    // What the host hands back to the window, whose business it is.
+    std::function<void(bool visible)> placePathWindow;
+    std::function<void()> layOutWindow;
+    std::function<void(const QString& text, const QString& problem)> messageFetched;
+
+    // While a box is open its event loop delivers ticks and clicks that must wait.
+    bool isAsking() const { return open_ > 0; }
+    void closeAbout();
+
+    std::string inputBox(const std::string& prompt, const std::string& title,
+                         const std::string& preset) override;
+    void messageBox(const std::string& text, const std::string& title, BoxIcon icon) override;
+    bool confirm(const std::string& text, const std::string& title) override;
+    std::int32_t SelectColor() override;
+    void beep() override;
+    bool setClipboard(const std::string& text) override;
+    bool openAddress(const std::string& address) override;
+    void fetchMessage(const std::string& address) override;
+    void showAbout() override;
+    void resizeWindow(int width, int height) override;
+    void showPathWindow(bool visible) override;
+
+private:
+    QWidget& window_;
+    int open_ = 0;
+    QPointer<QWidget> about_;
+    MessageFetcher fetcher_;
+};
+
+}  // namespace zentrik

@@ -1,0 +1,207 @@
+#include "app/frm_main.h"
+
+#include "app/icons.h"
+#include "app/program_folder.h"
+#include "edit/mouse.h"
+#include "effects/fireworks.h"
+#include "model/invariants.h"
+#include "model/redraw.h"
+#include "model/store.h"
+#include "model/units.h"
+#include "project/library.h"
+#include "sim/run.h"
+#include "ui/layout.h"
+#include "ui/online.h"
+#include "ui/phase_manager.h"
+#include "ui/property_toolbar.h"
+#include "ui/sprite_commands.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+#include <QScrollBar>
+#include <QToolBar>
+#include <cassert>
+#include <cmath>
+
+namespace zentrik {
+
+namespace {
+
+int pixels(double twips) { return static_cast<int>(std::lround(twips / twipsPerPixel)); }
+
+QRect pixelRect(const Rect& r) {
+    const int left = pixels(r.left), top = pixels(r.top);
+    return {left, top, pixels(r.left + r.width) - left, pixels(r.top + r.height) - top};
+}
+
+}  // namespace
+
+frmMain::frmMain(const QString& folder)
+    : host_(*this),
+      client_(new QWidget(this)),
+      bars_(*this),
+      picS_(new SceneView(ed_, client_)),
+      picPhase_(new PhaseView(ed_, client_)),
+      Frame1_(new SpriteBrowser(client_)),
+      frmPath_(new PathWindow(ed_, this)) {
+    setObjectName("frmMain");
+    setWindowTitle("Zentrik");
+    setWindowIcon(programIcon());
+    buildMenus();
+    buildStatusBar();
+    buildClient();
+    connectBars();
+    connectLists();
+    connectViews();
+    connectTimers();
+    Form_Load(folder);
+    showRecord();
+    picS_->setFocus();
+}
+
+void frmMain::Form_Load(const QString& folder) {
+    ed_.programFolder = (folder.isEmpty() ? programFolder() : folder).toStdString();
+    ed_.chance.reseed();
+    loadSprites();
+    const std::string skipped = panel(ed_, 5);
+    Placement placement;
+    getSettings(ed_, placement, settings_);
+    restorePlacement(placement);
+    layOutWindow();
+    showGlobalValues(ed_);
+    LoadListOfFileNames(ed_, host_, true);
+    if (!ed_.marks.mnuAutoResume) ClearAnimation(ed_);
+    DisplayScene(ed_, -1, -1);
+    redrawPhaseManager(ed_, 0);
+    if (!skipped.empty()) panel(ed_, 5) = skipped;
+    if (const std::string problem = settings_.problem(); !problem.empty())
+        host_.messageBox(problem + "\nThe program goes on with what it could read.", "Zentrik",
+                         BoxIcon::exclamation);
+}
+
+void frmMain::loadSprites() {
+    const SpritePictures& sprites = picS_->loadPictures(ed_.programFolder + "/sprites");
+    ed_.spriteNames = sprites.names;
+    Frame1_->setPictures(sprites);
+    for (const std::string& name : sprites.skipped)
+        panel(ed_, 5) += (panel(ed_, 5).empty() ? "No readable picture: " : ", ") + name;
+}
+
+void frmMain::restorePlacement(const Placement& placement) {
+    setMinimumSize((smallestWidth + twipsPerPixel - 1) / twipsPerPixel,
+                   (smallestHeight + twipsPerPixel - 1) / twipsPerPixel);
+    const QSize whole = screen()->size();
+    if (whole.width() >= minimumWidth() && whole.height() >= minimumHeight()) setMaximumSize(whole);
+    const auto extent = [](float twips) {
+        return pixels(std::clamp(static_cast<double>(twips), 0.0, 240000.0));
+    };
+    resize(QSize(extent(placement.width), extent(placement.height)).expandedTo(minimumSize()));
+    const auto edge = [](float twips) { return pixels(std::clamp(static_cast<double>(twips), -1e6, 1e6)); };
+    const QPoint corner(edge(placement.left), edge(placement.top));
+    // Enough of the title bar to take hold of must be on some screen.
+    const QRect handle(corner, QSize(width(), 40));
+    for (const QScreen* candidate : screen()->virtualSiblings()) {
+        const QRect visible = candidate->availableGeometry().intersected(handle);
+        if (visible.width() >= 100 && visible.height() >= 20) return move(corner);
+    }
+    move(screen()->availableGeometry().topLeft());
+}
+
+void frmMain::layOutWindow() {
+    bars_.fit(width());
+    Form_Resize(ed_, width() * twipsPerPixel, height() * twipsPerPixel);
+}
+
+void frmMain::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    if (isMinimized()) return;
+    layOutWindow();
+    showRecord();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    if (host_.isAsking()) return event->ignore();
+    ed_.Timer1.enabled = false;
+    showTimers();
+    std::optional<Placement> placement;
+    if (!isMaximized() && !isMinimized() && !isFullScreen()) {
+        const auto twips = [](int extent) { return static_cast<float>(extent * twipsPerPixel); };
+        placement = Placement{twips(pos().x()), twips(pos().y()), twips(width()), twips(height())};
+    }
+    saveSettings(ed_, placement, settings_);
+    if (const std::string problem = settings_.problem(); !problem.empty())
+        host_.messageBox(problem, "Zentrik", BoxIcon::exclamation);
+    if (!SaveFile(ed_, host_, "resume") &&
+        !host_.confirm("The project could not be saved. Close the program and lose it?", "Zentrik"))
+        return event->ignore();
+    host_.closeAbout();
+    frmPath_->hide();
+    event->accept();
+}
+
+void frmMain::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) bars_.drawIcons();
+}
+
+void frmMain::placePathWindow(bool visible) {
+    if (visible) {
+        const QRect main = frameGeometry();
+        frmPath_->setGeometry(main.left() + main.width() / 4, main.top() + main.height() + pixels(100),
+                              main.width() / 2, main.height() / 2);
+    }
+    frmPath_->setVisible(visible);
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != bars_.lstSaved->lineEdit()) return QMainWindow::eventFilter(watched, event);
+    // While a name is typed, no key is a shortcut of the menus.
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->accept();
+        return false;
+    }
+    if (event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    perform([](Editor& ed, Host& host) { lstSaved_Enter(ed, host); });
+    return true;
+}
+
+void frmMain::showRecord() {
+    assert(brokenRule(ed_).empty());
+    for (const MenuEntry& entry : marks_) entry.action->setChecked(ed_.marks.*entry.row->mark);
+    bars_.show(ed_);
+    for (std::size_t i = 0; i < panels_.size(); ++i)
+        panels_[i]->setText(QString::fromStdString(ed_.panels[i]));
+    showLayout();
+    showTimers();
+    if (std::exchange(ed_.sceneStale, false)) picS_->pacer.request();
+    if (std::exchange(ed_.phaseStale, false)) picPhase_->pacer.request();
+    if (frmPath_->isVisible()) frmPath_->pacer.request();
+}
+
+void frmMain::showLayout() {
+    const auto place = [](QWidget& widget, const Rect& rect, bool visible) {
+        if (widget.geometry() != pixelRect(rect)) widget.setGeometry(pixelRect(rect));
+        if (widget.isHidden() == visible) widget.setVisible(visible);
+    };
+    place(*picS_, ed_.layout.picS, true);
+    place(*picPhase_, ed_.layout.picPhase, ed_.marks.mnuDisplayAngleManager);
+    place(*Frame1_, ed_.layout.Frame1, ed_.marks.mnuDisplayBrowser);
+    place(*Frame1_->HScroll1, ed_.layout.HScroll1, ed_.marks.mnuDisplayBrowser);
+}
+
+void frmMain::showTimers() {
+    const auto follow = [](QTimer& shown, const Timer& timer) {
+        if (shown.interval() != timer.interval) shown.setInterval(timer.interval);
+        if (timer.enabled && !shown.isActive()) shown.start();
+        if (!timer.enabled && shown.isActive()) shown.stop();
+    };
+    follow(Timer1_, ed_.Timer1);
+    follow(timerFireWorks_, ed_.timerFireWorks);
+}
+
+}  // namespace zentrik

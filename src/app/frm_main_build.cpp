@@ -1,0 +1,159 @@
+// How the main window is put together: its bars, its areas and what their events start.
+
+#include "app/frm_main.h"
+#include "edit/mouse.h"
+#include "effects/fireworks.h"
+#include "model/redraw.h"
+#include "project/library.h"
+#include "sim/run.h"
+#include "ui/layout.h"
+#include "ui/online.h"
+#include "ui/phase_manager.h"
+#include "ui/sprite_commands.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QToolBar>
+
+namespace zentrik {
+
+namespace {
+
+// Bars have fixed heights, so that the client area begins where the layout counts on it.
+constexpr int menuBarHeight = 24, statusBarHeight = 22;  // pixels
+constexpr int panelWidths[] = {118, 118, 141, 169};      // of the first four panels, pixels
+
+}  // namespace
+
+void frmMain::buildMenus() {
+    menuBar()->setFixedHeight(menuBarHeight);
+    menuBar()->setNativeMenuBar(false);
+    QMenu* menu = nullptr;
+    for (const MenuRow& row : menuRows()) {
+        if (row.isMenu()) {
+            menu = menuBar()->addMenu(row.caption);
+            menu->setObjectName(row.name);
+            menu->menuAction()->setObjectName(row.name);
+            continue;
+        }
+        QAction* action = row.isSeparator() ? menu->addSeparator() : menu->addAction(row.caption);
+        action->setObjectName(row.name);
+        if (row.isSeparator()) continue;
+        if (row.shortcut != nullptr) action->setShortcut(QKeySequence(row.shortcut));
+        action->setCheckable(row.mark != nullptr);
+        if (row.mark != nullptr) marks_.push_back({&row, action});
+        connect(action, &QAction::triggered, this,
+                [this, &row] { perform([&](Editor& ed, Host& host) { chooseMenu(ed, host, row); }); });
+    }
+}
+
+void frmMain::buildStatusBar() {
+    statusBar()->setObjectName("StatusBar1");
+    statusBar()->setFixedHeight(statusBarHeight);
+    statusBar()->setStyleSheet("QStatusBar::item { border: none; }");
+    for (std::size_t i = 0; i < panels_.size(); ++i) {
+        auto* label = new QLabel(this);
+        label->setObjectName(QString("Panel%1").arg(i + 1));
+        label->setTextFormat(Qt::PlainText);
+        label->setContentsMargins(6, 0, 6, 0);
+        const bool wide = i >= std::size(panelWidths);
+        if (!wide) label->setFixedWidth(panelWidths[i]);
+        // The wide panel's text may be longer than the window; it must not widen it.
+        if (wide) label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        statusBar()->addWidget(label, wide ? 1 : 0);
+        panels_[i] = label;
+    }
+}
+
+void frmMain::buildClient() {
+    addToolBar(Qt::TopToolBarArea, bars_.Toolbar1);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setCentralWidget(client_);
+    bars_.Toolbar2->setParent(client_);
+    bars_.Toolbar2->move(0, 0);
+    Frame1_->setVisible(false);
+    Frame1_->HScroll1->setVisible(false);
+    picPhase_->setVisible(false);
+}
+
+void frmMain::connectBars() {
+    bars_.commandPressed = [this](const CommandRow& row) {
+        perform([&](Editor& ed, Host& host) { pressCommand(ed, host, row); });
+    };
+    bars_.propertyPressed = [this](const PropertyRow& row) {
+        perform([&](Editor& ed, Host& host) { pressProperty(ed, host, row); });
+    };
+    bars_.presetChosen = [this](const PropertyRow& row, const std::string& text) {
+        perform([&](Editor& ed, Host& host) { choosePreset(ed, host, row, text); });
+    };
+}
+
+void frmMain::connectLists() {
+    bars_.lstSaved->lineEdit()->installEventFilter(this);
+    connect(bars_.lstSaved, &QComboBox::editTextChanged, this,
+            [this](const QString& text) { ed_.savedText = text.toStdString(); });
+    connect(bars_.lstSaved, &QComboBox::activated, this, [this](int entry) {
+        perform([&](Editor& ed, Host& host) { lstSaved_Click(ed, host, entry); });
+        picS_->setFocus();
+    });
+    connect(bars_.lstSprites, &QComboBox::activated, this, [this](int entry) {
+        perform([&](Editor& ed, Host&) {
+            lstSprites_Click(ed, entry);
+            DisplayScene(ed, -1, -1);
+        });
+    });
+    Frame1_->pictureClicked = [this](int index) {
+        perform([&](Editor& ed, Host&) { imgSprite_Click(ed, index); });
+    };
+}
+
+void frmMain::connectViews() {
+    const auto calls = [this](auto press, auto drag, auto release, auto twice) {
+        MouseCalls mouse;
+        mouse.down = [this, press](int b, float x, float y) {
+            perform([&](Editor& ed, Host&) { press(ed, b, x, y); });
+        };
+        mouse.move = [this, drag](float x, float y) { perform([&](Editor& ed, Host&) { drag(ed, x, y); }); };
+        mouse.up = [this, release](int b, float x, float y) {
+            perform([&](Editor& ed, Host&) { release(ed, b, x, y); });
+        };
+        mouse.doubleClick = [this, twice] { perform([&](Editor& ed, Host&) { twice(ed); }); };
+        return mouse;
+    };
+    picS_->mouse = calls(
+        picS_MouseDown, [](Editor& ed, float x, float y) { picS_MouseMove(ed, 0, x, y); }, picS_MouseUp,
+        picS_DblClick);
+    picPhase_->mouse = calls(
+        picPhase_MouseDown, picPhase_MouseMove, [](Editor& ed, int, float, float) { picPhase_MouseUp(ed); },
+        picPhase_DblClick);
+    frmPath_->clicked = [this] { perform([](Editor& ed, Host&) { clearPath(ed); }); };
+    frmPath_->closed = [this] { perform([](Editor& ed, Host&) { ed.marks.mnuDisplayPath = false; }); };
+    host_.placePathWindow = [this](bool visible) { placePathWindow(visible); };
+    host_.layOutWindow = [this] { layOutWindow(); };
+    host_.messageFetched = [this](const QString& text, const QString& problem) {
+        perform([&](Editor& ed, Host&) {
+            if (problem.isEmpty())
+                messageArrived(ed, text.toStdString());
+            else
+                messageFailed(ed, problem.toStdString());
+        });
+    };
+}
+
+void frmMain::connectTimers() {
+    Timer1_.setObjectName("Timer1");
+    Timer1_.setParent(this);
+    Timer1_.setTimerType(Qt::PreciseTimer);
+    connect(&Timer1_, &QTimer::timeout, this,
+            [this] { perform([](Editor& ed, Host&) { Timer1_Timer(ed); }); });
+    timerFireWorks_.setObjectName("timerFireWorks");
+    timerFireWorks_.setParent(this);
+    connect(&timerFireWorks_, &QTimer::timeout, this,
+            [this] { perform([](Editor& ed, Host&) { timerFireWorks_Timer(ed); }); });
+}
+
+}  // namespace zentrik

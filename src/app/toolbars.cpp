@@ -1,0 +1,204 @@
+#include "app/toolbars.h"
+
+#include "app/icons.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace zentrik {
+
+namespace {
+
+constexpr int arrowWidth = 12;                     // of drop-down buttons
+constexpr int smallButton = 22, largeButton = 28;  // widths
+constexpr int smallIcon = 20, largeIcon = 24;
+constexpr int widthForLarge = 1200;  // of the window
+constexpr int smallList = 132, largeList = 168;
+
+// Works on light and dark themes, since every tint is half transparent.
+constexpr const char* style = R"(
+    QToolBar { border: none; spacing: 0px; padding: 0px 2px; }
+    QToolBar::separator { width: 1px; margin: 6px 3px; background: rgba(127, 127, 127, 90); }
+    QToolButton { border: 1px solid transparent; border-radius: 4px; padding: 0px; }
+    QToolButton:hover { background: rgba(127, 127, 127, 45); }
+    QToolButton:pressed { background: rgba(127, 127, 127, 90); }
+    QToolButton:checked { background: rgba(47, 127, 214, 55); border-color: rgba(47, 127, 214, 150); }
+    QToolButton[popupMode="1"] { padding-right: 12px; }
+    QToolButton::menu-button { border: none; width: 12px; }
+)";
+
+QToolBar* makeBar(const char* name, const char* title, QWidget& window) {
+    auto* bar = new QToolBar(title, &window);
+    bar->setObjectName(name);
+    bar->setStyleSheet(style);
+    bar->setMovable(false);
+    bar->setFloatable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    bar->setFixedHeight(Toolbars::height);
+    return bar;
+}
+
+QComboBox* makeList(const char* name, const char* title, QWidget& window) {
+    auto* list = new QComboBox(&window);
+    list->setObjectName(name);
+    list->setAccessibleName(title);
+    list->setToolTip(title);
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list->setMaxVisibleItems(24);
+    return list;
+}
+
+QToolButton* makeButton(const char* key, bool checkable, QToolBar& bar) {
+    auto* button = new QToolButton(&bar);
+    button->setObjectName(key);
+    button->setCheckable(checkable);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::NoFocus);
+    return button;
+}
+
+void setTip(QToolButton& button, const QString& tip) {
+    if (button.toolTip() == tip) return;
+    button.setToolTip(tip);
+    button.setAccessibleName(tip);
+}
+
+// Two separators in a row close one group.
+void closeGroup(QToolBar& bar, bool& open) {
+    if (open) bar.addSeparator();
+    open = false;
+}
+
+void fill(QComboBox& list, const std::vector<std::string>& names) {
+    bool same = static_cast<std::size_t>(list.count()) == names.size();
+    for (int i = 0; same && i < list.count(); ++i)
+        same = list.itemText(i) == QString::fromStdString(names[static_cast<std::size_t>(i)]);
+    if (same) return;
+    list.clear();
+    for (const std::string& name : names) list.addItem(QString::fromStdString(name));
+}
+
+}  // namespace
+
+Toolbars::Toolbars(QWidget& window)
+    : Toolbar1(makeBar("Toolbar1", "Commands", window)),
+      Toolbar2(makeBar("Toolbar2", "Properties", window)),
+      lstSaved(makeList("lstSaved", "Projects: choose one, or type a name and press Enter to save", window)),
+      lstSprites(makeList("lstSprites", "Sprite of the selected node", window)) {
+    lstSaved->setEditable(true);
+    lstSaved->setInsertPolicy(QComboBox::NoInsert);
+    lstSaved->setCompleter(nullptr);
+    lstSaved->setDuplicatesEnabled(true);  // or Enter on a listed name would choose it instead of saving
+    buildCommands();
+    buildProperties();
+    drawIcons();
+}
+
+void Toolbars::buildCommands() {
+    bool groupOpen = false, roomTaken = false;
+    for (const CommandRow& row : commandRows()) {
+        if (row.style == ButtonStyle::separator) {
+            closeGroup(*Toolbar1, groupOpen);
+        } else if (row.style == ButtonStyle::room) {
+            if (!roomTaken) Toolbar1->addWidget(lstSaved);
+            roomTaken = true;
+        } else {
+            QToolButton* button = makeButton(row.key, row.pressed != nullptr, *Toolbar1);
+            setTip(*button, row.tip);
+            QObject::connect(button, &QToolButton::clicked, Toolbar1, [this, &row] { commandPressed(row); });
+            Toolbar1->addWidget(button);
+            commands_.push_back({&row, button});
+        }
+        groupOpen |= row.style != ButtonStyle::separator;
+    }
+}
+
+void Toolbars::buildProperties() {
+    bool groupOpen = false, roomTaken = false;
+    for (const PropertyRow& row : propertyRows()) {
+        if (row.style == ButtonStyle::separator) {
+            closeGroup(*Toolbar2, groupOpen);
+        } else if (row.style == ButtonStyle::room) {
+            if (!roomTaken) Toolbar2->addWidget(lstSprites);
+            roomTaken = true;
+        } else {
+            QToolButton* button = makeButton(row.key, row.pressed != nullptr, *Toolbar2);
+            QObject::connect(button, &QToolButton::clicked, Toolbar2, [this, &row] { propertyPressed(row); });
+            if (row.style == ButtonStyle::dropDown) addPresets(*button, row);
+            QAction* place = Toolbar2->addWidget(button);
+            properties_.push_back({&row, button, place});
+        }
+        groupOpen |= row.style != ButtonStyle::separator;
+    }
+}
+
+void Toolbars::addPresets(QToolButton& button, const PropertyRow& row) {
+    auto* menu = new QMenu(&button);
+    for (const std::string& text : presetTexts(row)) {
+        QAction* preset = menu->addAction(QString::fromStdString(text));
+        QObject::connect(preset, &QAction::triggered, menu, [this, &row, text] { presetChosen(row, text); });
+    }
+    button.setMenu(menu);
+    button.setPopupMode(QToolButton::MenuButtonPopup);
+}
+
+void Toolbars::drawIcons() {
+    const QPalette palette = Toolbar1->palette();
+    for (const CommandButton& it : commands_) it.button->setIcon(themedIcon(it.row->icon, palette));
+    for (const PropertyButton& it : properties_) it.button->setIcon(themedIcon(it.row->icon, palette));
+}
+
+void Toolbars::fit(int width) {
+    const bool large = width >= widthForLarge;
+    const int extent = large ? largeButton : smallButton;
+    if (extent == buttonWidth_) return;
+    buttonWidth_ = extent;
+    const QSize icon = large ? QSize(largeIcon, largeIcon) : QSize(smallIcon, smallIcon);
+    const auto size = [&](QToolButton& button, bool dropDown) {
+        button.setIconSize(icon);
+        button.setFixedSize(extent + (dropDown ? arrowWidth : 0), height - 4);
+    };
+    for (const CommandButton& it : commands_) size(*it.button, false);
+    for (const PropertyButton& it : properties_) size(*it.button, it.row->style == ButtonStyle::dropDown);
+    for (QComboBox* list : {lstSaved, lstSprites}) list->setFixedWidth(large ? largeList : smallList);
+}
+
+void Toolbars::show(const Editor& ed) {
+    for (const CommandButton& it : commands_) {
+        if (it.row->pressed == nullptr) continue;
+        it.button->setChecked(ed.buttons.*it.row->pressed);
+        if (it.row->pressed == &Buttons::start) setTip(*it.button, QString::fromStdString(ed.tips.start));
+    }
+    for (const PropertyButton& it : properties_) {
+        const PropertyRow& row = *it.row;
+        if (row.pressed != nullptr) it.button->setChecked(ed.buttons.*row.pressed);
+        setTip(*it.button, row.tip != nullptr ? QString::fromStdString(ed.tips.*row.tip) : row.fixedTip);
+        it.place->setVisible(row.isVisible(ed));
+        if (row.owner == Owner::node) it.button->setEnabled(ed.nodeControls);
+        if (row.owner == Owner::link) it.button->setEnabled(ed.linkControls);
+    }
+    showLists(ed);
+}
+
+void Toolbars::showLists(const Editor& ed) {
+    const QSignalBlocker quietSaved(lstSaved), quietSprites(lstSprites);
+    const QString text = QString::fromStdString(ed.savedText);
+    fill(*lstSaved, ed.savedNames);
+    if (lstSaved->currentText() != text) lstSaved->setEditText(text);
+    fill(*lstSprites, ed.spriteNames);
+    lstSprites->setCurrentIndex(ed.spriteEntry);
+    lstSprites->setEnabled(ed.nodeControls);
+
+    const QColor back =
+        QColor::fromRgb(ed.BackColor & 255, (ed.BackColor >> 8) & 255, (ed.BackColor >> 16) & 255);
+    QPalette palette = lstSaved->palette();
+    if (palette.color(QPalette::Base) == back) return;
+    palette.setColor(QPalette::Base, back);
+    palette.setColor(QPalette::Text, back.lightness() < 128 ? Qt::white : Qt::black);
+    lstSaved->setPalette(palette);
+}
+
+}  // namespace zentrik

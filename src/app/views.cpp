@@ -1,0 +1,87 @@
+#include "app/views.h"
+
+#include "display/phase_strip.h"
+#include "display/scene.h"
+#include "edit/mouse.h"
+#include "model/units.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace zentrik {
+
+namespace {
+
+int buttonNumber(Qt::MouseButton button) {
+    switch (button) {
+        case Qt::LeftButton:
+            return leftButton;
+        case Qt::RightButton:
+            return rightButton;
+        case Qt::MiddleButton:
+            return middleButton;
+        default:
+            return 0;
+    }
+}
+
+float twips(double pixels) { return static_cast<float>(pixels * twipsPerPixel); }
+
+}  // namespace
+
+DrawingView::DrawingView(const Editor& ed, QWidget* parent) : QWidget(parent), pacer(*this), ed_(ed) {
+    setMouseTracking(true);
+    setFocusPolicy(Qt::ClickFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void DrawingView::mousePressEvent(QMouseEvent* event) {
+    if (const int button = buttonNumber(event->button()))
+        mouse.down(button, twips(event->position().x()), twips(event->position().y()));
+}
+
+void DrawingView::mouseMoveEvent(QMouseEvent* event) {
+    mouse.move(twips(event->position().x()), twips(event->position().y()));
+}
+
+void DrawingView::mouseReleaseEvent(QMouseEvent* event) {
+    if (const int button = buttonNumber(event->button()))
+        mouse.up(button, twips(event->position().x()), twips(event->position().y()));
+}
+
+void DrawingView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        mouse.doubleClick();
+    else
+        mousePressEvent(event);  // two quick presses of another button are just that
+}
+
+SceneView::SceneView(const Editor& ed, QWidget* parent) : DrawingView(ed, parent) {
+    setObjectName("picS");
+    setAccessibleName("Scene");
+}
+
+const SpritePictures& SceneView::loadPictures(const std::string& folder) {
+    folder_ = folder;
+    ratio_ = devicePixelRatioF();
+    sprites_ = loadSprites(folder, ratio_);
+    return sprites_;
+}
+
+void SceneView::paintEvent(QPaintEvent*) {
+    if (ratio_ != 0 && ratio_ != devicePixelRatioF()) loadPictures(folder_);
+    QPainter painter(this);
+    drawScene(painter, ed_, sprites_);
+}
+
+PhaseView::PhaseView(const Editor& ed, QWidget* parent) : DrawingView(ed, parent) {
+    setObjectName("picPhase");
+    setAccessibleName("Phase angle manager");
+}
+
+void PhaseView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawPhaseStrip(painter, ed_);
+}
+
+}  // namespace zentrik
