@@ -72,6 +72,7 @@ void frmMain::Form_Load(const QString& folder) {
     restorePlacement(placement);
     layOutWindow();
     showGlobalValues(ed_);
+    showCounts(ed_);
     LoadListOfFileNames(ed_, host_, true);
     if (!ed_.marks.mnuAutoResume) ClearAnimation(ed_);
     DisplayScene(ed_, -1, -1);

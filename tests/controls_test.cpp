@@ -1,0 +1,416 @@
+// Menus, toolbars and the phase strip as the person meets them: every question and every message in
+// its wording, and what a click changes.
+
+#include "model/invariants.h"
+#include "model/redraw.h"
+#include "model/store.h"
+#include "rig.h"
+#include "scenes/scenes.h"
+#include "sim/run.h"
+#include "ui/command_toolbar.h"
+#include "ui/layout.h"
+#include "ui/menus.h"
+#include "ui/phase_manager.h"
+#include "ui/property_toolbar.h"
+#include "ui/sprite_commands.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace zentrik {
+
+namespace {
+
+template <class Rows, class Name>
+const auto& rowNamed(const Rows& rows, Name name, std::string_view wanted) {
+    for (const auto& row : rows)
+        if (name(row) == wanted) return row;
+    throw std::runtime_error("no row " + std::string(wanted));
+}
+
+struct Desk {
+    Editor ed = scenes::fullScreen();
+    ScriptedHost host;
+
+    void choose(std::string_view name) {
+        chooseMenu(ed, host,
+                   rowNamed(
+                       menuRows(), [](const MenuRow& r) { return std::string_view(r.name); }, name));
+    }
+    void press(std::string_view key) {
+        pressCommand(ed, host,
+                     rowNamed(
+                         commandRows(), [](const CommandRow& r) { return std::string_view(r.key); }, key));
+    }
+    static const PropertyRow& property(std::string_view key) {
+        return rowNamed(
+            propertyRows(), [](const PropertyRow& r) { return std::string_view(r.key); }, key);
+    }
+    void pressProperty(std::string_view key) { zentrik::pressProperty(ed, host, property(key)); }
+    void preset(std::string_view key, const std::string& text) {
+        choosePreset(ed, host, property(key), text);
+    }
+    void answer(const std::string& text) { host.answers.push_back(text); }
+};
+
+// Two linked nodes and a lone one.
+Desk withPair() {
+    Desk desk;
+    scenes::addNode(desk.ed, 1000, 1000);
+    scenes::addNode(desk.ed, 2000, 1000);
+    scenes::addNode(desk.ed, 5000, 5000);
+    scenes::addLink(desk.ed, 1, 2);
+    return desk;
+}
+
+TEST(Menus, DefaultValuesAreAskedAndRefused) {
+    Desk desk;
+    for (const char* answer : {"49", "10", "abc", ""}) {
+        desk.answer(answer);
+        desk.choose("mnuGridSize");
+        EXPECT_EQ(desk.ed.GridSize, 250) << answer;
+    }
+    desk.answer("120.4");
+    desk.choose("mnuGridSize");
+    EXPECT_EQ(desk.ed.GridSize, 120);
+    desk.answer("abc");
+    desk.choose("mnuSetRadius");
+    EXPECT_EQ(desk.ed.NodeRadius, 0);
+    EXPECT_EQ(desk.ed.HitRadius, 30);
+    desk.host.transcript.clear();
+    for (const char* name : {"mnuSetRadius", "mnuDefaultK", "mnuDefaultForce", "mnuGridSize"})
+        desk.choose(name);
+    EXPECT_EQ(desk.host.transcript,
+              "input: Enter node radius.|Set Node Radius|0\n"
+              "input: Enter default spring constant.|Default Spring Constant|5\n"
+              "input: Enter default link force.|Default Link Force|0.2\n"
+              "input: Enter grid size.|Grid Size|120\n");
+    EXPECT_EQ(desk.ed.DefaultLinkK, 5);
+}
+
+TEST(Menus, ColoursChangeUnlessCancelled) {
+    Desk desk;
+    for (const std::int32_t colour : {0x102030, none}) {
+        desk.host.colour = colour;
+        for (const char* name : {"mnuLineColor", "mnuNodeColor", "mnuBackgroundColor"}) desk.choose(name);
+    }
+    EXPECT_EQ(desk.ed.LinkColor, 0x102030);
+    EXPECT_EQ(desk.ed.NodeColor, 0x102030);
+    EXPECT_EQ(desk.ed.BackColor, 0x102030);
+}
+
+TEST(Menus, ResetTakesItsOwnValues) {
+    Desk desk;
+    desk.ed.Viscosity = desk.ed.LeftWind = 3;
+    desk.ed.Timer1 = {true, 77};
+    desk.choose("mnuResetGlobal");
+    EXPECT_EQ(desk.ed.Friction, 0.5F);
+    EXPECT_EQ(desk.ed.DeltaAngle, 1);
+    EXPECT_EQ(desk.ed.Viscosity + desk.ed.LeftWind, 0);
+    EXPECT_EQ(desk.ed.Timer1.interval, 20);
+    EXPECT_TRUE(desk.ed.Timer1.enabled);
+}
+
+TEST(CommandToolbar, DeleteAsksOnlyForBoth) {
+    Desk desk = withPair();
+    desk.ed.SelectedNode = 3;
+    desk.ed.SelectedLink = 1;
+    desk.host.confirms = false;
+    desk.press("delete");
+    EXPECT_EQ(desk.host.transcript,
+              "confirm: You are about to delete BOTH a node and a link.  Proceed?|Delete Node/Link\n");
+    EXPECT_TRUE(desk.ed.Nodes[3].Used && desk.ed.Links[1].Used);
+    desk.ed.SelectedLink = none;
+    desk.press("delete");
+    EXPECT_FALSE(desk.ed.Nodes[3].Used);
+    EXPECT_EQ(panel(desk.ed, 1), "Nodes: 2");
+}
+
+TEST(CommandToolbar, RunningStopsForNewAndSingle) {
+    Desk desk = withPair();
+    desk.press("start");
+    EXPECT_TRUE(desk.ed.Timer1.enabled);
+    EXPECT_EQ(desk.ed.tips.start, "Stop");
+    desk.press("single");
+    EXPECT_FALSE(desk.ed.buttons.start);
+    Timer1_Timer(desk.ed);
+    EXPECT_FALSE(desk.ed.Timer1.enabled);
+    desk.press("start");
+    desk.ed.AnimationTime = 5;
+    desk.press("new");
+    EXPECT_FALSE(desk.ed.Timer1.enabled);
+    EXPECT_EQ(lastNode(desk.ed), 0);
+    EXPECT_EQ(panel(desk.ed, 4), "Time:  0.000");
+}
+
+TEST(CommandToolbar, MessageShowsInstructionsUntilTheNextRedraw) {
+    Desk desk;
+    desk.press("message");
+    EXPECT_TRUE(desk.ed.instructionsShown);
+    EXPECT_EQ(desk.host.transcript.substr(0, 6), "fetch:");
+    DisplayScene(desk.ed, -1, -1);
+    EXPECT_FALSE(desk.ed.instructionsShown);
+}
+
+TEST(PropertyToolbar, FacesAskAndConfirm) {
+    Desk desk = withPair();
+    desk.ed.SelectedNode = 1;
+    desk.ed.SelectedLink = 1;
+    struct Case {
+        const char *key, *answer, *question, *tip, *confirmation;
+        std::string Tips::*shown;
+    };
+    const Case cases[] = {
+        {"gravity", "2.5x", "Enter custom value for gravity:|Custom Value|1", "Gravity: 2.5",
+         "Gravity changed to 2.5", &Tips::gravity},
+        {"friction", "1", "Enter custom value for surface friction:|Custom Value|0.2", "Surface Friction: 1",
+         "Surface friction changed to 1", &Tips::friction},
+        {"wind", "3", "Enter custom value for wind:|Custom Value|0", "Wind: 3", "before", &Tips::wind},
+        {"rate", "12.5", "Enter custom value for rate:|Custom Value|20", "Rate: 12", "Rate changed to 12",
+         &Tips::rate},
+        {"rate", "13.5", "Enter custom value for rate:|Custom Value|12", "Rate: 14", "Rate changed to 14",
+         &Tips::rate},
+        {"rate", "0", "Enter custom value for rate:|Custom Value|14", "Rate: 14", "Rate changed to 14",
+         &Tips::rate},
+        {"mass", "x", "Enter custom value for mass:|Custom Value|1", "Mass: 0", "Mass changed to 0",
+         &Tips::mass},
+        {"k", "7", "Enter custom value for spring constant:|Custom Value|5", "Spring Constant: 7",
+         "Spring Constant (k) changed to 7", &Tips::k},
+        {"angle", "400", "Enter custom value for angle:|Custom Value|0", "Animation Phase Angle: 400",
+         "Animation Phase Angle changed to 400", &Tips::angle},
+    };
+    for (const Case& c : cases) {
+        panel(desk.ed, 5) = "before";
+        desk.host.transcript.clear();
+        desk.answer(c.answer);
+        desk.pressProperty(c.key);
+        EXPECT_EQ(desk.host.transcript, std::string("input: ") + c.question + "\n");
+        EXPECT_EQ(desk.ed.tips.*c.shown, c.tip);
+        EXPECT_EQ(panel(desk.ed, 5), c.confirmation);
+        desk.pressProperty(c.key);  // cancelled
+        EXPECT_EQ(desk.ed.tips.*c.shown, c.tip);
+    }
+    desk.host.transcript.clear();
+    desk.pressProperty("direction");
+    EXPECT_EQ(desk.host.transcript, "");
+}
+
+TEST(PropertyToolbar, PresetsStoreAndTell) {
+    Desk desk = withPair();
+    desk.preset("mass", "5");
+    desk.pressProperty("mass");
+    EXPECT_EQ(desk.ed.Nodes[1].Mass, 1);
+    EXPECT_EQ(desk.host.transcript, "") << "without a node nothing is asked";
+    desk.ed.SelectedNode = 1;
+    desk.ed.SelectedLink = 1;
+    EXPECT_EQ(presetTexts(Desk::property("mass")).size(), 10U);
+    desk.preset("mass", presetTexts(Desk::property("mass")).back());
+    EXPECT_EQ(desk.ed.Nodes[1].Mass, 0);
+    desk.preset("viscosity", "0.5");
+    EXPECT_EQ(desk.ed.Viscosity, 0.5F);
+    EXPECT_EQ(desk.ed.tips.viscosity, "Viscosity: 0.5");
+    desk.preset("direction", "45");
+    desk.preset("velocity", "10");
+    EXPECT_EQ(desk.ed.Nodes[1].Vxo, 45);
+    EXPECT_EQ(desk.ed.tips.vxo, "Initial Direction: 45");
+    EXPECT_EQ(desk.ed.tips.vyo, "Initial Velocity: 10");
+    desk.preset("k", "20");
+    EXPECT_EQ(desk.ed.tips.k, "k: 20");
+    desk.ed.sceneStale = false;
+    desk.preset("rate", "40");
+    EXPECT_TRUE(desk.ed.sceneStale);
+    desk.ed.buttons.start = true;
+    desk.ed.sceneStale = false;
+    desk.preset("gravity", "-0.5");
+    EXPECT_FALSE(desk.ed.sceneStale) << "while running the next step redraws";
+}
+
+TEST(PropertyToolbar, StartLabelsDiffer) {
+    Desk desk;
+    showGlobalValues(desk.ed);
+    EXPECT_EQ(desk.ed.tips.friction, "Friction: 0.2");
+    EXPECT_EQ(desk.ed.tips.interval, "Interval: 20");
+    EXPECT_EQ(desk.ed.tips.speed, "Animation: 0.1");
+}
+
+TEST(PropertyToolbar, ShooterLocksItsTriggerAndLetsGo) {
+    Desk desk = withPair();
+    desk.ed.SelectedNode = 1;
+    desk.pressProperty("shooter");
+    EXPECT_EQ(panel(desk.ed, 5), "Node 1 is now a shooter (trigger = 2!");
+    EXPECT_TRUE(desk.ed.Nodes[1].Locked && desk.ed.Nodes[2].Locked && desk.ed.buttons.locked);
+    desk.pressProperty("shooter");
+    EXPECT_EQ(panel(desk.ed, 5), "Node 1 is now a standard node!");
+    EXPECT_FALSE(desk.ed.Nodes[1].Locked || desk.ed.Nodes[2].Locked || desk.ed.buttons.locked);
+    EXPECT_EQ(desk.ed.Nodes[1].Res1, none);
+
+    desk.ed.Nodes[1].Vx = 7;
+    desk.pressProperty("locked");
+    EXPECT_EQ(panel(desk.ed, 5), "Node 1 locked!");
+    EXPECT_EQ(desk.ed.Nodes[1].Vx, 7);
+    desk.pressProperty("locked");
+    EXPECT_EQ(desk.ed.Nodes[1].Vx, 0);
+
+    desk.ed.SelectedLink = 1;
+    desk.pressProperty("animator");
+    EXPECT_EQ(panel(desk.ed, 5), "Animator: True   (True)");
+    desk.pressProperty("barrier");
+    EXPECT_EQ(panel(desk.ed, 5), "Link 1 is a barrier!");
+    desk.host.colour = 255;
+    desk.pressProperty("color");
+    EXPECT_EQ(desk.ed.Nodes[1].color, 255);
+    EXPECT_EQ(desk.ed.SelectedNode, none);
+}
+
+TEST(Layout, AreasFollowTheirArrangement) {
+    struct Case {
+        bool sprites, phase;
+        std::int32_t sceneHeight, phaseTop, barTop, stripTop;
+    };
+    const std::int32_t SH = 9000, P = Editor{}.phaseHeight;
+    const Case cases[] = {
+        {false, false, SH - 1900, -1, -1, -1},
+        {false, true, SH - P - 1940, SH - P - 1200, -1, -1},
+        {true, false, SH - 720 - 2060, -1, SH - 1410, SH - 2130},
+        {true, true, SH - P - 720 - 210 - 1860, SH - P - 1200, SH - P - 210 - 1200, SH - P - 2130}};
+    for (const Case& c : cases) {
+        Editor ed;
+        ed.marks.mnuDisplayBrowser = c.sprites;
+        ed.marks.mnuDisplayAngleManager = c.phase;
+        Form_Resize(ed, 15000, SH);
+        EXPECT_EQ(ed.sceneWidth, 14880);
+        EXPECT_EQ(ed.sceneHeight, c.sceneHeight);
+        EXPECT_EQ(panel(ed, 5), "H: " + std::to_string(c.sceneHeight) + "     W: 14880");
+        if (c.phase) {
+            EXPECT_EQ(ed.layout.picPhase.top, c.phaseTop);
+        }
+        if (!c.sprites) continue;
+        EXPECT_EQ(ed.layout.HScroll1.top, c.barTop);
+        EXPECT_EQ(ed.layout.Frame1.top, c.stripTop);
+        EXPECT_LE(ed.layout.Frame1.top + ed.layout.Frame1.height, ed.layout.HScroll1.top);
+        EXPECT_LE(ed.layout.picS.top + ed.layout.picS.height, ed.layout.Frame1.top);
+    }
+}
+
+Desk withStrip(float angle1, float angle2, float angle3) {
+    Desk desk = withPair();
+    scenes::addLink(desk.ed, 1, 3);
+    scenes::addLink(desk.ed, 2, 3);
+    const float angles[] = {angle1, angle2, angle3};
+    for (std::size_t j = 1; j <= 3; ++j) {
+        desk.ed.Links[j].Animator = true;
+        desk.ed.Links[j].Angle = angles[j - 1];
+    }
+    desk.ed.phaseWidth = 10000;
+    desk.choose("mnuDisplayAngleManager");
+    desk.ed.phaseWidth = 10000;
+    DrawPhaseManager(desk.ed, 0);
+    return desk;
+}
+
+TEST(PhaseManager, DiscsStackByWholeDegree) {
+    const Desk near = withStrip(90, 90.4F, 89.6F);
+    EXPECT_EQ(near.ed.Links[1].Res1, 3000);
+    for (std::size_t j = 1; j <= 3; ++j) EXPECT_EQ(near.ed.Links[j].Res4, 100 + 200 * static_cast<int>(j));
+    const Desk outside = withStrip(-50, 1e30F, 360);
+    EXPECT_EQ(outside.ed.Links[1].Res4, 300);
+    EXPECT_EQ(outside.ed.Links[3].Res4, 500) << "beyond the end stacks at the end";
+}
+
+TEST(PhaseManager, DragsSnapAndClamp) {
+    Desk desk = withStrip(0, 90, 180);
+    Editor& ed = desk.ed;
+    ed.buttons.snap = true;
+    for (const auto& [x, angle] :
+         {std::pair{1240.F, 0.F}, {1260.F, 22.5F}, {99999.F, 360.F}, {-500.F, 0.F}}) {
+        picPhase_MouseDown(ed, 1, static_cast<float>(ed.Links[1].Res1), static_cast<float>(ed.Links[1].Res4));
+        EXPECT_EQ(ed.SelectedLink, 1);
+        picPhase_MouseMove(ed, x, 300);
+        picPhase_MouseUp(ed);
+        EXPECT_EQ(ed.Links[1].Angle, angle) << x;
+    }
+    ed.buttons.snap = false;
+    EXPECT_FLOAT_EQ(SnapToPhaseGrid(ed, 5000), 180);
+    picPhase_MouseMove(ed, 3000, 300);
+    EXPECT_EQ(ed.PhaseOverLink, 2);
+    EXPECT_EQ(panel(ed, 5), "Link: 2");
+    picPhase_DblClick(ed);
+    EXPECT_FALSE(ed.Links[1].Animator) << "the picked link leaves the strip";
+    picPhase_DblClick(ed);
+    picPhase_MouseDown(ed, 2, 0, 0);
+    EXPECT_EQ(ed.SelectedLink, none);
+    EXPECT_TRUE(ed.Links[2].Animator && ed.Links[3].Animator);
+}
+
+TEST(SpriteCommands, GiveSprites) {
+    Desk desk = withPair();
+    desk.choose("mnuRandomNodes");
+    EXPECT_EQ(desk.ed.Nodes[1].Sprite, noSprite);
+    desk.ed.spriteNames = {noSprite, "ant.svg", "bee.svg"};
+    imgSprite_Click(desk.ed, 2);
+    EXPECT_EQ(desk.ed.Nodes[1].SpriteIndex, 0);
+    desk.ed.SelectedNode = 1;
+    imgSprite_Click(desk.ed, 2);
+    EXPECT_EQ(desk.ed.Nodes[1].Sprite, "bee.svg");
+    EXPECT_EQ(desk.ed.spriteEntry, 2);
+    int bees = 0;
+    for (int round = 0; round < 100; ++round) {
+        desk.choose("mnuRandomNodes");
+        ASSERT_NE(desk.ed.Nodes[3].SpriteIndex, 0);
+        bees += desk.ed.Nodes[3].SpriteIndex == 2;
+    }
+    EXPECT_TRUE(bees > 20 && bees < 80) << bees;
+}
+
+// Models on which every row of every table must leave a sound record behind.
+std::vector<Desk> sweepDesks() {
+    std::vector<Desk> desks;
+    desks.emplace_back();
+    desks.push_back(withPair());
+    desks.back().ed.SelectedNode = 1;
+    desks.back().ed.SelectedLink = 1;
+    desks.push_back(withPair());  // holes, ends that do not exist, selections that outlived their slots
+    desks.back().ed.Nodes[2].Used = false;
+    desks.back().ed.Links[1].N2 = 99;
+    desks.back().ed.SelectedNode = 77;
+    desks.back().ed.SelectedLink = desks.back().ed.SelectedAnimatorLink = desks.back().ed.PhaseOverLink = 88;
+    desks.emplace_back();
+    scenes::addLattice(desks.back().ed, 8, 8, 500, 1000, 1000);
+    desks.back().ed.SelectedNode = 9;
+    desks.back().press("start");
+    desks.push_back(withPair());
+    desks.back().ed.DrawMode = true;
+    desks.back().ed.HoverNode = 2;
+    return desks;
+}
+
+TEST(Sweep, EveryRowLeavesASoundRecord) {
+    for (const std::string answer : {"", "0", "-1", "1e30", "abc", "3:500"}) {
+        const auto survives = [&](auto act, const char* name) {
+            for (Desk desk : sweepDesks()) {
+                desk.host.answers.assign(3, answer);
+                desk.ed.programFolder = "/nonexistent/zentrik";
+                act(desk);
+                ASSERT_EQ(brokenRule(desk.ed), "") << name << " with answer " << answer;
+                DisplayScene(desk.ed, 100, 100);
+                Timer1_Timer(desk.ed);
+                ASSERT_EQ(brokenRule(desk.ed), "") << "a tick after " << name << " with answer " << answer;
+            }
+        };
+        for (const MenuRow& row : menuRows())
+            survives([&](Desk& d) { chooseMenu(d.ed, d.host, row); }, row.name);
+        for (const CommandRow& row : commandRows())
+            survives([&](Desk& d) { pressCommand(d.ed, d.host, row); }, row.key);
+        for (const PropertyRow& row : propertyRows()) {
+            if (!row.isButton()) continue;
+            survives([&](Desk& d) { zentrik::pressProperty(d.ed, d.host, row); }, row.key);
+            if (row.style == ButtonStyle::dropDown)
+                survives([&](Desk& d) { choosePreset(d.ed, d.host, row, answer); }, row.key);
+        }
+    }
+}
+
+}  // namespace
+
+}  // namespace zentrik

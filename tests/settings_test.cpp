@@ -1,0 +1,110 @@
+#include "ui/settings.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <vector>
+
+namespace zentrik {
+
+namespace {
+
+class MemoryStore : public SettingsStore {
+public:
+    std::map<std::string, std::string> texts;
+    std::vector<std::string> order;  // of writing
+
+    std::optional<std::string> read(const std::string& key) override {
+        const auto found = texts.find(key);
+        return found == texts.end() ? std::nullopt : std::optional(found->second);
+    }
+    void write(const std::string& key, const std::string& text) override {
+        texts[key] = text;
+        order.push_back(key);
+    }
+};
+
+TEST(Settings, FirstRunDefaults) {
+    MemoryStore store;
+    Editor ed;
+    Placement placement{0, 0, 0, 0};
+    ed.buttons.line = ed.buttons.draw = false;
+    getSettings(ed, placement, store);
+    EXPECT_EQ(placement.left + placement.top, 2400);
+    EXPECT_EQ(placement.width, 13500);
+    EXPECT_TRUE(ed.marks.mnuWalls && ed.marks.mnuCeiling && ed.marks.mnuIgnoreBarriers &&
+                ed.marks.mnuAutoResume);
+    EXPECT_TRUE(ed.marks.mnuReverseModel && ed.marks.mnuUseDirectional);
+    EXPECT_FALSE(ed.marks.mnuDisplayTitle || ed.marks.mnuRandom || ed.timerFireWorks.enabled);
+    EXPECT_TRUE(ed.buttons.line && ed.buttons.draw && ed.buttons.animation && ed.buttons.simple);
+    EXPECT_FALSE(ed.buttons.grid || ed.buttons.slow);
+    EXPECT_EQ(ed.Friction, 0.2F);
+    EXPECT_EQ(ed.BackColor, 0xFFFFFF);
+}
+
+TEST(Settings, RoundTripInOrderAndForm) {
+    MemoryStore store;
+    Editor ed;
+    ed.marks.mnuWalls = false;
+    ed.marks.mnuDisplayFireWorks = true;
+    ed.buttons.grid = true;
+    ed.NodeRadius = 100;
+    ed.Gravity = -0.5F;
+    ed.ShooterVelocity = 1e7F;
+    ed.StructureParm = "8:500";
+    ed.Timer1.interval = 35;
+    ed.BackColor = 255;
+    saveSettings(ed, Placement{1, 2, 15000, 6000}, store);
+    ASSERT_EQ(store.order.size(), 54U);
+    EXPECT_EQ(store.order.front(), "MainLeft");
+    EXPECT_EQ(store.order.back(), "Sprite");
+    for (const auto& [key, text] : std::map<std::string, std::string>{{"Walls", "False"},
+                                                                      {"Fireworks", "True"},
+                                                                      {"DisplayGrid", "1"},
+                                                                      {"Sprite", "0"},
+                                                                      {"Gravity", "-0.5"},
+                                                                      {"ShooterVelocity", "1E+07"},
+                                                                      {"Speed", "35"},
+                                                                      {"StructureParm", "8:500"},
+                                                                      {"MainWidth", "15000"}})
+        EXPECT_EQ(store.texts[key], text) << key;
+
+    Editor again;
+    Placement placement;
+    getSettings(again, placement, store);
+    EXPECT_EQ(placement.width, 15000);
+    EXPECT_FALSE(again.marks.mnuWalls);
+    EXPECT_TRUE(again.timerFireWorks.enabled) << "the fireworks' timer follows their mark";
+    EXPECT_EQ(again.HitRadius, 130);
+    EXPECT_EQ(again.ShooterVelocity, 1e7F);
+    EXPECT_EQ(again.Timer1.interval, 35);
+    EXPECT_EQ(again.StructureParm, "8:500");
+
+    MemoryStore second = store;
+    saveSettings(ed, std::nullopt, second);
+    EXPECT_EQ(second.texts["MainWidth"], "15000") << "kept from an earlier run";
+    EXPECT_EQ(second.order.size(), 104U);
+}
+
+TEST(Settings, WhatDoesNotConvertGivesTheDefault) {
+    MemoryStore store;
+    store.texts = {{"Walls", "perhaps"}, {"Gravity", "inf"},  {"NodeRadius", "wide"}, {"Speed", "0"},
+                   {"GridSize", "0"},    {"Line", "on"},      {"BackColor", ""},      {"MainLeft", "1e99"},
+                   {"DeltaAngle", "2x"}, {"LinkColor", "255"}};
+    Editor ed;
+    Placement placement;
+    getSettings(ed, placement, store);
+    EXPECT_TRUE(ed.marks.mnuWalls && ed.buttons.line);
+    EXPECT_EQ(ed.Gravity, 1);
+    EXPECT_EQ(ed.NodeRadius, 60);
+    EXPECT_EQ(ed.Timer1.interval, 20);
+    EXPECT_EQ(ed.GridSize, 250);
+    EXPECT_EQ(ed.BackColor, 0xFFFFFF);
+    EXPECT_EQ(placement.left, 1200);
+    EXPECT_EQ(ed.DeltaAngle, 0.1F);
+    EXPECT_EQ(ed.LinkColor, 255);
+}
+
+}  // namespace
+
+}  // namespace zentrik
