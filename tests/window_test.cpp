@@ -1,0 +1,358 @@
+// The real window, driven by real mouse and key events, offscreen.
+
+#include "app/frm_main.h"
+#include "model/store.h"
+#include "temporary_folder.h"
+
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QScrollBar>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QToolBar>
+#include <QToolButton>
+#include <QtTest/QTest>
+
+namespace zentrik {
+
+namespace {
+
+class Window : public testing::Test {
+protected:
+    TemporaryFolder folder_;
+    std::unique_ptr<frmMain> window_;
+
+    void SetUp() override {
+        const QString path = QString::fromStdString(folder_.path.string());
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path + "/settings");
+        std::filesystem::create_directory(folder_.path / "sprites");
+        std::filesystem::create_directory(folder_.path / "zoo");
+        for (const char* name : {"ant.svg", "bee.svg"})
+            QFile::copy(QString(ZENTRIK_SOURCE_DIR "/sprites/") + name, path + "/sprites/" + name);
+        start();
+    }
+    void start() {
+        window_ = std::make_unique<frmMain>(QString::fromStdString(folder_.path.string()));
+        window_->resize(1200, 700);
+        window_->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window_.get()));
+    }
+    void restart() {
+        ASSERT_TRUE(window_->close());
+        start();
+    }
+
+    const Editor& ed() const { return window_->editor(); }
+    template <class Widget = QWidget>
+    Widget* find(const char* name) const {
+        auto* found = window_->findChild<Widget*>(name);
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    QToolButton* button(const char* bar, const char* key) const {
+        return find<QToolBar>(bar)->findChild<QToolButton*>(key);
+    }
+    void press(const char* key) { QTest::mouseClick(button("Toolbar1", key), Qt::LeftButton); }
+    void pressProperty(const char* key) { QTest::mouseClick(button("Toolbar2", key), Qt::LeftButton); }
+    void choose(const char* name) { find<QAction>(name)->trigger(); }
+    void preset(const char* key, int entry) {
+        button("Toolbar2", key)->menu()->actions().at(entry)->trigger();
+    }
+    QString panelText(int number) const {
+        return find<QLabel>(qPrintable(QString("Panel%1").arg(number)))->text();
+    }
+
+    // Scene places in pixels.
+    void moveTo(QPoint at) { QTest::mouseMove(find("picS"), at); }
+    void click(QPoint at, Qt::MouseButton mouseButton = Qt::LeftButton) {
+        moveTo(at);
+        QTest::mouseClick(find("picS"), mouseButton, {}, at);
+    }
+    void drag(QPoint from, QPoint to) {
+        moveTo(from);
+        QTest::mousePress(find("picS"), Qt::LeftButton, {}, from);
+        moveTo(to);
+        QTest::mouseRelease(find("picS"), Qt::LeftButton, {}, to);
+    }
+    // As the platform delivers it: press, release, double click, release.
+    void doubleClick(QPoint at) {
+        click(at);
+        QMouseEvent event(QEvent::MouseButtonDblClick, at, find("picS")->mapToGlobal(at), Qt::LeftButton,
+                          Qt::LeftButton, {});
+        QApplication::sendEvent(find("picS"), &event);
+        QTest::mouseRelease(find("picS"), Qt::LeftButton, {}, at);
+    }
+    // Types into the next modal box and closes it with a key; gives what the box said.
+    void answerNext(const QString& text, Qt::Key key, QString* said = nullptr) {
+        QTimer::singleShot(50, window_.get(), [this, text, key, said] {
+            QWidget* box = QApplication::activeModalWidget();
+            if (box == nullptr) return answerNext(text, key, said);
+            if (auto* message = qobject_cast<QMessageBox*>(box)) {
+                if (said != nullptr) *said = message->text();
+                auto* choice = message->button(key == Qt::Key_Escape ? QMessageBox::Cancel : QMessageBox::Ok);
+                return QTest::mouseClick(choice, Qt::LeftButton);
+            }
+            auto* line = box->findChild<QLineEdit*>();
+            if (said != nullptr) *said = box->windowTitle() + "|" + line->selectedText();
+            if (!text.isEmpty()) QTest::keyClicks(line, text);
+            QTest::keyClick(line, key);
+        });
+    }
+};
+
+TEST_F(Window, EverythingHasItsName) {
+    for (const char* name : {"picS", "picPhase", "lstSaved", "lstSprites", "Toolbar1", "Toolbar2",
+                             "StatusBar1", "Frame1", "HScroll1", "frmPath", "Panel1", "Panel5"})
+        EXPECT_NE(window_->findChild<QWidget*>(name), nullptr) << name;
+    EXPECT_EQ(find<QTimer>("Timer1")->interval(), 20);
+    EXPECT_EQ(find<QTimer>("timerFireWorks")->interval(), 500);
+    for (const MenuRow& row : menuRows()) {
+        auto* action = window_->findChild<QAction*>(row.name);
+        ASSERT_NE(action, nullptr) << row.name;
+        EXPECT_EQ(action->isSeparator(), row.isSeparator());
+        if (!row.isSeparator()) {
+            EXPECT_EQ(action->text(), row.caption);
+        }
+    }
+    for (const QToolButton* tool : window_->findChildren<QToolButton*>()) {
+        if (tool->objectName().startsWith("qt_")) continue;
+        EXPECT_FALSE(tool->toolTip().isEmpty()) << tool->objectName().toStdString();
+        EXPECT_FALSE(tool->accessibleName().isEmpty());
+        EXPECT_FALSE(tool->icon().isNull());
+    }
+}
+
+TEST_F(Window, NoButtonIsHiddenAtTheSmallestSize) {
+    window_->resize(10, 10);
+    QTest::qWait(1);
+    EXPECT_EQ(window_->width() * 15, 14400);
+    EXPECT_GE(window_->height() * 15, 5000);
+    for (const char* bar : {"Toolbar1", "Toolbar2"})
+        for (const QToolButton* tool : find<QToolBar>(bar)->findChildren<QToolButton*>()) {
+            if (tool->objectName().startsWith("qt_") || tool->objectName() == "vxo" ||
+                tool->objectName() == "vyo")
+                continue;
+            EXPECT_TRUE(tool->isVisible()) << tool->objectName().toStdString();
+            EXPECT_LE(tool->mapTo(window_.get(), tool->rect().bottomRight()).x(), window_->width());
+        }
+}
+
+TEST_F(Window, BuildsACreatureFromNothing) {
+    click({100, 100});
+    click({200, 100});
+    click({200, 200});
+    click({100, 100});  // closes the triangle
+    click({300, 300}, Qt::RightButton);
+    EXPECT_EQ(panelText(1), "Nodes: 3");
+    EXPECT_EQ(panelText(2), "Links: 3");
+    EXPECT_EQ(ed().Nodes[1].X, 1500);
+    EXPECT_EQ(ed().Links[1].RestLength, 1500);
+    EXPECT_EQ(ed().Links[3].N2, 1);
+
+    drag({200, 200}, {200, 300});
+    EXPECT_EQ(ed().Nodes[3].Y, 4500);
+    EXPECT_EQ(ed().Links[2].RestLength, 3000) << "same is pressed";
+    press("same");
+    press("snap");
+    drag({200, 300}, {212, 310});
+    EXPECT_EQ(ed().Nodes[3].X, 3250);
+    EXPECT_EQ(ed().Links[2].RestLength, 3000) << "same is released";
+
+    click({400, 400}, Qt::RightButton);
+    doubleClick({150, 100});  // the middle of the first link
+    EXPECT_TRUE(ed().Links[1].Animator);
+    EXPECT_EQ(panelText(5), "Link: 1  (animated)");
+    EXPECT_TRUE(button("Toolbar2", "animator")->isChecked());
+    preset("k", 7);
+    EXPECT_EQ(ed().Links[1].k, 20);
+    EXPECT_EQ(button("Toolbar2", "k")->toolTip(), "k: 20");
+    doubleClick({100, 100});
+    EXPECT_TRUE(ed().Nodes[1].Used) << "the first double click selects";
+    doubleClick({100, 100});
+    EXPECT_FALSE(ed().Nodes[1].Used);
+    EXPECT_EQ(panelText(2), "Links: 1");
+}
+
+TEST_F(Window, QuestionsComeWithTheValueSelected) {
+    QString said;
+    answerNext("7.5", Qt::Key_Return, &said);
+    choose("mnuDefaultK");
+    EXPECT_EQ(said, "Default Spring Constant|5");
+    EXPECT_EQ(ed().DefaultLinkK, 7.5F);
+    answerNext("9", Qt::Key_Escape);
+    choose("mnuDefaultK");
+    EXPECT_EQ(ed().DefaultLinkK, 7.5F);
+    answerNext("2", Qt::Key_Return, &said);
+    pressProperty("gravity");
+    EXPECT_EQ(said, "Custom Value|1");
+    EXPECT_EQ(panelText(5), "Gravity changed to 2");
+    EXPECT_EQ(button("Toolbar2", "gravity")->toolTip(), "Gravity: 2");
+
+    click({100, 100});
+    click({200, 100});
+    click({400, 400}, Qt::RightButton);
+    click({150, 100});
+    ASSERT_NE(ed().SelectedLink, none);
+    answerNext({}, Qt::Key_Escape, &said);
+    press("delete");
+    EXPECT_EQ(said, "You are about to delete BOTH a node and a link.  Proceed?");
+    EXPECT_EQ(panelText(1), "Nodes: 2");
+}
+
+TEST_F(Window, TicksWaitWhileABoxIsOpen) {
+    press("start");
+    QTest::qWait(100);
+    const std::int32_t before = ed().Cycles;
+    EXPECT_GT(before, 0);
+    std::int32_t meanwhile = 0;
+    QTimer::singleShot(150, window_.get(), [&] {
+        meanwhile = ed().Cycles - before;
+        answerNext({}, Qt::Key_Escape);
+    });
+    choose("mnuDefaultK");
+    EXPECT_LE(meanwhile, 1);
+    QTest::qWait(60);
+    EXPECT_GT(ed().Cycles, before + meanwhile);
+}
+
+TEST_F(Window, SavesUnderATypedNameAndFindsItAgain) {
+    click({100, 100});
+    click({200, 100});
+    auto* list = find<QComboBox>("lstSaved");
+    QTest::mouseClick(list->lineEdit(), Qt::LeftButton);
+    list->lineEdit()->selectAll();
+    QTest::keyClicks(list->lineEdit(), "mine");
+    QTest::keyClick(list->lineEdit(), Qt::Key_Home);
+    QTest::keyClick(list->lineEdit(), Qt::Key_Delete);  // not the menu's shortcut
+    EXPECT_EQ(UsedNodes(ed()), 2);
+    QTest::keyClick(list->lineEdit(), Qt::Key_Return);
+    EXPECT_TRUE(std::filesystem::exists(folder_.path / "zoo" / "ine.bot"));
+    press("new");
+    EXPECT_EQ(panelText(1), "Nodes: 0");
+    press("refresh");
+    EXPECT_EQ(panelText(1), "Nodes: 2");
+    QString said;
+    list->setEditText("../up");
+    answerNext({}, Qt::Key_Return, &said);
+    press("save");
+    EXPECT_FALSE(said.isEmpty());
+    EXPECT_FALSE(std::filesystem::exists(folder_.path / "up.bot"));
+}
+
+TEST_F(Window, ARestartShowsTheSameWorld) {
+    click({100, 100});
+    click({200, 100});
+    press("grid");
+    choose("mnuWalls");
+    press("start");
+    QTest::qWait(80);
+    press("start");
+    const Editor before = ed();
+    restart();
+    EXPECT_FALSE(ed().marks.mnuWalls);
+    EXPECT_FALSE(find<QAction>("mnuWalls")->isChecked());
+    EXPECT_TRUE(button("Toolbar1", "grid")->isChecked());
+    EXPECT_EQ(ed().savedText, "resume");
+    EXPECT_FALSE(ed().Timer1.enabled);
+    ASSERT_EQ(ed().Nodes.size(), before.Nodes.size());
+    EXPECT_EQ(ed().Nodes[2].Y, before.Nodes[2].Y);
+    EXPECT_EQ(ed().AnimationTime, before.AnimationTime);
+    choose("mnuAutoResume");
+    restart();
+    EXPECT_EQ(UsedNodes(ed()), 0);
+}
+
+TEST_F(Window, StripsAndPathOpenBelow) {
+    click({100, 100});
+    const int height = find("picS")->height();
+    choose("mnuDisplayAngleManager");
+    EXPECT_TRUE(find("picPhase")->isVisible());
+    EXPECT_GE(find("picPhase")->y(), find("picS")->geometry().bottom());
+    choose("mnuDisplayBrowser");
+    EXPECT_TRUE(find("Frame1")->isVisible() && find("HScroll1")->isVisible());
+    EXPECT_EQ(find<QScrollBar>("HScroll1")->maximum(), 1);
+    QTest::mouseClick(find("imgSprite2"), Qt::LeftButton);
+    EXPECT_EQ(ed().Nodes[1].Sprite, "bee.svg");
+    EXPECT_EQ(find<QComboBox>("lstSprites")->currentText(), "bee.svg");
+    choose("mnuDisplayAngleManager");
+    choose("mnuDisplayBrowser");
+    EXPECT_FALSE(find("picPhase")->isVisible());
+    EXPECT_EQ(find("picS")->height(), height);
+
+    choose("mnuDisplayPath");
+    auto* path = find("frmPath");
+    EXPECT_EQ(path->geometry().top(), window_->frameGeometry().bottom() + 1 + 7);
+    press("start");
+    QTest::qWait(100);
+    press("start");
+    EXPECT_GT(ed().pathDots.size(), 1U);
+    choose("mnuDisplayPath");
+    choose("mnuDisplayPath");
+    EXPECT_GT(ed().pathDots.size(), 1U) << "hiding keeps the dots";
+    QTest::mouseClick(path, Qt::LeftButton);
+    EXPECT_EQ(ed().pathDots.size(), 0U);
+    EXPECT_TRUE(path->isVisible());
+    path->close();
+    EXPECT_FALSE(find<QAction>("mnuDisplayPath")->isChecked());
+}
+
+TEST_F(Window, DirectionalMarkChoosesThePairOfButtons) {
+    const bool directional = ed().marks.mnuUseDirectional;
+    EXPECT_EQ(button("Toolbar2", "direction")->isVisible(), directional);
+    choose("mnuUseDirectional");
+    QTest::qWait(20);  // the bar lays itself out anew
+    EXPECT_EQ(button("Toolbar2", "direction")->isVisible(), !directional);
+    EXPECT_EQ(button("Toolbar2", "vxo")->isVisible(), directional);
+    EXPECT_FALSE(button("Toolbar2", "mass")->isEnabled());
+    click({100, 100});
+    EXPECT_TRUE(button("Toolbar2", "mass")->isEnabled());
+}
+
+TEST(MessageFetcher, AnswersStallsAndRefusals) {
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    QByteArray reply;  // empty: the server stalls
+    QObject::connect(&server, &QTcpServer::newConnection, &server, [&] {
+        QTcpSocket* socket = server.nextPendingConnection();
+        QObject::connect(socket, &QTcpSocket::readyRead, socket, [&reply, socket] {
+            if (reply.isEmpty()) return;
+            socket->write(reply);
+            socket->disconnectFromHost();
+        });
+    });
+    const QUrl address(QString("http://127.0.0.1:%1/message.txt").arg(server.serverPort()));
+    const auto fetch = [&](const QUrl& url) {
+        MessageFetcher fetcher;
+        fetcher.timeout = 300;
+        std::optional<QString> text, problem;
+        fetcher.fetched = [&](const QString& t, const QString& p) {
+            text = t;
+            problem = p;
+        };
+        fetcher.fetch(url);
+        EXPECT_FALSE(text) << "nothing waits for the server";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return text.has_value(); }, 3000));
+        return std::pair(text.value_or(""), problem.value_or(""));
+    };
+    reply = "HTTP/1.0 200 OK\r\nContent-Type: text/plain\r\n\r\nHello\nworld";
+    EXPECT_EQ(fetch(address), std::pair(QString("Hello\nworld"), QString()));
+    reply = "HTTP/1.0 200 OK\r\n\r\n" + QByteArray(100000, 'x');
+    EXPECT_LE(fetch(address).first.size(), 4096);
+    reply = "HTTP/1.0 404 Not Found\r\n\r\nnothing here";
+    EXPECT_FALSE(fetch(address).second.isEmpty());
+    reply.clear();
+    EXPECT_EQ(fetch(address).second, "the server did not answer in time");
+    server.close();
+    EXPECT_FALSE(fetch(address).second.isEmpty());
+}
+
+}  // namespace
+
+}  // namespace zentrik
