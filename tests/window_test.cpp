@@ -280,6 +280,22 @@ TEST_F(Window, ARestartShowsTheSameWorld) {
     EXPECT_EQ(UsedNodes(ed()), 0);
 }
 
+TEST_F(Window, ARefusedCloseChangesNothing) {
+    press("start");
+    std::filesystem::remove_all(folder_.path / "zoo");
+    putFile(folder_.path / "zoo", "no folder");
+    QString said;
+    answerNext({}, Qt::Key_Return);
+    QTimer::singleShot(200, window_.get(), [&] { answerNext({}, Qt::Key_Escape, &said); });
+    EXPECT_FALSE(window_->close());
+    EXPECT_EQ(said, "The project could not be saved. Close the program and lose it?");
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_TRUE(ed().buttons.start && ed().Timer1.enabled) << "the run goes on";
+    std::filesystem::remove(folder_.path / "zoo");
+    EXPECT_TRUE(window_->close());
+    EXPECT_FALSE(ed().Timer1.enabled);
+}
+
 TEST_F(Window, StripsAndPathOpenBelow) {
     click({100, 100});
     const int height = find("picS")->height();

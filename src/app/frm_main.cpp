@@ -125,8 +125,6 @@ void frmMain::resizeEvent(QResizeEvent* event) {
 
 void frmMain::closeEvent(QCloseEvent* event) {
     if (host_.isAsking()) return event->ignore();
-    ed_.Timer1.enabled = false;
-    showTimers();
     std::optional<Placement> placement;
     if (!isMaximized() && !isMinimized() && !isFullScreen()) {
         const auto twips = [](int extent) { return static_cast<float>(extent * twipsPerPixel); };
@@ -138,6 +136,8 @@ void frmMain::closeEvent(QCloseEvent* event) {
     if (!SaveFile(ed_, host_, "resume") &&
         !host_.confirm("The project could not be saved. Close the program and lose it?", "Zentrik"))
         return event->ignore();
+    ed_.Timer1.enabled = false;
+    showTimers();
     host_.closeAbout();
     frmPath_->hide();
     event->accept();
