@@ -119,6 +119,14 @@ protected:
     }
 };
 
+TEST_F(Window, SaysWhichSpriteIsNoPicture) {
+    putFile(folder_.path / "sprites" / "notes.txt", "no picture");
+    window_ = makeWindow();
+    window_->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window_.get()));
+    EXPECT_EQ(panelText(5), "No readable picture: notes.txt");
+}
+
 TEST_F(Window, EverythingHasItsName) {
     for (const char* name : {"picS", "picPhase", "lstSaved", "lstSprites", "Toolbar1", "Toolbar2",
                              "StatusBar1", "Frame1", "HScroll1", "frmPath", "Panel1", "Panel5"})
@@ -250,6 +258,15 @@ TEST_F(Window, SavesUnderATypedNameAndFindsItAgain) {
     press("refresh");
     EXPECT_EQ(panelText(1), "Nodes: 2");
     QString said;
+    QTest::mouseClick(list->lineEdit(), Qt::LeftButton);
+    bool menuOpened = false;
+    QTimer::singleShot(100, window_.get(), [&] {
+        QWidget* menu = QApplication::activePopupWidget();
+        menuOpened = menu != nullptr;
+        if (menuOpened) menu->close();
+    });
+    QTest::keyClick(list->lineEdit(), Qt::Key_G, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return menuOpened; }, 1000));
     list->setEditText("../up");
     answerNext({}, Qt::Key_Return, &said);
     press("save");

@@ -118,7 +118,10 @@ void frmMain::layOutWindow() {
 
 void frmMain::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
-    if (isMinimized()) return;
+    // Shown at the size it was laid out for, the window keeps what its start said in status panel 5.
+    const bool known =
+        width() * twipsPerPixel == ed_.windowWidth && height() * twipsPerPixel == ed_.windowHeight;
+    if (isMinimized() || known) return;
     layOutWindow();
     showRecord();
 }
@@ -159,9 +162,9 @@ void frmMain::placePathWindow(bool visible) {
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     if (watched != bars_.lstSaved->lineEdit()) return QMainWindow::eventFilter(watched, event);
-    // While a name is typed, no key is a shortcut of the menus.
+    // While a name is typed, no key is a shortcut of the menus; Alt still opens them.
     if (event->type() == QEvent::ShortcutOverride) {
-        event->accept();
+        event->setAccepted(!static_cast<QKeyEvent*>(event)->modifiers().testFlag(Qt::AltModifier));
         return false;
     }
     if (event->type() != QEvent::KeyPress) return false;
