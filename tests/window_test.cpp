@@ -274,6 +274,24 @@ TEST_F(Window, SavesUnderATypedNameAndFindsItAgain) {
     EXPECT_FALSE(std::filesystem::exists(folder_.path / "up.bot"));
 }
 
+TEST_F(Window, TheWheelLeavesTheListsAlone) {
+    auto* projects = find<QComboBox>("lstSaved");
+    for (const char* name : {"one", "two"}) {
+        projects->setEditText(name);
+        press("save");
+    }
+    click({100, 100});
+    for (auto* list : {projects, find<QComboBox>("lstSprites")})
+        for (const int turn : {120, -120}) {
+            QWheelEvent wheel({9, 9}, list->mapToGlobal(QPointF(9, 9)), {}, {0, turn}, {}, {},
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(list, &wheel);
+        }
+    EXPECT_EQ(UsedNodes(ed()), 1);
+    EXPECT_EQ(ed().savedText, "two");
+    EXPECT_EQ(ed().Nodes[1].Sprite, noSprite);
+}
+
 TEST_F(Window, ARestartShowsTheSameWorld) {
     click({100, 100});
     click({200, 100});

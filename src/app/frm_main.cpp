@@ -161,6 +161,10 @@ void frmMain::placePathWindow(bool visible) {
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    // A wheel turned over a closed list would load another project over the one being drawn, or change
+    // the selected node's sprite.
+    if (event->type() == QEvent::Wheel && (watched == bars_.lstSaved || watched == bars_.lstSprites))
+        return true;
     if (watched != bars_.lstSaved->lineEdit()) return QMainWindow::eventFilter(watched, event);
     // While a name is typed, no key is a shortcut of the menus; Alt still opens them.
     if (event->type() == QEvent::ShortcutOverride) {
