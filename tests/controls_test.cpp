@@ -127,6 +127,20 @@ TEST(CommandToolbar, DeleteAsksOnlyForBoth) {
     EXPECT_EQ(panel(desk.ed, 1), "Nodes: 2");
 }
 
+TEST(CommandToolbar, SteppingShowsWhatIsSelected) {
+    Desk desk = withPair();
+    desk.ed.Nodes[2].Locked = true;
+    desk.ed.Links[1].Barrier = true;
+    desk.press("nextnode");
+    desk.press("nextnode");
+    EXPECT_TRUE(desk.ed.buttons.locked);
+    desk.pressProperty("locked");
+    EXPECT_EQ(panel(desk.ed, 5), "Node 2 unlocked!");
+    desk.press("nextlink");
+    EXPECT_TRUE(desk.ed.buttons.barrier);
+    EXPECT_EQ(desk.ed.tips.k, "k: 5");
+}
+
 TEST(CommandToolbar, RunningStopsForNewAndSingle) {
     Desk desk = withPair();
     desk.press("start");

@@ -38,8 +38,11 @@ protected:
             QFile::copy(QString(ZENTRIK_SOURCE_DIR "/sprites/") + name, path + "/sprites/" + name);
         start();
     }
+    std::unique_ptr<frmMain> makeWindow() const {
+        return std::make_unique<frmMain>(QString::fromStdString(folder_.path.string()));
+    }
     void start() {
-        window_ = std::make_unique<frmMain>(QString::fromStdString(folder_.path.string()));
+        window_ = makeWindow();
         window_->resize(1200, 700);
         window_->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window_.get()));
@@ -64,6 +67,15 @@ protected:
     void choose(const char* name) { find<QAction>(name)->trigger(); }
     void preset(const char* key, int entry) {
         button("Toolbar2", key)->menu()->actions().at(entry)->trigger();
+    }
+    void expectEveryButtonVisible() const {
+        for (const char* bar : {"Toolbar1", "Toolbar2"})
+            for (const QToolButton* tool : find<QToolBar>(bar)->findChildren<QToolButton*>()) {
+                const QString key = tool->objectName();
+                if (key.startsWith("qt_") || key == "vxo" || key == "vyo") continue;
+                EXPECT_TRUE(tool->isVisible()) << key.toStdString() << " at " << window_->width();
+                EXPECT_LE(tool->mapTo(window_.get(), tool->rect().bottomRight()).x(), window_->width());
+            }
     }
     QString panelText(int number) const {
         return find<QLabel>(qPrintable(QString("Panel%1").arg(number)))->text();
@@ -107,6 +119,14 @@ protected:
     }
 };
 
+TEST_F(Window, SaysWhichSpriteIsNoPicture) {
+    putFile(folder_.path / "sprites" / "notes.txt", "no picture");
+    window_ = makeWindow();
+    window_->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window_.get()));
+    EXPECT_EQ(panelText(5), "No readable picture: notes.txt");
+}
+
 TEST_F(Window, EverythingHasItsName) {
     for (const char* name : {"picS", "picPhase", "lstSaved", "lstSprites", "Toolbar1", "Toolbar2",
                              "StatusBar1", "Frame1", "HScroll1", "frmPath", "Panel1", "Panel5"})
@@ -129,19 +149,18 @@ TEST_F(Window, EverythingHasItsName) {
     }
 }
 
-TEST_F(Window, NoButtonIsHiddenAtTheSmallestSize) {
+TEST_F(Window, NoButtonIsHiddenAtAnySize) {
+    window_ = makeWindow();
     window_->resize(10, 10);
-    QTest::qWait(1);
+    window_->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window_.get()));
     EXPECT_EQ(window_->width() * 15, 14400);
     EXPECT_GE(window_->height() * 15, 5000);
-    for (const char* bar : {"Toolbar1", "Toolbar2"})
-        for (const QToolButton* tool : find<QToolBar>(bar)->findChildren<QToolButton*>()) {
-            if (tool->objectName().startsWith("qt_") || tool->objectName() == "vxo" ||
-                tool->objectName() == "vyo")
-                continue;
-            EXPECT_TRUE(tool->isVisible()) << tool->objectName().toStdString();
-            EXPECT_LE(tool->mapTo(window_.get(), tool->rect().bottomRight()).x(), window_->width());
-        }
+    expectEveryButtonVisible();
+    window_->setMaximumSize(1300, 700);  // the test's screen may be smaller
+    window_->resize(1300, 700);
+    QTest::qWait(20);
+    expectEveryButtonVisible();
 }
 
 TEST_F(Window, BuildsACreatureFromNothing) {
@@ -239,11 +258,38 @@ TEST_F(Window, SavesUnderATypedNameAndFindsItAgain) {
     press("refresh");
     EXPECT_EQ(panelText(1), "Nodes: 2");
     QString said;
+    QTest::mouseClick(list->lineEdit(), Qt::LeftButton);
+    bool menuOpened = false;
+    QTimer::singleShot(100, window_.get(), [&] {
+        QWidget* menu = QApplication::activePopupWidget();
+        menuOpened = menu != nullptr;
+        if (menuOpened) menu->close();
+    });
+    QTest::keyClick(list->lineEdit(), Qt::Key_G, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return menuOpened; }, 1000));
     list->setEditText("../up");
     answerNext({}, Qt::Key_Return, &said);
     press("save");
     EXPECT_FALSE(said.isEmpty());
     EXPECT_FALSE(std::filesystem::exists(folder_.path / "up.bot"));
+}
+
+TEST_F(Window, TheWheelLeavesTheListsAlone) {
+    auto* projects = find<QComboBox>("lstSaved");
+    for (const char* name : {"one", "two"}) {
+        projects->setEditText(name);
+        press("save");
+    }
+    click({100, 100});
+    for (auto* list : {projects, find<QComboBox>("lstSprites")})
+        for (const int turn : {120, -120}) {
+            QWheelEvent wheel({9, 9}, list->mapToGlobal(QPointF(9, 9)), {}, {0, turn}, {}, {},
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(list, &wheel);
+        }
+    EXPECT_EQ(UsedNodes(ed()), 1);
+    EXPECT_EQ(ed().savedText, "two");
+    EXPECT_EQ(ed().Nodes[1].Sprite, noSprite);
 }
 
 TEST_F(Window, ARestartShowsTheSameWorld) {
@@ -267,6 +313,22 @@ TEST_F(Window, ARestartShowsTheSameWorld) {
     choose("mnuAutoResume");
     restart();
     EXPECT_EQ(UsedNodes(ed()), 0);
+}
+
+TEST_F(Window, ARefusedCloseChangesNothing) {
+    press("start");
+    std::filesystem::remove_all(folder_.path / "zoo");
+    putFile(folder_.path / "zoo", "no folder");
+    QString said;
+    answerNext({}, Qt::Key_Return);
+    QTimer::singleShot(200, window_.get(), [&] { answerNext({}, Qt::Key_Escape, &said); });
+    EXPECT_FALSE(window_->close());
+    EXPECT_EQ(said, "The project could not be saved. Close the program and lose it?");
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_TRUE(ed().buttons.start && ed().Timer1.enabled) << "the run goes on";
+    std::filesystem::remove(folder_.path / "zoo");
+    EXPECT_TRUE(window_->close());
+    EXPECT_FALSE(ed().Timer1.enabled);
 }
 
 TEST_F(Window, StripsAndPathOpenBelow) {

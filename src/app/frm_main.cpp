@@ -118,15 +118,16 @@ void frmMain::layOutWindow() {
 
 void frmMain::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
-    if (isMinimized()) return;
+    // Shown at the size it was laid out for, the window keeps what its start said in status panel 5.
+    const bool known =
+        width() * twipsPerPixel == ed_.windowWidth && height() * twipsPerPixel == ed_.windowHeight;
+    if (isMinimized() || known) return;
     layOutWindow();
     showRecord();
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
     if (host_.isAsking()) return event->ignore();
-    ed_.Timer1.enabled = false;
-    showTimers();
     std::optional<Placement> placement;
     if (!isMaximized() && !isMinimized() && !isFullScreen()) {
         const auto twips = [](int extent) { return static_cast<float>(extent * twipsPerPixel); };
@@ -138,6 +139,8 @@ void frmMain::closeEvent(QCloseEvent* event) {
     if (!SaveFile(ed_, host_, "resume") &&
         !host_.confirm("The project could not be saved. Close the program and lose it?", "Zentrik"))
         return event->ignore();
+    ed_.Timer1.enabled = false;
+    showTimers();
     host_.closeAbout();
     frmPath_->hide();
     event->accept();
@@ -158,10 +161,14 @@ void frmMain::placePathWindow(bool visible) {
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    // A wheel turned over a closed list would load another project over the one being drawn, or change
+    // the selected node's sprite.
+    if (event->type() == QEvent::Wheel && (watched == bars_.lstSaved || watched == bars_.lstSprites))
+        return true;
     if (watched != bars_.lstSaved->lineEdit()) return QMainWindow::eventFilter(watched, event);
-    // While a name is typed, no key is a shortcut of the menus.
+    // While a name is typed, no key is a shortcut of the menus; Alt still opens them.
     if (event->type() == QEvent::ShortcutOverride) {
-        event->accept();
+        event->setAccepted(!static_cast<QKeyEvent*>(event)->modifiers().testFlag(Qt::AltModifier));
         return false;
     }
     if (event->type() != QEvent::KeyPress) return false;

@@ -94,6 +94,8 @@ void frmMain::connectBars() {
 
 void frmMain::connectLists() {
     bars_.lstSaved->lineEdit()->installEventFilter(this);
+    bars_.lstSaved->installEventFilter(this);
+    bars_.lstSprites->installEventFilter(this);
     connect(bars_.lstSaved, &QComboBox::editTextChanged, this,
             [this](const QString& text) { ed_.savedText = text.toStdString(); });
     connect(bars_.lstSaved, &QComboBox::activated, this, [this](int entry) {

@@ -152,6 +152,7 @@ void Toolbars::drawIcons() {
 }
 
 void Toolbars::fit(int width) {
+    Toolbar2->resize(width, height);  // it stands in no layout that would
     const bool large = width >= widthForLarge;
     const int extent = large ? largeButton : smallButton;
     if (extent == buttonWidth_) return;

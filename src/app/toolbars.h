@@ -32,7 +32,7 @@ public:
     static constexpr int height = 34;  // of each bar, pixels
 
     void show(const Editor& ed);
-    // Chooses the size of the buttons so that every one of them is visible at a width in pixels.
+    // Fits the bars into a width in pixels: the buttons get the size at which every one is visible.
     void fit(int width);
     // Draws the icons in the palette's colours.
     void drawIcons();

@@ -5,6 +5,7 @@
 #include "edit/transforms.h"
 #include "effects/shooter.h"
 #include "model/host.h"
+#include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
 #include "project/library.h"
@@ -47,6 +48,20 @@ void deleteClicked(Editor& ed, Host& host) {
 template <void (*change)(Editor&)>
 void andRedraw(Editor& ed, Host&) {
     change(ed);
+    DisplayScene(ed, -1, -1);
+}
+
+// Stepping is selecting: without the read-out the lock and shooter buttons would still stand for the
+// node before, and a click on them would do the opposite of what they show.
+void nextNodeClicked(Editor& ed, Host&) {
+    NextNode(ed);
+    if (selectedNode(ed) != nullptr) DisplayNodeData(ed, ed.SelectedNode);
+    DisplayScene(ed, -1, -1);
+}
+
+void nextLinkClicked(Editor& ed, Host&) {
+    NextLink(ed);
+    if (selectedLink(ed) != nullptr) DisplayLinkData(ed, ed.SelectedLink);
     DisplayScene(ed, -1, -1);
 }
 
@@ -100,8 +115,8 @@ constexpr CommandRow rows[] = {
     button("decrease", "Shrink Project", "minus", andRedraw<Decrease>),
     button("barrier", "Convert Object to Barrier", "flagred", barrierClicked),
     line,
-    button("nextnode", "Next Node", "plusn", andRedraw<NextNode>),
-    button("nextlink", "Next Link", "plusl", andRedraw<NextLink>),
+    button("nextnode", "Next Node", "plusn", nextNodeClicked),
+    button("nextlink", "Next Link", "plusl", nextLinkClicked),
     check("data", "Display Maximum Project Information", "data", &Buttons::data, redrawWhileStopped),
     check("simple", "Display Global Settings as Single Line", "data2", &Buttons::simple, redrawWhileStopped),
     check("numbers", "Display Node/Link Numbers", "pound", &Buttons::numbers, redrawScene),
