@@ -245,13 +245,18 @@ TEST_F(Window, SavesUnderATypedNameAndFindsItAgain) {
     click({100, 100});
     click({200, 100});
     auto* list = find<QComboBox>("lstSaved");
+    window_->activateWindow();
     QTest::mouseClick(list->lineEdit(), Qt::LeftButton);
+    list->setFocus();
+    const auto typeKey = [&](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
     list->lineEdit()->selectAll();
-    QTest::keyClicks(list->lineEdit(), "mine");
-    QTest::keyClick(list->lineEdit(), Qt::Key_Home);
-    QTest::keyClick(list->lineEdit(), Qt::Key_Delete);  // not the menu's shortcut
+    QTest::keyClicks(QApplication::focusWidget(), "mine");
+    typeKey(Qt::Key_Home);
+    typeKey(Qt::Key_Delete);  // not the menu's shortcut
     EXPECT_EQ(UsedNodes(ed()), 2);
-    QTest::keyClick(list->lineEdit(), Qt::Key_Return);
+    typeKey(Qt::Key_Return);
+    EXPECT_EQ(panelText(5), "Project ine saved!");
+    EXPECT_EQ(QApplication::focusWidget(), find("picS"));
     EXPECT_TRUE(std::filesystem::exists(folder_.path / "zoo" / "ine.bot"));
     press("new");
     EXPECT_EQ(panelText(1), "Nodes: 0");

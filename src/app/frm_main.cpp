@@ -73,6 +73,7 @@ void frmMain::Form_Load(const QString& folder) {
     layOutWindow();
     showGlobalValues(ed_);
     showCounts(ed_);
+    panel(ed_, 3) = "Cycles: 0";
     LoadListOfFileNames(ed_, host_, true);
     if (!ed_.marks.mnuAutoResume) ClearAnimation(ed_);
     DisplayScene(ed_, -1, -1);
@@ -154,8 +155,12 @@ void frmMain::changeEvent(QEvent* event) {
 void frmMain::placePathWindow(bool visible) {
     if (visible) {
         const QRect main = frameGeometry();
-        frmPath_->setGeometry(main.left() + main.width() / 4, main.top() + main.height() + pixels(100),
-                              main.width() / 2, main.height() / 2);
+        QRect place(main.left() + main.width() / 4, main.top() + main.height() + pixels(100),
+                    main.width() / 2, main.height() / 2);
+        // Below a window that reaches down to the end of the screen nobody would see it.
+        const QRect visibleArea = screen()->availableGeometry();
+        if (!visibleArea.intersects(place)) place.moveBottom(visibleArea.bottom());
+        frmPath_->setGeometry(place);
     }
     frmPath_->setVisible(visible);
 }
@@ -165,17 +170,35 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     // the selected node's sprite.
     if (event->type() == QEvent::Wheel && (watched == bars_.lstSaved || watched == bars_.lstSprites))
         return true;
-    if (watched != bars_.lstSaved->lineEdit()) return QMainWindow::eventFilter(watched, event);
+    const bool typing = watched == bars_.lstSaved || watched == bars_.lstSaved->lineEdit();
     // While a name is typed, no key is a shortcut of the menus; Alt still opens them.
-    if (event->type() == QEvent::ShortcutOverride) {
+    if (typing && event->type() == QEvent::ShortcutOverride) {
         event->setAccepted(!static_cast<QKeyEvent*>(event)->modifiers().testFlag(Qt::AltModifier));
-        return false;
+        return true;
     }
-    if (event->type() != QEvent::KeyPress) return false;
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
-    perform([](Editor& ed, Host& host) { lstSaved_Enter(ed, host); });
-    return true;
+    if (typing && event->type() == QEvent::KeyPress)
+        return typedInList(static_cast<QKeyEvent*>(event)->key());
+    return QMainWindow::eventFilter(watched, event);
+}
+
+// Keys of the project list that do not edit its text. True for those.
+bool frmMain::typedInList(int key) {
+    switch (key) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            perform([](Editor& ed, Host& host) { lstSaved_Enter(ed, host); });
+            picS_->setFocus();
+            return true;
+        case Qt::Key_Escape:
+            picS_->setFocus();
+            return true;
+        case Qt::Key_Up:
+        case Qt::Key_Down:  // show the names instead of loading the next one over the model
+            bars_.lstSaved->showPopup();
+            return true;
+        default:
+            return false;
+    }
 }
 
 void frmMain::showRecord() {

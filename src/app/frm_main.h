@@ -69,6 +69,7 @@ private:
     void loadSprites();
     void restorePlacement(const Placement& placement);
     void placePathWindow(bool visible);
+    bool typedInList(int key);
     void layOutWindow();
 
     void showRecord();

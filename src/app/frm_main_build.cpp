@@ -137,12 +137,12 @@ void frmMain::connectViews() {
     host_.placePathWindow = [this](bool visible) { placePathWindow(visible); };
     host_.layOutWindow = [this] { layOutWindow(); };
     host_.messageFetched = [this](const QString& text, const QString& problem) {
-        perform([&](Editor& ed, Host&) {
-            if (problem.isEmpty())
-                messageArrived(ed, text.toStdString());
-            else
-                messageFailed(ed, problem.toStdString());
-        });
+        // It may arrive while a box is open, and changes nothing but status panel 5.
+        if (problem.isEmpty())
+            messageArrived(ed_, text.toStdString());
+        else
+            messageFailed(ed_, problem.toStdString());
+        showRecord();
     };
 }
 

@@ -2,6 +2,7 @@
 
 #include "model/connected.h"
 #include "model/host.h"
+#include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
 
@@ -34,6 +35,7 @@ void selectCreated(Editor& ed, std::int32_t node) {
     ed.HoverNode = node;
     ed.SelectedLink = none;
     ed.HoverLink = none;
+    DisplayNodeData(ed, node);
 }
 
 void redrawStripAndScene(Editor& ed) {

@@ -2,6 +2,7 @@
 
 #include "model/host.h"
 #include "model/numbers.h"
+#include "model/readout.h"
 #include "model/redraw.h"
 #include "model/shooter_aim.h"
 #include "model/store.h"
@@ -52,6 +53,7 @@ void mnuFire_Click(Editor& ed, Host&) {
     launch(ed, shooter, ball);
     const std::int32_t fired = appendNode(ed, ball);
     if (ed.marks.mnuCannonBallFocus) ed.SelectedNode = fired;
+    DisplayNodeData(ed, ed.SelectedNode);
     redrawPhaseManager(ed, ed.AnimationTime);
     DisplayScene(ed, -1, -1);
 }

@@ -106,7 +106,10 @@ bool exportMail(Editor& ed, Host& host) {
 
 bool SaveFile(Editor& ed, Host& host, const std::string& name) {
     const std::string problem = storeProject(ed, name);
-    if (!problem.empty()) tell(host, problem);
+    if (problem.empty())
+        panel(ed, 5) = "Project " + name + " saved!";
+    else
+        tell(host, problem);
     return problem.empty();
 }
 

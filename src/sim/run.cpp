@@ -47,6 +47,7 @@ void repositionClicked(Editor& ed, Host&) {
     clearPath(ed);
     RestoreState(ed);
     ed.AnimationTime = 0;
+    showCounts(ed);
     DisplayScene(ed, -1, -1);
 }
 
