@@ -40,6 +40,7 @@ void selectCreated(Editor& ed, std::int32_t node) {
 
 void redrawStripAndScene(Editor& ed) {
     redrawPhaseManager(ed, ed.AnimationTime);
+    showCounts(ed);
     DisplayScene(ed, -1, -1);
 }
 

@@ -25,7 +25,7 @@ Link* usedSelectedLink(Editor& ed);
 // Makes a node just created the selection.
 void selectCreated(Editor& ed, std::int32_t node);
 
-// The phase strip, if shown, then the scene.
+// The phase strip, if shown, the counts, then the scene.
 void redrawStripAndScene(Editor& ed);
 
 // A prerequisite is missing: says so in status panel 5 and beeps.

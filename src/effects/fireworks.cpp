@@ -62,6 +62,7 @@ void timerFireWorks_Timer(Editor& ed) {
     if (ed.FireworksTicks % 5 == 0) last = addBurst(ed, centre, true);
     if (ed.FireworksTicks % 2 != 0) last = addBurst(ed, centre, false);
     redrawPhaseManager(ed, ed.AnimationTime);
+    showCounts(ed);
     DisplayScene(ed, -1, -1);
     panel(ed, 5) =
         "Node ring created (" + std::to_string(last.sparks) + " : " + std::to_string(last.radius) + ")";

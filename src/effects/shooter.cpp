@@ -55,6 +55,7 @@ void mnuFire_Click(Editor& ed, Host&) {
     if (ed.marks.mnuCannonBallFocus) ed.SelectedNode = fired;
     DisplayNodeData(ed, ed.SelectedNode);
     redrawPhaseManager(ed, ed.AnimationTime);
+    showCounts(ed);
     DisplayScene(ed, -1, -1);
 }
 

@@ -144,6 +144,7 @@ void mnuCompact_Click(Editor& ed, Host& host) {
     ed.Nodes = std::move(nodes);
     ed.Links = std::move(links);
     redrawPhaseManager(ed, ed.AnimationTime);
+    showCounts(ed);
     DisplayScene(ed, -1, -1);
     panel(ed, 5) = "Compact complete.   Nodes: " + number(oldNodes) + " to " + number(lastNode(ed)) +
                    "      Links: " + number(oldLinks) + " to " + number(lastLink(ed));
