@@ -1,0 +1,131 @@
+// The sample projects as a new user meets them: first-run settings, the start button, and time.
+
+#include "project/zoo.h"
+#include "effects/shooter.h"
+#include "model/store.h"
+#include "project/library.h"
+#include "rig.h"
+#include "sim/run.h"
+#include "ui/settings.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+
+namespace zentrik {
+
+namespace {
+
+struct EmptyStore : SettingsStore {
+    std::optional<std::string> read(const std::string&) override { return {}; }
+    void write(const std::string&, const std::string&) override {}
+};
+
+Editor load(const std::string& name, std::int32_t width, std::int32_t height) {
+    Editor ed;
+    EmptyStore store;
+    Placement placement;
+    ScriptedHost host;
+    getSettings(ed, placement, store);
+    ed.sceneWidth = width;
+    ed.sceneHeight = height;
+    ed.programFolder = ZENTRIK_SOURCE_DIR;
+    OpenFile(ed, host, name);
+    EXPECT_EQ(host.transcript, "");
+    return ed;
+}
+
+double centre(const Editor& ed) {
+    double sum = 0;
+    forEachNode(ed, [&](std::int32_t, const Node& node) { sum += node.X; });
+    return sum / UsedNodes(ed);
+}
+
+// What a run came to at its worst.
+struct Course {
+    double speed = 0, stretch = 0;            // fastest node; longest link over its rest length
+    double leftmost = 1e9, rightmost = -1e9;  // of the model's centre
+};
+
+void look(const Editor& ed, Course& course) {
+    forEachNode(ed, [&](std::int32_t, const Node& node) {
+        course.speed = std::max(course.speed, std::hypot(double(node.Vx), double(node.Vy)));
+    });
+    forEachLink(ed, [&](std::int32_t, const Link& link) {
+        course.stretch = std::max(course.stretch, double(link.CurrentLength) / double(link.RestLength));
+    });
+    course.leftmost = std::min(course.leftmost, centre(ed));
+    course.rightmost = std::max(course.rightmost, centre(ed));
+}
+
+Course run(Editor& ed, int steps) {
+    Course course;
+    ScriptedHost host;
+    ed.buttons.start = true;
+    startClicked(ed, host);
+    for (int step = 1; step <= steps && ed.Timer1.enabled; ++step) {
+        Timer1_Timer(ed);
+        if (step % 10 == 0) look(ed, course);
+    }
+    EXPECT_TRUE(ed.Timer1.enabled) << ed.panels[4];
+    return course;
+}
+
+std::vector<std::string> names() { return projectNames(ZENTRIK_SOURCE_DIR); }
+
+TEST(Zoo, FitsTheSmallestSceneAndHasATitle) {
+    EXPECT_GE(names().size(), 12U);
+    for (const std::string& name : names()) {
+        SCOPED_TRACE(name);
+        const Editor ed = load(name, 14280, 3100);
+        EXPECT_NE(ed.ProjectTitle, "");
+        forEachNode(ed, [&](std::int32_t i, const Node& node) {
+            EXPECT_TRUE(node.X > 60 && node.X < 14175 && node.Y > 60 && node.Y < 2990) << "node " << i;
+        });
+        forEachLink(ed, [&](std::int32_t j, const Link& link) { EXPECT_GT(link.RestLength, 1) << j; });
+    }
+}
+
+// In a large scene whatever is not hung up falls a long way first.
+TEST(Zoo, RunsForMinutesInSmallAndLargeScenes) {
+    const std::set<std::string> travellers{"car", "caterpillar", "walker", "wheel"};
+    struct Scene {
+        std::int32_t width, height;
+        int steps;
+        double travel;
+    };
+    for (const Scene& scene : {Scene{14280, 3100, 6000, 2500}, Scene{28000, 15000, 3000, 700}})
+        for (const std::string& name : names()) {
+            SCOPED_TRACE(name + " in a scene " + std::to_string(scene.width) + " twips wide");
+            Editor ed = load(name, scene.width, scene.height);
+            const Course course = run(ed, scene.steps);
+            EXPECT_LT(course.speed, 15000);
+            EXPECT_LT(course.stretch, 3);
+            if (travellers.contains(name)) {
+                EXPECT_GT(course.rightmost - course.leftmost, scene.travel);
+            }
+        }
+}
+
+TEST(Zoo, CannonsFire) {
+    Editor ed = load("range", 14280, 3100);
+    ScriptedHost host;
+    run(ed, 10);
+    std::vector<std::int32_t> shooters;
+    forEachNode(ed, [&](std::int32_t i, const Node& node) {
+        if (node.Res1 > 0 && node.Locked) shooters.push_back(i);
+    });
+    ASSERT_FALSE(shooters.empty());
+    for (const std::int32_t i : shooters) {
+        ed.SelectedNode = i;
+        mnuFire_Click(ed, host);
+        const Node& ball = ed.Nodes.back();
+        EXPECT_TRUE(ball.Vx > 2000 && ball.Vy < -2000) << "to the right and up";
+    }
+}
+
+}  // namespace
+
+}  // namespace zentrik
