@@ -336,6 +336,19 @@ TEST_F(Window, ARefusedCloseChangesNothing) {
     EXPECT_FALSE(ed().Timer1.enabled);
 }
 
+TEST_F(Window, AStoreThatCannotBeWrittenIsSaidAndTheProgramGoesOn) {
+    const QString blocked = QString::fromStdString((folder_.path / "blocked").string());
+    putFile(blocked.toStdString(), "not a folder");
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, blocked);
+    start();
+    EXPECT_TRUE(ed().marks.mnuWalls) << "defaults";
+    QString said;
+    answerNext({}, Qt::Key_Return, &said);
+    EXPECT_TRUE(window_->close());
+    EXPECT_TRUE(said.contains("cannot be read or written")) << said.toStdString();
+    EXPECT_TRUE(std::filesystem::exists(folder_.path / "zoo" / "resume.bot"));
+}
+
 TEST_F(Window, StripsAndPathOpenBelow) {
     click({100, 100});
     const int height = find("picS")->height();
