@@ -60,6 +60,12 @@ void look(const Editor& ed, Course& course) {
     course.rightmost = std::max(course.rightmost, centre(ed));
 }
 
+double height(const Editor& ed) {
+    const auto byY = [](const Node& a, const Node& b) { return a.Y < b.Y; };
+    const auto [top, bottom] = std::minmax_element(ed.Nodes.begin() + 1, ed.Nodes.end(), byY);
+    return bottom->Y - top->Y;
+}
+
 Course run(Editor& ed, int steps) {
     Course course;
     ScriptedHost host;
@@ -91,18 +97,23 @@ TEST(Zoo, FitsTheSmallestSceneAndHasATitle) {
 // In a large scene whatever is not hung up falls a long way first.
 TEST(Zoo, RunsForMinutesInSmallAndLargeScenes) {
     const std::set<std::string> travellers{"car", "caterpillar", "walker", "wheel"};
+    const std::set<std::string> standing{"car", "jelly", "tower", "walker", "wheel"};
     struct Scene {
         std::int32_t width, height;
         int steps;
         double travel;
     };
-    for (const Scene& scene : {Scene{14280, 3100, 6000, 2500}, Scene{28000, 15000, 3000, 700}})
+    for (const Scene& scene : {Scene{14280, 3100, 12000, 4000}, Scene{28000, 15000, 4000, 1500}})
         for (const std::string& name : names()) {
             SCOPED_TRACE(name + " in a scene " + std::to_string(scene.width) + " twips wide");
             Editor ed = load(name, scene.width, scene.height);
+            const double before = height(ed);
             const Course course = run(ed, scene.steps);
             EXPECT_LT(course.speed, 15000);
             EXPECT_LT(course.stretch, 3);
+            if (standing.contains(name)) {
+                EXPECT_GT(height(ed), 0.75 * before) << "folded up, as by a fall";
+            }
             if (travellers.contains(name)) {
                 EXPECT_GT(course.rightmost - course.leftmost, scene.travel);
             }

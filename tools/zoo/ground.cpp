@@ -50,7 +50,7 @@ Wheel addWheel(Editor& ed, double x, double y, double radius, std::int32_t color
 Editor car() {
     Editor ed =
         project("Out for a drive",
-                {.gravity = 0.3F, .friction = 0.3F, .viscosity = 0.1F, .bounce = 0.1F, .deltaAngle = 1.8F});
+                {.gravity = 0.3F, .friction = 0.5F, .viscosity = 0.1F, .bounce = 0.1F, .deltaAngle = 1.2F});
     const double x = 1400, y = 2300, apart = 2000;
     const Wheel back = addWheel(ed, x, y, 480, ink, 10), front = addWheel(ed, x + apart, y, 480, ink, 10);
     const Numbers sill = row(ed, x - 500, y - 650, x + apart + 600, y - 650, 6, coral);
@@ -62,7 +62,7 @@ Editor car() {
         join(ed, roof[m], belt[m + 1], 12);
         join(ed, roof[m], belt[m + 2], 12);
     }
-    const Nose bumper{12, 1.5F};
+    const Nose bumper{25, 3};
     addNose(ed, x - 900, y - 800, {sill[0], belt[0], sill[1]}, stone, bumper);
     addNose(ed, x + apart + 1000, y - 800, {sill[5], belt[5], sill[4]}, amber, bumper);
     for (const std::size_t m : {0U, 1U, 2U, 3U}) join(ed, back.hub, sill[m], 12);
@@ -74,23 +74,23 @@ Editor car() {
 Editor caterpillar() {
     Editor ed =
         project("A caterpillar on its way",
-                {.gravity = 0.15F, .friction = 0.7F, .viscosity = 0.15F, .bounce = 0.1F, .deltaAngle = 5});
+                {.gravity = 0.15F, .friction = 0.7F, .viscosity = 0.25F, .bounce = 0.1F, .deltaAngle = 7});
     const int cells = 16;
     const Numbers back = row(ed, 800, 2450, 5300, 2450, cells, leaf);
     const Numbers belly = row(ed, 800, 2750, 5300, 2750, cells, lime);
-    const Numbers above = chain(ed, back, 10), below = chain(ed, belly, 10);
-    brace(ed, back, belly, 10);
-    // The body bends in waves that run to its tail; the ends keep stiff.
+    const Numbers above = chain(ed, back, 16), below = chain(ed, belly, 16);
+    brace(ed, back, belly, 16);
+    // The body bends in waves that run to its tail; the ends keep rather still.
     for (std::size_t m = 0; m < above.size(); ++m) {
         const double fromEnd = static_cast<double>(std::min(m, above.size() - 1 - m));
-        const double phase = 48.0 * static_cast<double>(m), force = 0.3 * std::min(1.0, fromEnd / 4);
+        const double phase = 48.0 * static_cast<double>(m), force = 0.22 * std::min(1.0, fromEnd / 4);
         drive(ed, above[m], phase, force);
         drive(ed, below[m], phase + 180, force);
     }
     for (std::size_t m = 2; m < back.size(); m += 4) nodeAt(ed, back[m]).color = amber;
-    const Nose onTheGround{2, 0.4F};
-    addNose(ed, 350, 2750, {back.front(), belly.front(), back[1]}, teal, onTheGround);
-    addNose(ed, 5750, 2750, {back.back(), belly.back(), back[cells - 2]}, coral, onTheGround);
+    const Nose feeler{4, 2};
+    addNose(ed, 250, 2600, {back.front(), belly.front(), back[2]}, teal, feeler);
+    addNose(ed, 5850, 2600, {back.back(), belly.back(), back[cells - 3]}, coral, feeler);
     return ed;
 }
 
@@ -153,26 +153,26 @@ Editor tower() {
 Editor walker() {
     Editor ed =
         project("Six legs out for a walk",
-                {.gravity = 0.25F, .friction = 0.9F, .viscosity = 0.1F, .bounce = 0.1F, .deltaAngle = 5});
-    const Numbers back = row(ed, 1100, 1350, 4700, 1350, 9, navy, 1.5F);
+                {.gravity = 0.25F, .friction = 0.9F, .viscosity = 0.1F, .bounce = 0.1F, .deltaAngle = 2.6F});
+    const Numbers back = row(ed, 1100, 1150, 4700, 1150, 9, navy, 1.5F);
     const Numbers belly = row(ed, 1100, 1750, 4700, 1750, 9, sky, 1.5F);
-    chain(ed, back, 18);
-    chain(ed, belly, 18);
-    brace(ed, back, belly, 18);
+    chain(ed, back, 24);
+    chain(ed, belly, 24);
+    brace(ed, back, belly, 24);
     // A foot hangs from two hips by struts that take turns, so that it goes round; the feet of a pair are
     // half a turn apart, and so are neighbouring pairs.
     for (int m = 0; m < 6; ++m) {
         const std::size_t hip = static_cast<std::size_t>(m / 2 * 3);
-        const std::int32_t foot = ball(ed, nodeAt(ed, belly[hip + 1]).X, 2700, m % 2 ? coral : amber);
+        const std::int32_t foot = ball(ed, nodeAt(ed, belly[hip + 1]).X, 2700, m % 2 ? coral : amber, 1.5F);
         const double beat = 180.0 * (m + m / 2);
-        drive(ed, join(ed, belly[hip], foot, 20), beat, 0.16);
-        drive(ed, join(ed, belly[hip + 2], foot, 20), beat + 90, 0.16);
+        drive(ed, join(ed, belly[hip], foot, 30), beat, 0.15);
+        drive(ed, join(ed, belly[hip + 2], foot, 30), beat + 90, 0.15);
     }
-    const Nose light{0.7F, 12}, heavy{4, 1};
-    const std::int32_t head = addNose(ed, 5150, 950, {back.back(), belly.back()}, navy, light);
-    addNose(ed, 5600, 1150, {back.back(), belly.back(), head}, coral, heavy);
-    const std::int32_t rump = addNose(ed, 750, 1250, {back[0], back[1], belly[0]}, sky, light);
-    addNose(ed, 330, 850, {back[0], back[1], rump}, coral, heavy);
+    const Nose light{0.7F, 12}, heavy{7, 1.6F};
+    const std::int32_t head = addNose(ed, 5150, 800, {back.back(), belly.back()}, navy, light);
+    addNose(ed, 5600, 1000, {back.back(), belly.back(), head}, coral, heavy);
+    const std::int32_t rump = addNose(ed, 750, 1100, {back[0], back[1], belly[0]}, sky, light);
+    addNose(ed, 330, 750, {back[0], back[1], rump}, coral, heavy);
     return ed;
 }
 
