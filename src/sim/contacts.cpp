@@ -158,7 +158,8 @@ std::optional<float> Barriers::BarrierTest(const Editor& ed, Node& node) const {
     return last;
 }
 
-void Barriers::deflect(const Editor& ed, Node& node) {
+void Barriers::deflect(Editor& ed, std::int32_t i) {
+    Node& node = nodeAt(ed, i);
     const std::size_t count = links_.size();
     for (std::size_t from = 0; from < count;) {
         const std::size_t to = std::min(count, from + 64);
@@ -172,8 +173,9 @@ void Barriers::deflect(const Editor& ed, Node& node) {
         for (std::size_t m = from; anyNear != 0 && m < to; ++m) {
             if (near_[m] == 0) continue;
             meetBarrier(ed, linkAt(ed, links_[m]), node);
-            // A node put elsewhere is near other barriers than before.
+            // A node put elsewhere is near other barriers than before, and takes its own along.
             if (node.X != x || node.Y != y) {
+                nodeMoved(ed, i);
                 next = m + 1;
                 break;
             }

@@ -47,7 +47,7 @@ public:
     // barrier was near enough to measure one), or nothing when a short barrier ended the test.
     std::optional<float> BarrierTest(const Editor& ed, Node& node) const;
     // The same change to the node for a fraction of the cost, without the distance.
-    void deflect(const Editor& ed, Node& node);
+    void deflect(Editor& ed, std::int32_t i);
 
 private:
     std::vector<std::int32_t> links_;

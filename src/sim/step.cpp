@@ -209,7 +209,8 @@ private:
     void meetBarriers(std::int32_t i, Node& node) {
         if (contacts_.movedOthers) takeOverMoves();
         if (i < last_) {
-            work.barriers.deflect(ed, node);
+            if (!work.barriers.empty()) work.barriers.nodeMoved(ed, i);
+            work.barriers.deflect(ed, i);
         } else if (const auto distance = work.barriers.BarrierTest(ed, node)) {
             panel(ed, 5) = realText(*distance);
         }
