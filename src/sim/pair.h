@@ -2,6 +2,7 @@
 // x and y side by side, so that one instruction works on both. Lane 0 is x, lane 1 is y; arithmetic
 // between pairs goes lane by lane and rounds exactly as it does for single numbers.
 
+#include <cmath>
 #include <cstdint>
 
 namespace zentrik {
@@ -19,7 +20,6 @@ inline Float2 round32(Double2 pair) { return __builtin_convertvector(pair, Float
 inline Double2 wide(Float2 pair) { return __builtin_convertvector(pair, Double2); }
 inline Double2 wide(Int2 pair) { return __builtin_convertvector(pair, Double2); }
 
-// Difference of two places as 32-bit reals; no difference of 32-bit integers overflows on the way.
-inline Float2 difference(Int2 a, Int2 b) { return round32(wide(a) - wide(b)); }
+inline Double2 squareRoot(Double2 pair) { return Double2{std::sqrt(pair[0]), std::sqrt(pair[1])}; }
 
 }  // namespace zentrik
