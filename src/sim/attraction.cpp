@@ -12,19 +12,40 @@ namespace {
 
 using Attractor = Attraction::Attractor;
 
+// From an attracting node to the nodes in the lanes. Each quantity has its own short loop: the processor
+// looks ahead only so far, and rounds of a short loop overlap better.
 struct Pulls {
+    NodeLanes::Column<double> dx, dy, distance, strength;
     NodeLanes::Column<float> x, y;
 };
 
-// The formula itself: g / (d / 10000)^2 along the line to the attracting node.
-[[gnu::noinline]] void findPulls(const Attractor& a, const NodeLanes& lanes, Pulls& pulls) {
+[[gnu::noinline]] void subtract(const Attractor& a, const NodeLanes& lanes, Pulls& pulls) {
     for (std::size_t m = 0; m < lanes.count; ++m) {
-        const double dx = wide(real(lanes.x[m] - a.x)), dy = wide(real(lanes.y[m] - a.y));
-        const double distance = wide(real(std::sqrt(dx * dx + dy * dy)));
+        pulls.dx[m] = lanes.x.place[m] - a.x;
+        pulls.dy[m] = lanes.y.place[m] - a.y;
+    }
+}
+
+[[gnu::noinline]] void roundDifferences(std::size_t count, Pulls& pulls) {
+    for (std::size_t m = 0; m < count; ++m) {
+        pulls.dx[m] = wide(real(pulls.dx[m]));
+        pulls.dy[m] = wide(real(pulls.dy[m]));
+    }
+}
+
+[[gnu::noinline]] void measure(std::size_t count, Pulls& pulls) {
+    for (std::size_t m = 0; m < count; ++m)
+        pulls.distance[m] = wide(real(std::sqrt(pulls.dx[m] * pulls.dx[m] + pulls.dy[m] * pulls.dy[m])));
+}
+
+// The formula itself: g / (d / 10000)^2 along the line to the attracting node.
+[[gnu::noinline]] void findPulls(const Attractor& a, std::size_t count, Pulls& pulls) {
+    for (std::size_t m = 0; m < count; ++m) {
+        const double distance = pulls.distance[m];
         const double square = (distance / 10000) * (distance / 10000);
         const bool apart = distance > 0;  // at the same place, as the node itself is: no pull
-        pulls.x[m] = apart ? real(dx / distance * a.gravity / square) : 0;
-        pulls.y[m] = apart ? real(dy / distance * a.gravity / square) : 0;
+        pulls.x[m] = apart ? real(pulls.dx[m] / distance * a.gravity / square) : 0;
+        pulls.y[m] = apart ? real(pulls.dy[m] / distance * a.gravity / square) : 0;
     }
 }
 
@@ -39,43 +60,47 @@ bool nearMiddle(double value) {
 
 // The same with one division instead of five, which bound the plain formula: g 10000^2 / d^3 times the
 // difference. It rounds a little differently on the way; false when that could show in a result.
-[[gnu::noinline]] bool findPullsFast(const Attractor& a, const NodeLanes& lanes, Pulls& pulls) {
+[[gnu::noinline]] bool findPullsFast(const Attractor& a, std::size_t count, Pulls& pulls) {
     const double scaled = a.gravity * 1e8;
+    for (std::size_t m = 0; m < count; ++m) {
+        const double d = pulls.distance[m];
+        pulls.strength[m] = d > 0 ? scaled / (d * d * d) : 0;
+    }
     std::uint32_t doubtful = 0;
-    for (std::size_t m = 0; m < lanes.count; ++m) {
-        const double dx = wide(real(lanes.x[m] - a.x)), dy = wide(real(lanes.y[m] - a.y));
-        const double distance = wide(real(std::sqrt(dx * dx + dy * dy)));
-        const double strength = distance > 0 ? scaled / (distance * distance * distance) : 0;
-        const double pullX = dx * strength, pullY = dy * strength;
-        doubtful |= static_cast<std::uint32_t>(nearMiddle(pullX) | nearMiddle(pullY));
-        pulls.x[m] = real(pullX);
-        pulls.y[m] = real(pullY);
+    for (std::size_t m = 0; m < count; ++m) {
+        const double x = pulls.dx[m] * pulls.strength[m], y = pulls.dy[m] * pulls.strength[m];
+        doubtful |= static_cast<std::uint32_t>(nearMiddle(x) | nearMiddle(y));
+        pulls.x[m] = real(x);
+        pulls.y[m] = real(y);
     }
     return doubtful == 0;
 }
 
 [[gnu::noinline]] void addPulls(NodeLanes& lanes, const Pulls& pulls) {
     for (std::size_t m = 0; m < lanes.count; ++m) {
-        lanes.fx[m] = real(lanes.fx[m] - wide(pulls.x[m]) * 10);
-        lanes.fy[m] = real(lanes.fy[m] - wide(pulls.y[m]) * 10);
+        lanes.x.force[m] = real(lanes.x.force[m] - wide(pulls.x[m]) * 10);
+        lanes.y.force[m] = real(lanes.y.force[m] - wide(pulls.y[m]) * 10);
     }
 }
 
 // Weaker pulls may be so small that 32-bit reals have fewer digits for them.
 bool strongEnough(const Attractor& a) { return std::fabs(a.gravity) > 1e-16; }
 
+Attractor attractorOf(std::int32_t i, const Node& node) {
+    const double gravity = node.Used ? wide(node.Gravity) : 0;
+    return {i, double(node.X), double(node.Y), gravity, isSmall(node.X, node.Y)};
+}
+
 }  // namespace
 
-void Attraction::add(std::int32_t i, const Node& node) {
-    attractors_.push_back({i, double(node.X), double(node.Y), wide(node.Gravity)});
-}
+void Attraction::add(std::int32_t i, const Node& node) { attractors_.push_back(attractorOf(i, node)); }
 
 void Attraction::update(std::int32_t i, const Node& node) {
     const auto found =
         std::lower_bound(attractors_.begin(), attractors_.end(), i,
                          [](const Attractor& a, std::int32_t number) { return a.number < number; });
     if (found == attractors_.end() || found->number != i) return;
-    *found = {i, double(node.X), double(node.Y), node.Used ? wide(node.Gravity) : 0};
+    *found = attractorOf(i, node);
 }
 
 void Attraction::updateAll(const Editor& ed) {
@@ -83,9 +108,12 @@ void Attraction::updateAll(const Editor& ed) {
 }
 
 void Attraction::pull(NodeLanes& lanes) const {
-    Pulls pulls{};
+    Pulls pulls;
     for (const Attractor& a : attractors_) {
-        if (!strongEnough(a) || !findPullsFast(a, lanes, pulls)) findPulls(a, lanes, pulls);
+        subtract(a, lanes, pulls);
+        if (!lanes.small || !a.small) roundDifferences(lanes.count, pulls);
+        measure(lanes.count, pulls);
+        if (!strongEnough(a) || !findPullsFast(a, lanes.count, pulls)) findPulls(a, lanes.count, pulls);
         addPulls(lanes, pulls);
     }
 }

@@ -14,11 +14,22 @@ struct NodeLanes {
     static constexpr std::size_t size = 64;
     template <class T>
     using Column = std::array<T, size>;
+    struct Axis {
+        Column<double> place;  // twips
+        Column<float> velocity, force;
+    };
 
     std::size_t count = 0;
-    Column<double> x{}, y{};  // twips
-    Column<float> fx{}, fy{}, vx{}, vy{}, mass{};
+    bool small = false;  // all places are: see isSmall
+    Axis x, y;
+    Column<float> mass;
 };
+
+// The difference of any two small places is exact as a 32-bit real.
+inline bool isSmall(std::int32_t x, std::int32_t y) {
+    constexpr std::uint32_t limit = 1U << 23;
+    return ((static_cast<std::uint32_t>(x) + limit) | (static_cast<std::uint32_t>(y) + limit)) < 2 * limit;
+}
 
 // The nodes that attract others. Positions are those of this moment of the step, so whoever moves a
 // node while it runs must say so.
@@ -38,6 +49,7 @@ public:
     struct Attractor {
         std::int32_t number;
         double x, y, gravity;
+        bool small;
     };
 
 private:

@@ -20,6 +20,25 @@ bool inTheWorld(double x, double y) {
     return std::fabs(x) <= farthest && std::fabs(y) <= farthest;
 }
 
+// What moves all nodes along one axis.
+struct Motion {
+    double dt, viscosity, wind, gravity;
+};
+
+// Drag and wind, velocity, position from the new velocity. (Half of a quotient is the quotient of the
+// half, to the last bit: no 32-bit force is so small that halving it could lose one.)
+[[gnu::noinline]] void integrate(const NodeLanes& lanes, const NodeLanes::Axis& from, const Motion& motion,
+                                 NodeLanes::Axis& to) {
+    const auto [dt, viscosity, wind, gravity] = motion;
+    for (std::size_t m = 0; m < lanes.count; ++m) {
+        const double v = wide(from.velocity[m]);
+        const double a = real(from.force[m] - viscosity * v * 10 + wind) / wide(lanes.mass[m]);
+        const double next = wide(real((a + gravity) * dt + v));
+        to.velocity[m] = real(next);
+        to.place[m] = dt * dt * (a * 0.5) + dt * next + from.place[m];
+    }
+}
+
 std::string problemText(std::int32_t i, const char* reason) {
     return "Node " + std::to_string(i) + " " + reason;
 }
@@ -38,12 +57,14 @@ NodeStage::NodeStage(Editor& editor, ForcePoints& points, Attraction& attraction
 
 std::string NodeStage::run(float dt, std::int32_t lastFree) {
     lastFree_ = lastFree;
-    const Motion motion{dt, wide(ed.Viscosity), ed.LeftWind * 1000.0, wide(real(ed.Gravity * 10000.0))};
+    const Motion sideways{dt, wide(ed.Viscosity), ed.LeftWind * 1000.0, 0};
+    const Motion downwards{dt, wide(ed.Viscosity), 0, wide(real(ed.Gravity * 10000.0))};
     std::string problem;
     for (std::int32_t i = 1; i <= lastNode(ed) && problem.empty();) {
         const std::int32_t end = gatherRun(i);
         if (attracts_) attraction_.pull(lanes_);
-        integrate(lanes_, motion, arrivals_);
+        integrate(lanes_, lanes_.x, sideways, arrivalX_);
+        integrate(lanes_, lanes_.y, downwards, arrivalY_);
         i = commitRun(i, end, problem);
     }
     if (problem.empty() && contacts_.touched) return checkVelocities();
@@ -53,39 +74,27 @@ std::string NodeStage::run(float dt, std::int32_t lastFree) {
 // Fills the lanes with the free nodes of a run; gives the node behind it.
 std::int32_t NodeStage::gatherRun(std::int32_t from) {
     const std::int32_t last = lastNode(ed);
+    lanes_.small = true;
     std::size_t m = 0;
     std::int32_t i = from;
     for (bool ends = false; i <= last && m < NodeLanes::size && !ends; ++i) {
         const Node& node = nodeAt(ed, i);
+        __builtin_prefetch(&node + 24);
         if (!node.Used || node.Locked) continue;
         const Float2 force = pointAt(points_, i).force;
-        lanes_.x[m] = node.X;
-        lanes_.y[m] = node.Y;
-        lanes_.fx[m] = force[0];
-        lanes_.fy[m] = force[1];
-        lanes_.vx[m] = node.Vx;
-        lanes_.vy[m] = node.Vy;
+        lanes_.x.place[m] = node.X;
+        lanes_.y.place[m] = node.Y;
+        lanes_.x.force[m] = force[0];
+        lanes_.y.force[m] = force[1];
+        lanes_.x.velocity[m] = node.Vx;
+        lanes_.y.velocity[m] = node.Vy;
         lanes_.mass[m] = node.Mass;
+        lanes_.small &= isSmall(node.X, node.Y);
         ends = node.Gravity != 0;
         ++m;
     }
     lanes_.count = m;
     return i;
-}
-
-// Drag and wind, velocity, position from the new velocity. (Half of a quotient is the quotient of the
-// half, to the last bit: no 32-bit force is so small that halving it could lose one.)
-void NodeStage::integrate(const NodeLanes& lanes, const Motion& motion, Arrivals& arrivals) {
-    const auto [dt, viscosity, wind, gravity] = motion;
-    for (std::size_t m = 0; m < lanes.count; ++m) {
-        const double mass = wide(lanes.mass[m]), vx = wide(lanes.vx[m]), vy = wide(lanes.vy[m]);
-        const double ax = real(lanes.fx[m] - viscosity * vx * 10 + wind) / mass;
-        const double ay = real(lanes.fy[m] - viscosity * vy * 10) / mass;
-        arrivals.vx[m] = real(ax * dt + vx);
-        arrivals.vy[m] = real((ay + gravity) * dt + vy);
-        arrivals.x[m] = dt * dt * (ax * 0.5) + dt * arrivals.vx[m] + lanes.x[m];
-        arrivals.y[m] = dt * dt * (ay * 0.5) + dt * arrivals.vy[m] + lanes.y[m];
-    }
 }
 
 // Hands a run's arrivals to its nodes, up to the first one at a wall; gives the node to go on with.
@@ -118,24 +127,27 @@ const char* NodeStage::hold(std::int32_t i, Node& node) const {
 }
 
 const char* NodeStage::move(std::int32_t i, Node& node, std::size_t lane) {
-    node.Vx = arrivals_.vx[lane];
-    node.Vy = arrivals_.vy[lane];
-    if (!inTheWorld(arrivals_.x[lane], arrivals_.y[lane])) return isFinite(node) ? leftTheWorld : notFinite;
-    node.X = static_cast<std::int32_t>(std::llrint(arrivals_.x[lane]));
-    node.Y = static_cast<std::int32_t>(std::llrint(arrivals_.y[lane]));
+    node.Vx = arrivalX_.velocity[lane];
+    node.Vy = arrivalY_.velocity[lane];
+    if (!inTheWorld(arrivalX_.place[lane], arrivalY_.place[lane]))
+        return isFinite(node) ? leftTheWorld : notFinite;
+    node.X = static_cast<std::int32_t>(std::llrint(arrivalX_.place[lane]));
+    node.Y = static_cast<std::int32_t>(std::llrint(arrivalY_.place[lane]));
     node.Fx = 0;
     node.Fy = 0;
-    if (testBarriers_ || bounds_.touchedBy(node)) meetContacts(i, node);
+    const char* problem = nullptr;
+    if (testBarriers_ || bounds_.touchedBy(node)) problem = meetContacts(i, node);
     if (node.Gravity != 0) attraction_.update(i, node);
     if (ed.marks.mnuDisplayPath && i == ed.SelectedNode)
         ed.pathDots.push_back({toInt(node.X / 2.0), toInt(node.Y / 2.0), node.color});
-    return isFinite(node) ? nullptr : notFinite;
+    return problem;
 }
 
-void NodeStage::meetContacts(std::int32_t i, Node& node) {
+const char* NodeStage::meetContacts(std::int32_t i, Node& node) {
     floorAndCeiling(ed, i, bounds_);
     if (ed.marks.mnuWalls) walls(ed, i, bounds_, contacts_);
     if (testBarriers_) meetBarriers(i, node);
+    return isFinite(node) ? nullptr : notFinite;
 }
 
 // Status panel 5 shows what the last node's test found; the other nodes' are overwritten unseen.

@@ -23,16 +23,6 @@ public:
     bool wallTouched() const { return contacts_.touched; }
 
 private:
-    // What every node's motion shares.
-    struct Motion {
-        double dt, viscosity, wind, gravity;
-    };
-    // Where the nodes of a run go, if nothing comes in between.
-    struct Arrivals {
-        NodeLanes::Column<double> x, y;
-        NodeLanes::Column<float> vx, vy;
-    };
-
     Editor& ed;
     ForcePoints& points_;
     Attraction& attraction_;
@@ -42,14 +32,13 @@ private:
     std::int32_t lastFree_ = 0;
     bool attracts_, testBarriers_, recolour_;
     NodeLanes lanes_;
-    Arrivals arrivals_;
+    NodeLanes::Axis arrivalX_, arrivalY_;  // where the lanes go, if nothing comes in between
 
     std::int32_t gatherRun(std::int32_t from);
-    static void integrate(const NodeLanes& lanes, const Motion& motion, Arrivals& arrivals);
     std::int32_t commitRun(std::int32_t from, std::int32_t to, std::string& problem);
     const char* hold(std::int32_t i, Node& node) const;
     const char* move(std::int32_t i, Node& node, std::size_t lane);
-    void meetContacts(std::int32_t i, Node& node);
+    const char* meetContacts(std::int32_t i, Node& node);
     void meetBarriers(std::int32_t i, Node& node);
     std::string checkVelocities() const;
 };

@@ -110,6 +110,7 @@ void applySprings(Editor& ed, ForcePoints& points, bool placesAreSmall, std::vec
     const AnimatorClock clock{ed.buttons.animation, phase, std::fabs(real(phase))};
     SpringBatch batch;
     forEachLink(ed, [&](std::int32_t j, Link& link) {
+        __builtin_prefetch(&link + 16, 1);
         if (link.Barrier) barriers.push_back(j);
         gather(batch, link, points, clock);
         if (batch.count == SpringBatch::size) exert(batch, points, placesAreSmall);

@@ -43,16 +43,15 @@ struct Survey {
 
 Survey survey(const Editor& ed, Scratch& work) {
     Survey result;
-    constexpr std::uint32_t small = 1U << 23;
-    std::uint32_t places = 0;  // as seen from -small: below 2 * small if all are small
     work.attraction.clear();
     work.before.resize(ed.Nodes.size());
     work.points.resize(ed.Nodes.size());
-    for (std::int32_t i = 0; i <= lastNode(ed); ++i) {
+    const std::int32_t last = lastNode(ed);
+    for (std::int32_t i = 0; i <= last; ++i) {
         const Node& n = nodeAt(ed, i);
         work.before[static_cast<std::size_t>(i)] = {n.X, n.Y, n.Vx, n.Vy, n.Fx, n.Fy, n.Rotate, n.Used};
         work.points[static_cast<std::size_t>(i)] = {Double2{double(n.X), double(n.Y)}, Float2{n.Fx, n.Fy}};
-        places |= (static_cast<std::uint32_t>(n.X) + small) | (static_cast<std::uint32_t>(n.Y) + small);
+        result.placesAreSmall &= isSmall(n.X, n.Y);
         // A node's drive acts over used links whether the node itself is used or not.
         result.anyRotate |= n.Rotate != 0;
         if (!n.Used) continue;
@@ -61,7 +60,6 @@ Survey survey(const Editor& ed, Scratch& work) {
         result.lastFree = i;
         if (n.Mass == 0 && result.massless == 0) result.massless = i;
     }
-    result.placesAreSmall = places < 2 * small;
     return result;
 }
 
