@@ -25,18 +25,21 @@ struct Motion {
     double dt, viscosity, wind, gravity;
 };
 
-// Drag and wind, velocity, position from the new velocity. (Half of a quotient is the quotient of the
-// half, to the last bit: no 32-bit force is so small that halving it could lose one.)
+// Drag and wind, velocity, place from the new velocity, each in its own short loop: the processor looks
+// ahead only so far. (Half of a quotient is the quotient of the half, to the last bit: no 32-bit force
+// is so small that halving it could lose one.)
 [[gnu::noinline]] void integrate(const NodeLanes& lanes, const NodeLanes::Axis& from, const Motion& motion,
                                  NodeLanes::Axis& to) {
     const auto [dt, viscosity, wind, gravity] = motion;
+    NodeLanes::Column<double> acceleration;
     for (std::size_t m = 0; m < lanes.count; ++m) {
-        const double v = wide(from.velocity[m]);
-        const double a = real(from.force[m] - viscosity * v * 10 + wind) / wide(lanes.mass[m]);
-        const double next = wide(real((a + gravity) * dt + v));
-        to.velocity[m] = real(next);
-        to.place[m] = dt * dt * (a * 0.5) + dt * next + from.place[m];
+        to.force[m] = real(from.force[m] - viscosity * from.velocity[m] * 10 + wind);
+        acceleration[m] = to.force[m] / wide(lanes.mass[m]);
     }
+    for (std::size_t m = 0; m < lanes.count; ++m)
+        to.velocity[m] = real((acceleration[m] + gravity) * dt + from.velocity[m]);
+    for (std::size_t m = 0; m < lanes.count; ++m)
+        to.place[m] = dt * dt * (acceleration[m] * 0.5) + dt * to.velocity[m] + from.place[m];
 }
 
 std::string problemText(std::int32_t i, const char* reason) {
