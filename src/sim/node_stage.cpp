@@ -82,7 +82,7 @@ std::int32_t NodeStage::gatherRun(std::int32_t from) {
     std::int32_t i = from;
     for (bool ends = false; i <= last && m < NodeLanes::size && !ends; ++i) {
         const Node& node = nodeAt(ed, i);
-        __builtin_prefetch(&node + 24);
+        __builtin_prefetch(&node + 24, 1);  // a large model's nodes have left the cache since the survey
         if (!node.Used || node.Locked) continue;
         const Float2 force = pointAt(points_, i).force;
         lanes_.x.place[m] = node.X;
@@ -92,7 +92,7 @@ std::int32_t NodeStage::gatherRun(std::int32_t from) {
         lanes_.x.velocity[m] = node.Vx;
         lanes_.y.velocity[m] = node.Vy;
         lanes_.mass[m] = node.Mass;
-        lanes_.small &= isSmall(node.X, node.Y);
+        if (!isSmall(node.X, node.Y)) lanes_.small = false;
         ends = node.Gravity != 0;
         ++m;
     }
@@ -141,9 +141,13 @@ const char* NodeStage::move(std::int32_t i, Node& node, std::size_t lane) {
     const char* problem = nullptr;
     if (testBarriers_ || bounds_.touchedBy(node)) problem = meetContacts(i, node);
     if (node.Gravity != 0) attraction_.update(i, node);
-    if (ed.marks.mnuDisplayPath && i == ed.SelectedNode)
-        ed.pathDots.push_back({toInt(node.X / 2.0), toInt(node.Y / 2.0), node.color});
+    if (i == ed.SelectedNode) plotPath(node);
     return problem;
+}
+
+void NodeStage::plotPath(const Node& node) {
+    if (ed.marks.mnuDisplayPath)
+        ed.pathDots.push_back({toInt(node.X / 2.0), toInt(node.Y / 2.0), node.color});
 }
 
 const char* NodeStage::meetContacts(std::int32_t i, Node& node) {

@@ -38,7 +38,8 @@ private:
     std::int32_t commitRun(std::int32_t from, std::int32_t to, std::string& problem);
     const char* hold(std::int32_t i, Node& node) const;
     const char* move(std::int32_t i, Node& node, std::size_t lane);
-    const char* meetContacts(std::int32_t i, Node& node);
+    [[gnu::noinline]] void plotPath(const Node& node);
+    [[gnu::noinline]] const char* meetContacts(std::int32_t i, Node& node);
     void meetBarriers(std::int32_t i, Node& node);
     std::string checkVelocities() const;
 };

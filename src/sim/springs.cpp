@@ -33,7 +33,7 @@ double drivenRestLength(const Link& link, const AnimatorClock& clock) {
 // A run of springs side by side. One spring alone waits for its square root, then for its division, then
 // for the memory of its nodes; short loops over many keep the processor busy, and vectorise.
 struct SpringBatch {
-    static constexpr std::size_t size = 64;
+    static constexpr std::size_t size = 32;
     template <class T>
     using Column = std::array<T, size>;
 
@@ -110,7 +110,7 @@ void applySprings(Editor& ed, ForcePoints& points, bool placesAreSmall, std::vec
     const AnimatorClock clock{ed.buttons.animation, phase, std::fabs(real(phase))};
     SpringBatch batch;
     forEachLink(ed, [&](std::int32_t j, Link& link) {
-        __builtin_prefetch(&link + 16, 1);
+        __builtin_prefetch(&link + 16, 1);  // a large model's links come from far away
         if (link.Barrier) barriers.push_back(j);
         gather(batch, link, points, clock);
         if (batch.count == SpringBatch::size) exert(batch, points, placesAreSmall);

@@ -51,9 +51,9 @@ Survey survey(const Editor& ed, Scratch& work) {
         const Node& n = nodeAt(ed, i);
         work.before[static_cast<std::size_t>(i)] = {n.X, n.Y, n.Vx, n.Vy, n.Fx, n.Fy, n.Rotate, n.Used};
         work.points[static_cast<std::size_t>(i)] = {Double2{double(n.X), double(n.Y)}, Float2{n.Fx, n.Fy}};
-        result.placesAreSmall &= isSmall(n.X, n.Y);
+        if (!isSmall(n.X, n.Y)) result.placesAreSmall = false;
         // A node's drive acts over used links whether the node itself is used or not.
-        result.anyRotate |= n.Rotate != 0;
+        if (n.Rotate != 0) result.anyRotate = true;
         if (!n.Used) continue;
         if (n.Gravity != 0) work.attraction.add(i, n);
         if (n.Locked) continue;
