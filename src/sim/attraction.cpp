@@ -19,27 +19,27 @@ struct Pulls {
     NodeLanes::Column<float> x, y;
 };
 
-[[gnu::noinline]] void subtract(const Attractor& a, const NodeLanes& lanes, Pulls& pulls) {
+ZENTRIK_WIDE_LOOP void subtract(const Attractor& a, const NodeLanes& lanes, Pulls& pulls) {
     for (std::size_t m = 0; m < lanes.count; ++m) {
         pulls.dx[m] = lanes.x.place[m] - a.x;
         pulls.dy[m] = lanes.y.place[m] - a.y;
     }
 }
 
-[[gnu::noinline]] void roundDifferences(std::size_t count, Pulls& pulls) {
+ZENTRIK_WIDE_LOOP void roundDifferences(std::size_t count, Pulls& pulls) {
     for (std::size_t m = 0; m < count; ++m) {
         pulls.dx[m] = wide(real(pulls.dx[m]));
         pulls.dy[m] = wide(real(pulls.dy[m]));
     }
 }
 
-[[gnu::noinline]] void measure(std::size_t count, Pulls& pulls) {
+ZENTRIK_WIDE_LOOP void measure(std::size_t count, Pulls& pulls) {
     for (std::size_t m = 0; m < count; ++m)
         pulls.distance[m] = wide(real(std::sqrt(pulls.dx[m] * pulls.dx[m] + pulls.dy[m] * pulls.dy[m])));
 }
 
 // The formula itself: g / (d / 10000)^2 along the line to the attracting node.
-[[gnu::noinline]] void findPulls(const Attractor& a, std::size_t count, Pulls& pulls) {
+ZENTRIK_WIDE_LOOP void findPulls(const Attractor& a, std::size_t count, Pulls& pulls) {
     for (std::size_t m = 0; m < count; ++m) {
         const double distance = pulls.distance[m];
         const double square = (distance / 10000) * (distance / 10000);
@@ -49,34 +49,33 @@ struct Pulls {
     }
 }
 
-// True when a value lies so near the middle between two 32-bit reals that an error in its last bits
-// could turn the rounding. The middle is bit 28 of a double with all bits below it clear; the window
-// reaches several times as far to both sides as the shorter formula can err.
-bool nearMiddle(double value) {
-    constexpr std::uint32_t middle = 1U << 28, window = 64;  // in last bits
-    const auto low = static_cast<std::uint32_t>(std::bit_cast<std::uint64_t>(value));
-    return ((low - (middle - window)) & (2 * middle - 2 * window)) == 0;
+// The top bit is set when a value lies so near the middle between two 32-bit reals that an error in its
+// last bits could turn the rounding. The middle is bit 28 of a double with all bits below it clear; the
+// window reaches several times as far to both sides as the shorter formula can err.
+std::uint64_t nearMiddle(double value) {
+    constexpr std::uint64_t middle = 1U << 28, window = 64;  // in last bits
+    return ((std::bit_cast<std::uint64_t>(value) - (middle - window)) & (2 * middle - 2 * window)) - 1;
 }
 
 // The same with one division instead of five, which bound the plain formula: g 10000^2 / d^3 times the
 // difference. It rounds a little differently on the way; false when that could show in a result.
-[[gnu::noinline]] bool findPullsFast(const Attractor& a, std::size_t count, Pulls& pulls) {
+ZENTRIK_WIDE_LOOP bool findPullsFast(const Attractor& a, std::size_t count, Pulls& pulls) {
     const double scaled = a.gravity * 1e8;
     for (std::size_t m = 0; m < count; ++m) {
         const double d = pulls.distance[m];
         pulls.strength[m] = d > 0 ? scaled / (d * d * d) : 0;
     }
-    std::uint32_t doubtful = 0;
+    std::uint64_t doubtful = 0;
     for (std::size_t m = 0; m < count; ++m) {
         const double x = pulls.dx[m] * pulls.strength[m], y = pulls.dy[m] * pulls.strength[m];
-        doubtful |= static_cast<std::uint32_t>(nearMiddle(x) | nearMiddle(y));
+        doubtful |= nearMiddle(x) | nearMiddle(y);
         pulls.x[m] = real(x);
         pulls.y[m] = real(y);
     }
-    return doubtful == 0;
+    return doubtful >> 63 == 0;
 }
 
-[[gnu::noinline]] void addPulls(NodeLanes& lanes, const Pulls& pulls) {
+ZENTRIK_WIDE_LOOP void addPulls(NodeLanes& lanes, const Pulls& pulls) {
     for (std::size_t m = 0; m < lanes.count; ++m) {
         lanes.x.force[m] = real(lanes.x.force[m] - wide(pulls.x[m]) * 10);
         lanes.y.force[m] = real(lanes.y.force[m] - wide(pulls.y[m]) * 10);

@@ -28,7 +28,7 @@ struct Motion {
 // Drag and wind, velocity, place from the new velocity, each in its own short loop: the processor looks
 // ahead only so far. (Half of a quotient is the quotient of the half, to the last bit: no 32-bit force
 // is so small that halving it could lose one.)
-[[gnu::noinline]] void integrate(const NodeLanes& lanes, const NodeLanes::Axis& from, const Motion& motion,
+ZENTRIK_WIDE_LOOP void integrate(const NodeLanes& lanes, const NodeLanes::Axis& from, const Motion& motion,
                                  NodeLanes::Axis& to) {
     const auto [dt, viscosity, wind, gravity] = motion;
     NodeLanes::Column<double> acceleration;

@@ -54,28 +54,28 @@ void gather(SpringBatch& batch, Link& link, const ForcePoints& points, const Ani
     batch.k[m] = link.k;
 }
 
-[[gnu::noinline]] void roundDifferences(SpringBatch& batch) {
+ZENTRIK_WIDE_LOOP void roundDifferences(SpringBatch& batch) {
     for (std::size_t m = 0; m < SpringBatch::size; ++m) {
         batch.dx[m] = wide(real(batch.dx[m]));
         batch.dy[m] = wide(real(batch.dy[m]));
     }
 }
 
-[[gnu::noinline]] void measure(SpringBatch& batch) {
+ZENTRIK_WIDE_LOOP void measure(SpringBatch& batch) {
     for (std::size_t m = 0; m < SpringBatch::size; ++m)
         batch.length[m] = real(std::sqrt(batch.dx[m] * batch.dx[m] + batch.dy[m] * batch.dy[m]));
 }
 
 // Ends at the same place give no direction to pull in: such a link exerts nothing, whether links of
 // length zero are allowed or not.
-[[gnu::noinline]] void stretch(SpringBatch& batch) {
+ZENTRIK_WIDE_LOOP void stretch(SpringBatch& batch) {
     for (std::size_t m = 0; m < SpringBatch::size; ++m) {
         const float strength = real((batch.length[m] - batch.rest[m]) * batch.k[m] * 100);
         batch.strength[m] = batch.length[m] > 0 ? strength : 0;
     }
 }
 
-[[gnu::noinline]] void pull(SpringBatch& batch) {
+ZENTRIK_WIDE_LOOP void pull(SpringBatch& batch) {
     for (std::size_t m = 0; m < SpringBatch::size; ++m) {
         const double length = wide(batch.length[m] > 1 ? batch.length[m] : 1);  // 0 or at least 1 twip
         batch.fx[m] = real(batch.dx[m] / length * batch.strength[m]);
