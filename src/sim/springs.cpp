@@ -37,15 +37,14 @@ struct SpringBatch {
     template <class T>
     using Column = std::array<T, size>;
 
-    std::size_t count = 0;
     Column<Link*> link{};
     Column<double> dx{}, dy{};  // from N2 to N1, twips
     Column<double> rest{};
     Column<float> k{}, length{}, strength{}, fx{}, fy{};
 };
 
-void gather(SpringBatch& batch, Link& link, const ForcePoints& points, const AnimatorClock& clock) {
-    const std::size_t m = batch.count++;
+void gather(SpringBatch& batch, std::size_t m, Link& link, const ForcePoints& points,
+            const AnimatorClock& clock) {
     const Double2 d = pointAt(points, link.N1).place - pointAt(points, link.N2).place;
     batch.link[m] = &link;
     batch.dx[m] = d[0];
@@ -84,23 +83,22 @@ ZENTRIK_WIDE_LOOP void pull(SpringBatch& batch) {
 }
 
 // Hands the forces to the nodes, link by link in index order: the order decides how sums round.
-void scatter(SpringBatch& batch, ForcePoints& points) {
-    for (std::size_t m = 0; m < batch.count; ++m) {
+void scatter(const SpringBatch& batch, std::size_t count, ForcePoints& points) {
+    for (std::size_t m = 0; m < count; ++m) {
         Link& link = *batch.link[m];
         const Float2 force{batch.fx[m], batch.fy[m]};
         link.CurrentLength = batch.length[m];
         pointAt(points, link.N1).force -= force;
         pointAt(points, link.N2).force += force;
     }
-    batch.count = 0;
 }
 
-void exert(SpringBatch& batch, ForcePoints& points, bool placesAreSmall) {
+void exert(SpringBatch& batch, std::size_t count, ForcePoints& points, bool placesAreSmall) {
     if (!placesAreSmall) roundDifferences(batch);
     measure(batch);
     stretch(batch);
     pull(batch);
-    scatter(batch, points);
+    scatter(batch, count, points);
 }
 
 }  // namespace
@@ -109,13 +107,16 @@ void applySprings(Editor& ed, ForcePoints& points, bool placesAreSmall, std::vec
     const double phase = wide(ed.DeltaAngle) * ed.AnimationTime;
     const AnimatorClock clock{ed.buttons.animation, phase, std::fabs(real(phase))};
     SpringBatch batch;
+    std::size_t count = 0;
     forEachLink(ed, [&](std::int32_t j, Link& link) {
         __builtin_prefetch(&link + 16, 1);  // a large model's links come from far away
         if (link.Barrier) barriers.push_back(j);
-        gather(batch, link, points, clock);
-        if (batch.count == SpringBatch::size) exert(batch, points, placesAreSmall);
+        gather(batch, count++, link, points, clock);
+        if (count < SpringBatch::size) return;
+        exert(batch, count, points, placesAreSmall);
+        count = 0;
     });
-    if (batch.count > 0) exert(batch, points, placesAreSmall);
+    if (count > 0) exert(batch, count, points, placesAreSmall);
 }
 
 }  // namespace zentrik
