@@ -72,6 +72,7 @@ void addNodes(Editor& ed, Dice& dice, std::int32_t count) {
         if (dice.below(2000) == 0) n.Mass = 0;
         n.Locked = dice.percent(locked);
         n.Gravity = dice.percent(attracting) ? dice.real(-2, 8) : 0;
+        if (dice.percent(3)) n.Gravity *= dice.oneOf({1e-17F, 1e-30F, 1e-38F, 1e30F});
         n.Vxo = dice.real(-400, 400);
         n.Vyo = dice.real(-3, 3);
         n.Rotate = dice.percent(driving) ? dice.real(-2, 2) : 0;

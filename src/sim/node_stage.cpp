@@ -3,6 +3,7 @@
 #include "model/numbers.h"
 #include "model/store.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -82,7 +83,7 @@ std::int32_t NodeStage::gatherRun(std::int32_t from) {
     std::int32_t i = from;
     for (bool ends = false; i <= last && m < NodeLanes::size && !ends; ++i) {
         const Node& node = nodeAt(ed, i);
-        __builtin_prefetch(&node + 24, 1);  // a large model's nodes have left the cache since the survey
+        __builtin_prefetch(&nodeAt(ed, std::min(i + 24, last)), 1);  // a large model's are far away
         if (!node.Used || node.Locked) continue;
         const Float2 force = pointAt(points_, i).force;
         lanes_.x.place[m] = node.X;

@@ -23,5 +23,4 @@ inline double wide(float value) { return static_cast<double>(value); }
 inline Float2 round32(Double2 pair) { return __builtin_convertvector(pair, Float2); }
 inline Double2 wide(Float2 pair) { return __builtin_convertvector(pair, Double2); }
 
-
 }  // namespace zentrik

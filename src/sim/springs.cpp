@@ -1,6 +1,7 @@
 #include "model/store.h"
 #include "sim/forces.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -108,8 +109,9 @@ void applySprings(Editor& ed, ForcePoints& points, bool placesAreSmall, std::vec
     const AnimatorClock clock{ed.buttons.animation, phase, std::fabs(real(phase))};
     SpringBatch batch;
     std::size_t count = 0;
+    const std::int32_t last = lastLink(ed);
     forEachLink(ed, [&](std::int32_t j, Link& link) {
-        __builtin_prefetch(&link + 16, 1);  // a large model's links come from far away
+        __builtin_prefetch(&linkAt(ed, std::min(j + 16, last)), 1);  // a large model's are far away
         if (link.Barrier) barriers.push_back(j);
         gather(batch, count++, link, points, clock);
         if (count < SpringBatch::size) return;
