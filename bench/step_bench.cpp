@@ -1,6 +1,7 @@
 // The step over spring lattices, with attracting nodes and with barriers, beside a plain loop over
 // springs to compare with in the same run.
 
+#include "model/connected.h"
 #include "model/store.h"
 #include "scenes/scenes.h"
 #include "sim/step.h"
@@ -54,6 +55,15 @@ void barriers(benchmark::State& state) {
     for (auto _ : state) CalculatePositions(ed);
 }
 BENCHMARK(barriers)->Arg(100)->Arg(1000)->Arg(10000)->Arg(32000)->Unit(benchmark::kMicrosecond);
+
+void connectedObject(benchmark::State& state) {
+    Editor ed = running(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        std::int32_t start = 1;
+        MarkConnectedNodes(ed, start, none);
+    }
+}
+BENCHMARK(connectedObject)->Arg(10000)->Unit(benchmark::kMicrosecond);
 
 struct alignas(64) PlainNode {
     float x, y, fx, fy;

@@ -34,17 +34,24 @@ inline bool endsExist(const Editor& ed, const Link& link) {
     return nodeExists(ed, link.N1) && nodeExists(ed, link.N2);
 }
 
-// Calls visit(number, link) for every used link with both ends, in index order.
+// Calls visit(number, link) for every used link with both ends, in index order. Neither this nor
+// forEachNode sees records that visit appends.
 template <class EditorType, class Visit>
 void forEachLink(EditorType& ed, Visit visit) {
-    for (std::int32_t j = 1; j <= lastLink(ed); ++j)
-        if (linkAt(ed, j).Used && endsExist(ed, linkAt(ed, j))) visit(j, linkAt(ed, j));
+    const auto nodes = static_cast<std::uint32_t>(lastNode(ed));
+    const auto exists = [nodes](std::int32_t i) { return static_cast<std::uint32_t>(i) - 1 < nodes; };
+    const std::int32_t last = lastLink(ed);
+    for (std::int32_t j = 1; j <= last; ++j) {
+        auto& link = linkAt(ed, j);
+        if (link.Used && exists(link.N1) && exists(link.N2)) visit(j, link);
+    }
 }
 
 // Calls visit(number, node) for every used node, in index order.
 template <class EditorType, class Visit>
 void forEachNode(EditorType& ed, Visit visit) {
-    for (std::int32_t i = 1; i <= lastNode(ed); ++i)
+    const std::int32_t last = lastNode(ed);
+    for (std::int32_t i = 1; i <= last; ++i)
         if (nodeAt(ed, i).Used) visit(i, nodeAt(ed, i));
 }
 

@@ -12,7 +12,7 @@ namespace zentrik {
 
 namespace {
 
-constexpr double margin = 45;  // twips
+constexpr std::int64_t margin = 45;  // twips
 
 void bounceVertically(const Editor& ed, Node& node) {
     node.Vy = real(-wide(node.Vy) * ed.Bounce);
@@ -27,9 +27,10 @@ void turnAtWall(const Editor& ed, Node& node) {
 
 // One wall: reached(x) tells which side of it counts as contact.
 template <class Reached>
-void wall(Editor& ed, std::int32_t i, std::int32_t line, Reached reached, WallContacts& contacts) {
+void wall(Editor& ed, std::int32_t i, std::int64_t at, Reached reached, WallContacts& contacts) {
     if (!reached(nodeAt(ed, i).X)) return;
-    contacts.touched = true;
+    const std::int32_t line = toInt(static_cast<double>(at));
+    contacts.touched = contacts.othersChanged = true;
     if (ed.marks.mnuReverseModel) {
         nodeAt(ed, i).X = line;
         forEachNode(ed, [&](std::int32_t, Node& node) { turnAtWall(ed, node); });
@@ -41,7 +42,6 @@ void wall(Editor& ed, std::int32_t i, std::int32_t line, Reached reached, WallCo
         MarkConnectedNodes(ed, start, none);
         contacts.marked = true;
     }
-    contacts.movedOthers = true;
     forEachNode(ed, [&](std::int32_t, Node& node) {
         if (!node.Res3 || !reached(node.X)) return;
         node.X = line;
@@ -80,14 +80,14 @@ float meetBarrier(const Editor& ed, const Link& link, Node& node) {
 }  // namespace
 
 Bounds boundsOf(const Editor& ed) {
-    const double r = ed.NodeRadius;
-    return {ed.NodeRadius, toInt(ed.sceneWidth - r - margin), toInt(ed.sceneHeight - r - margin)};
+    const std::int64_t r = ed.NodeRadius;
+    return {r, ed.sceneWidth - r - margin, ed.sceneHeight - r - margin};
 }
 
 void floorAndCeiling(Editor& ed, std::int32_t i, const Bounds& bounds) {
     Node& node = nodeAt(ed, i);
     if (node.Y >= bounds.floor) {
-        node.Y = bounds.floor;
+        node.Y = toInt(static_cast<double>(bounds.floor));
         bounceVertically(ed, node);
         if (ed.timerFireWorks.enabled && !ed.marks.mnuPersistentFireworks) {
             node.Used = false;
@@ -95,13 +95,13 @@ void floorAndCeiling(Editor& ed, std::int32_t i, const Bounds& bounds) {
         }
     }
     if (ed.marks.mnuCeiling && node.Y <= bounds.low) {
-        node.Y = bounds.low;
+        node.Y = ed.NodeRadius;
         bounceVertically(ed, node);
     }
 }
 
 void walls(Editor& ed, std::int32_t i, const Bounds& bounds, WallContacts& contacts) {
-    const std::int32_t left = bounds.low, right = bounds.right;
+    const std::int64_t left = bounds.low, right = bounds.right;
     wall(
         ed, i, left, [left](std::int32_t x) { return x <= left; }, contacts);
     wall(
@@ -158,7 +158,8 @@ std::optional<float> Barriers::BarrierTest(const Editor& ed, Node& node) const {
     return last;
 }
 
-void Barriers::deflect(const Editor& ed, Node& node) {
+void Barriers::deflect(Editor& ed, std::int32_t i) {
+    Node& node = nodeAt(ed, i);
     const std::size_t count = links_.size();
     for (std::size_t from = 0; from < count;) {
         const std::size_t to = std::min(count, from + 64);
@@ -172,8 +173,9 @@ void Barriers::deflect(const Editor& ed, Node& node) {
         for (std::size_t m = from; anyNear != 0 && m < to; ++m) {
             if (near_[m] == 0) continue;
             meetBarrier(ed, linkAt(ed, links_[m]), node);
-            // A node put elsewhere is near other barriers than before.
+            // A node put elsewhere is near other barriers than before, and takes its own along.
             if (node.X != x || node.Y != y) {
+                nodeMoved(ed, i);
                 next = m + 1;
                 break;
             }

@@ -11,7 +11,7 @@ namespace zentrik {
 // The lines of the scene at which a node's centre stops, twips. The margin of 45 keeps nodes clear of
 // the lower and right edge.
 struct Bounds {
-    std::int32_t low, right, floor;  // low: the ceiling's and the left wall's line
+    std::int64_t low, right, floor;  // low: the ceiling's and the left wall's line
 
     bool touchedBy(const Node& node) const {
         return node.X <= low || node.Y <= low || node.X >= right || node.Y >= floor;
@@ -21,9 +21,9 @@ Bounds boundsOf(const Editor& ed);
 
 // What the wall contacts of one step leave behind for its end.
 struct WallContacts {
-    bool touched = false;      // the model's clock turns round
-    bool movedOthers = false;  // nodes other than the one at the wall were put back to the line
-    bool marked = false;       // the object marks of this step's last contact are still good
+    bool touched = false;        // the model's clock turns round
+    bool othersChanged = false;  // nodes other than the one at the wall were turned or moved
+    bool marked = false;         // the object marks of this step's last contact are still good
 };
 
 // The floor frees the node while fireworks run, unless they are persistent.
@@ -47,7 +47,7 @@ public:
     // barrier was near enough to measure one), or nothing when a short barrier ended the test.
     std::optional<float> BarrierTest(const Editor& ed, Node& node) const;
     // The same change to the node for a fraction of the cost, without the distance.
-    void deflect(const Editor& ed, Node& node);
+    void deflect(Editor& ed, std::int32_t i);
 
 private:
     std::vector<std::int32_t> links_;

@@ -2,11 +2,16 @@
 // x and y side by side, so that one instruction works on both. Lane 0 is x, lane 1 is y; arithmetic
 // between pairs goes lane by lane and rounds exactly as it does for single numbers.
 
-#include <cstdint>
+// Marks a function of plain loops to be compiled twice: for processors with 256-bit vectors and for all
+// others. The program picks at its start; results are the same to the last bit, only sooner there.
+#if defined(__x86_64__)
+#define ZENTRIK_WIDE_LOOP [[gnu::target_clones("avx2", "default")]]
+#else
+#define ZENTRIK_WIDE_LOOP
+#endif
 
 namespace zentrik {
 
-using Int2 = std::int32_t __attribute__((vector_size(8)));
 using Float2 = float __attribute__((vector_size(8)));
 using Double2 = double __attribute__((vector_size(16)));
 
@@ -17,9 +22,5 @@ inline double wide(float value) { return static_cast<double>(value); }
 // Rounds to 32-bit reals; beyond their range gives infinities, which the step looks for.
 inline Float2 round32(Double2 pair) { return __builtin_convertvector(pair, Float2); }
 inline Double2 wide(Float2 pair) { return __builtin_convertvector(pair, Double2); }
-inline Double2 wide(Int2 pair) { return __builtin_convertvector(pair, Double2); }
-
-// Difference of two places as 32-bit reals; no difference of 32-bit integers overflows on the way.
-inline Float2 difference(Int2 a, Int2 b) { return round32(wide(a) - wide(b)); }
 
 }  // namespace zentrik

@@ -1,0 +1,30 @@
+#pragma once
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace zentrik {
+
+// Free nodes side by side, one column a quantity, so that short loops over them vectorise.
+struct NodeLanes {
+    static constexpr std::size_t size = 64;
+    template <class T>
+    using Column = std::array<T, size>;
+    struct Axis {
+        Column<double> place;  // twips
+        Column<float> velocity, force;
+    };
+
+    std::size_t count = 0;
+    bool small = false;  // all places are: see isSmall
+    Axis x, y;
+    Column<float> mass;
+};
+
+// The difference of any two small places is exact as a 32-bit real.
+inline bool isSmall(std::int32_t x, std::int32_t y) {
+    constexpr std::uint32_t limit = 1U << 23;
+    return ((static_cast<std::uint32_t>(x) + limit) | (static_cast<std::uint32_t>(y) + limit)) < 2 * limit;
+}
+
+}  // namespace zentrik

@@ -1,0 +1,47 @@
+#pragma once
+// The stage of a step that moves the nodes.
+
+#include "model/editor.h"
+#include "sim/attraction.h"
+#include "sim/contacts.h"
+#include "sim/forces.h"
+
+#include <string>
+
+namespace zentrik {
+
+// Moves every free node and meets its contacts, in index order: later nodes see where earlier ones have
+// gone. Everything that is known ahead is computed for a run of nodes at once; a run ends where a node
+// changes what the next ones see, that is at an attracting node and at a wall contact.
+class NodeStage {
+public:
+    // points, attraction and barriers must hold this step's forces, attracting nodes and barriers.
+    NodeStage(Editor& editor, ForcePoints& points, Attraction& attraction, Barriers& barriers);
+
+    // dt: time units. lastFree: the last node that will move. Gives what went wrong, or the empty text.
+    std::string run(float dt, std::int32_t lastFree);
+    bool wallTouched() const { return contacts_.touched; }
+
+private:
+    Editor& ed;
+    ForcePoints& points_;
+    Attraction& attraction_;
+    Barriers& barriers_;
+    Bounds bounds_;
+    WallContacts contacts_;
+    std::int32_t lastFree_ = 0;
+    bool attracts_, testBarriers_, recolour_;
+    NodeLanes lanes_;
+    NodeLanes::Axis arrivalX_, arrivalY_;  // where the lanes go, if nothing comes in between
+
+    std::int32_t gatherRun(std::int32_t from);
+    std::int32_t commitRun(std::int32_t from, std::int32_t to, std::string& problem);
+    const char* hold(std::int32_t i, Node& node) const;
+    const char* move(std::int32_t i, Node& node, std::size_t lane);
+    [[gnu::noinline]] void plotPath(const Node& node);
+    [[gnu::noinline]] const char* meetContacts(std::int32_t i, Node& node);
+    void meetBarriers(std::int32_t i, Node& node);
+    std::string checkVelocities() const;
+};
+
+}  // namespace zentrik
