@@ -1,5 +1,7 @@
 #include "effects/fireworks.h"
 #include "effects/shooter.h"
+#include "model/redraw.h"
+#include "model/shooter_aim.h"
 #include "model/store.h"
 #include "rig.h"
 #include "scenes/scenes.h"
@@ -53,6 +55,28 @@ TEST(Shooter, FiresByTheGlobalSettingsOrAwayFromItsTrigger) {
     nodeAt(range.ed, 1).Res1 = 900;  // no such trigger
     ball = range.fire();             // the last shooter again
     EXPECT_NEAR(ball->Vx, 5673, 1);
+}
+
+TEST(Shooter, LooksForItsTriggerUntilItHasALink) {
+    Range range;
+    Editor& ed = range.ed;
+    ed.buttons.ball = true;
+    nodeAt(ed, 1).Locked = true;
+    addNode(ed, 2000, 2000);
+    Link freed = defaultLink(ed, 1, 3), hanging = defaultLink(ed, 1, 9), loop = defaultLink(ed, 3, 3);
+    freed.Used = false;
+    for (const Link& link : {freed, hanging, loop}) appendLink(ed, link);
+    DisplayScene(ed, -1, -1);
+    EXPECT_EQ(nodeAt(ed, 1).Res1, 0);
+
+    appendLink(ed, defaultLink(ed, 2, 1));
+    appendLink(ed, defaultLink(ed, 1, 3));
+    DisplayScene(ed, -1, -1);
+    EXPECT_EQ(nodeAt(ed, 1).Res1, 2);
+    EXPECT_TRUE(nodeAt(ed, 2).Locked);
+    const std::vector<std::int32_t> triggers = triggerNodes(ed);
+    for (std::int32_t i = 1; i <= 3; ++i)
+        EXPECT_EQ(triggers[static_cast<std::size_t>(i)], GetTriggerNode(ed, i)) << i;
 }
 
 TEST(Shooter, FiresNothingWhenItCannot) {

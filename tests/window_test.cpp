@@ -368,7 +368,7 @@ TEST_F(Window, StripsAndPathOpenBelow) {
 
     choose("mnuDisplayPath");
     auto* path = find("frmPath");
-    EXPECT_EQ(path->geometry().top(), window_->frameGeometry().bottom() + 1 + 7);
+    EXPECT_EQ(path->frameGeometry().top(), window_->frameGeometry().bottom() + 1 + 7);
     press("start");
     QTest::qWait(100);
     press("start");

@@ -160,7 +160,9 @@ void frmMain::placePathWindow(bool visible) {
         // Below a window that reaches down to the end of the screen nobody would see it.
         const QRect visibleArea = screen()->availableGeometry();
         if (!visibleArea.intersects(place)) place.moveBottom(visibleArea.bottom());
-        frmPath_->setGeometry(place);
+        // Placed by its frame, so that its title bar does not lie on the status bar.
+        frmPath_->resize(place.size());
+        frmPath_->move(place.topLeft());
     }
     frmPath_->setVisible(visible);
 }

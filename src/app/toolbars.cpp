@@ -1,6 +1,8 @@
 #include "app/toolbars.h"
 
 #include "app/icons.h"
+#include "display/canvas.h"
+#include "display/lettering.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -193,12 +195,11 @@ void Toolbars::showLists(const Editor& ed) {
     lstSprites->setCurrentIndex(ed.spriteEntry);
     lstSprites->setEnabled(ed.nodeControls);
 
-    const QColor back =
-        QColor::fromRgb(ed.BackColor & 255, (ed.BackColor >> 8) & 255, (ed.BackColor >> 16) & 255);
+    const QColor back = colorOf(ed.BackColor);
     QPalette palette = lstSaved->palette();
     if (palette.color(QPalette::Base) == back) return;
     palette.setColor(QPalette::Base, back);
-    palette.setColor(QPalette::Text, back.lightness() < 128 ? Qt::white : Qt::black);
+    palette.setColor(QPalette::Text, colorOf(legibleInk(black, ed.BackColor)));
     lstSaved->setPalette(palette);
 }
 

@@ -12,11 +12,16 @@ namespace zentrik {
 
 namespace {
 
-// A shooter finds its trigger the first time it is drawn, keeps it locked, and shows its aim.
+// A shooter finds its trigger the first time it is drawn, keeps it locked, and shows its aim. One that
+// has no link looks for it at every redraw, so all of them share one pass over the links.
 void aimShooters(Editor& ed) {
+    std::vector<std::int32_t> triggers;
     forEachNode(ed, [&](std::int32_t i, Node& node) {
         if (!node.Locked || node.Res1 == none) return;
-        if (node.Res1 == 0) node.Res1 = GetTriggerNode(ed, i);
+        if (node.Res1 == 0) {
+            if (triggers.empty()) triggers = triggerNodes(ed);
+            node.Res1 = triggers[static_cast<std::size_t>(i)];
+        }
         if (!nodeExists(ed, node.Res1)) return;
         nodeAt(ed, node.Res1).Locked = true;
         panel(ed, 1) = fixedText(barrelAngle(ed, node) * 57.296, 1);

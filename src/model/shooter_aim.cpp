@@ -16,6 +16,19 @@ std::int32_t GetTriggerNode(const Editor& ed, std::int32_t i) {
     return 0;
 }
 
+std::vector<std::int32_t> triggerNodes(const Editor& ed) {
+    std::vector<std::int32_t> triggers(ed.Nodes.size(), 0);
+    const auto first = [&](std::int32_t i, std::int32_t other) {
+        std::int32_t& trigger = triggers[static_cast<std::size_t>(i)];
+        if (trigger == 0) trigger = other;
+    };
+    forEachLink(ed, [&](std::int32_t, const Link& link) {
+        first(link.N1, link.N2);
+        first(link.N2, link.N1);
+    });
+    return triggers;
+}
+
 float GetVectorAngle(float dx, float dy) {
     if (dx == 0) return dy < 0 ? 1.5708F : dy > 0 ? 4.7124F : 0;
     if (dy == 0) return dx < 0 ? 3.1416F : 0;

@@ -7,6 +7,8 @@ namespace zentrik {
 
 // The node at the other end of the first used link that touches node i; 0 when there is none.
 std::int32_t GetTriggerNode(const Editor& ed, std::int32_t i);
+// The same for every node slot, in one pass over the links.
+std::vector<std::int32_t> triggerNodes(const Editor& ed);
 
 // Angle in radians, [0, 2 pi), of the vector (dx, -dy) counter-clockwise from +x; with y growing
 // downwards a vector that points up the screen has pi / 2. The zero vector gives 0.
