@@ -62,7 +62,9 @@ QFont sceneFont(double ratio, double size, bool bold) {
 double sceneLineHeight() { return std::ceil(QFontMetricsF(sceneFont(1)).height()) * twipsPerPixel; }
 
 std::int32_t legibleInk(std::int32_t ink, std::int32_t paper) {
-    constexpr double sufficient = 3.9, good = 7;
+    constexpr double sufficient = 3.9;
+    // A coloured ink keeps as much of its colour as legibility allows: it tells kinds of numbers apart.
+    const double good = ink == black || ink == white ? 7 : 4.5;
     if (contrast(ink, paper) >= sufficient) return ink;
     const std::int32_t end = contrast(black, paper) > contrast(white, paper) ? black : white;
     for (int eighths = 1; eighths < 8; ++eighths)

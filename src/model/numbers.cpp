@@ -95,8 +95,10 @@ void appendReal(std::string& out, float value) {
 
 std::string fixedText(double value, int decimals) {
     char buffer[400];
+    constexpr double halfLastDigit = 0x1p-24;  // of a 32-bit real, relative
+    const double raised = value * (1 + halfLastDigit);
     const auto end =
-        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals).ptr;
+        std::to_chars(buffer, buffer + sizeof buffer, raised, std::chars_format::fixed, decimals).ptr;
     std::string text(buffer, end);
     const bool onlyZeros = text.find_first_not_of("-0.") == std::string::npos;
     if (onlyZeros && text.front() == '-') text.erase(0, 1);

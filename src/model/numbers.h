@@ -33,7 +33,8 @@ std::string realText(double value);
 // Appends realText(value) without a temporary; for the file writer.
 void appendReal(std::string& out, float value);
 
-// Exactly `decimals` digits after the point.
+// Exactly `decimals` digits after the point. Halves go away from zero, as a person expects of the
+// decimals a 32-bit real shows: 0.35 gives "0.4" although its nearest 32-bit real lies just below.
 std::string fixedText(double value, int decimals);
 
 // The clock read-out: a blank, then three decimals.

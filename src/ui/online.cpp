@@ -23,6 +23,7 @@ void mnuAbout_Click(Editor&, Host& host) { host.showAbout(); }
 
 void messageClicked(Editor& ed, Host& host) {
     DisplayOnscreenInstructions(ed);
+    panel(ed, 5) = "Asking the server for its message...";
     host.fetchMessage(messageFile);
 }
 
