@@ -115,21 +115,37 @@ void drawCreature(Photographer& camera) {
     camera.press("activeline");
 }
 
-void takeAll(Photographer& camera) {
-    camera.open("walker");
-    camera.play(2500);
+void takeOverview(Photographer& camera) {
+    camera.resize(1200, 420);
+    camera.open("bridge");
+    camera.play(1500);
     camera.take("window");
     camera.stop();
+    camera.resize(960, 334);
+    camera.open("walker");
+    camera.play(2500);
+    camera.take("smallest");
+    camera.stop();
+}
 
+void takeEditing(Photographer& camera) {
+    camera.resize(1200, 640);
     drawCreature(camera);
-
     camera.press("numbers");
     camera.take("numbers");
     camera.press("numbers");
     camera.press("data");
     camera.take("information");
     camera.press("data");
+    camera.take(camera.part("Toolbar1"), "commands");
+    camera.press("nextnode");
+    camera.take(camera.part("Toolbar2"), "properties");
+    camera.takeMenu("mnuStructures", "structures");
+    camera.takeMenu("mnuSettings", "settings");
+}
 
+void takeStrips(Photographer& camera) {
+    camera.resize(1200, 500);
     camera.open("wheel");
     camera.choose("mnuDisplayAngleManager");
     camera.play(1500);
@@ -137,44 +153,39 @@ void takeAll(Photographer& camera) {
     camera.stop();
     camera.choose("mnuDisplayAngleManager");
 
-    camera.open("cloth");
+    camera.open("pendulum");
     camera.choose("mnuDisplayBrowser");
-    camera.choose("mnuAllowSprites");
     camera.choose("mnuRandomNodes");
     camera.press("sprite");
+    camera.play(1500);
     camera.take("sprites");
+    camera.stop();
     camera.press("sprite");
     camera.choose("mnuDisplayBrowser");
+}
 
+void takeShows(Photographer& camera) {
+    camera.resize(1200, 640);
     camera.press("new");
     camera.choose("mnuUseRandom");
     camera.choose("mnuDisplayFireWorks");
     camera.preset("gravity", "0.5");
-    camera.play(2900);
+    camera.play(2850);
     camera.take("fireworks");
     camera.stop();
     camera.choose("mnuDisplayFireWorks");
     camera.choose("mnuUseRandom");
 
-    camera.open("planets");
+    camera.resize(960, 334);
+    camera.open("wheel");
     camera.choose("mnuDisplayPath");
+    camera.part("frmPath")->resize(480, 120);
     camera.press("nextnode");
     camera.press("nextnode");
-    camera.play(4000);
+    camera.play(20000);
     camera.take(camera.part("frmPath"), "path");
     camera.stop();
     camera.choose("mnuDisplayPath");
-
-    camera.take(camera.part("Toolbar1"), "commands");
-    camera.press("nextlink");
-    camera.take(camera.part("Toolbar2"), "properties");
-    camera.takeMenu("mnuStructures", "structures");
-    camera.takeMenu("mnuSettings", "settings");
-    camera.resize(960, 334);
-    camera.open("bridge");
-    camera.play(600);
-    camera.take("smallest");
-    camera.stop();
 }
 
 }  // namespace
@@ -192,6 +203,9 @@ int main(int argc, char** argv) {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
     zentrik::fillProgramFolder(home.path());
     Photographer camera(home.path(), QString::fromLocal8Bit(argv[1]));
-    takeAll(camera);
+    takeOverview(camera);
+    takeEditing(camera);
+    takeStrips(camera);
+    takeShows(camera);
     return 0;
 }
