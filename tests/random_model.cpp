@@ -111,7 +111,7 @@ void chooseSettings(Editor& ed, Dice& dice) {
     ed.Bounce = dice.oneOf({0.5F, 0.9F, 0.0F, -1.0F});
     ed.TimeInterval = dice.oneOf({20.0F, 20.0F, 7.0F, 100.0F, 0.0F, -20.0F});
     ed.DeltaAngle = dice.oneOf({0.1F, 1.0F, -6.0F});
-    ed.NodeRadius = dice.oneOf({60, 60, 60, 300, 3000, 0, -200});
+    ed.NodeRadius = dice.oneOf({60, 60, 60, 300, 900, 900, 3000, 0, -200});
     if (dice.percent(2)) ed.NodeRadius = dice.oneOf({Limits::min(), Limits::max()});
     ed.AnimationTime = dice.percent(40) ? 0 : dice.real(-20, 20);
     ed.TimeDirection = dice.oneOf({1, -1});

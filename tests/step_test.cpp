@@ -14,6 +14,7 @@
 #include <bit>
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace zentrik {
 
@@ -93,7 +94,10 @@ std::uint64_t hashOf(const Editor& ed) {
 
 TEST(Step, IsThePlainStepBitForBit) {
     int stepsDone = 0, stopped = 0, touched = 0, left = 0;
-    for (std::uint32_t seed = 1; seed <= 1500; ++seed) {
+    std::vector<std::uint32_t> seeds(1500);
+    std::iota(seeds.begin(), seeds.end(), 1U);
+    seeds.push_back(29412);  // a barrier puts a node, and with it another barrier's end, where it meets it
+    for (const std::uint32_t seed : seeds) {
         Editor fast = randomModel(seed);
         Editor slow = fast;
         for (int t = 0; t < 25; ++t) {
@@ -255,6 +259,21 @@ TEST(Step, AttractsByTheSquareOfTheDistance) {
     EXPECT_EQ(ed.Nodes[1].Vx, 200.0F);  // 10 x 5 / 0.5^2
     EXPECT_EQ(ed.Nodes[1].X, 1000 + 100 + 200);
     EXPECT_EQ(ed.Nodes[3].X, 6000);
+}
+
+TEST(Step, AttractsToTheLastBitWhereAShorterFormulaErrs) {
+    // Strengths found by search, for which g 10000^2 dx / d^3 rounds to another 32-bit real.
+    const std::pair<std::int32_t, std::uint32_t> cases[] = {
+        {2819, 0x3FF2D3FBU}, {3064, 0x3FD7AA90U}, {3638, 0x3F8705F5U}};
+    for (const auto& [dx, strength] : cases) {
+        Editor fast = noForces();
+        addNode(fast, 5000 + dx, 5000 + 2711);
+        nodeAt(fast, addNode(fast, 5000, 5000)).Gravity = std::bit_cast<float>(strength);
+        Editor slow = fast;
+        CalculatePositions(fast);
+        plain::step(slow);
+        EXPECT_EQ(difference(fast, slow), "") << dx;
+    }
 }
 
 TEST(Step, BouncesOffTheFloorAndStopsAtTheLine) {

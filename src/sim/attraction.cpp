@@ -83,6 +83,22 @@ ZENTRIK_WIDE_LOOP void addPulls(NodeLanes& lanes, const Pulls& pulls) {
     }
 }
 
+// The same for one node: in a model full of attracting nodes each is a run of its own, and x and y are
+// all that can go side by side.
+void pullOne(const std::vector<Attractor>& attractors, NodeLanes& lanes) {
+    const Double2 place{lanes.x.place[0], lanes.y.place[0]};
+    Float2 force{lanes.x.force[0], lanes.y.force[0]};
+    for (const Attractor& a : attractors) {
+        const Double2 d = wide(round32(place - Double2{a.x, a.y}));
+        const double distance = wide(real(std::sqrt(d[0] * d[0] + d[1] * d[1])));
+        if (distance == 0) continue;
+        const double square = (distance / 10000) * (distance / 10000);
+        force = round32(wide(force) - wide(round32(d / distance * a.gravity / square)) * 10.0);
+    }
+    lanes.x.force[0] = force[0];
+    lanes.y.force[0] = force[1];
+}
+
 // Weaker pulls may be so small that 32-bit reals have fewer digits for them.
 bool strongEnough(const Attractor& a) { return std::fabs(a.gravity) > 1e-16; }
 
@@ -108,6 +124,7 @@ void Attraction::updateAll(const Editor& ed) {
 }
 
 void Attraction::pull(NodeLanes& lanes) const {
+    if (lanes.count == 1) return pullOne(attractors_, lanes);
     Pulls pulls;
     for (const Attractor& a : attractors_) {
         subtract(a, lanes, pulls);

@@ -1,4 +1,6 @@
 #pragma once
+// A run of free nodes as the loops of the node stage see it.
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
