@@ -28,6 +28,7 @@ constexpr const char* style = R"(
     QToolButton:hover { background: rgba(127, 127, 127, 45); }
     QToolButton:pressed { background: rgba(127, 127, 127, 90); }
     QToolButton:checked { background: rgba(47, 127, 214, 55); border-color: rgba(47, 127, 214, 150); }
+    QToolButton:focus { border-color: rgb(47, 127, 214); }
     QToolButton[popupMode="1"] { padding-right: 12px; }
     QToolButton::menu-button { border: none; width: 12px; }
 )";
@@ -58,7 +59,7 @@ QToolButton* makeButton(const char* key, bool checkable, QToolBar& bar) {
     button->setObjectName(key);
     button->setCheckable(checkable);
     button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::NoFocus);
+    button->setFocusPolicy(Qt::TabFocus);  // a click leaves the focus with the scene
     return button;
 }
 

@@ -31,7 +31,7 @@ float twips(double pixels) { return static_cast<float>(pixels * twipsPerPixel); 
 
 DrawingView::DrawingView(const Editor& ed, QWidget* parent) : QWidget(parent), pacer(*this), ed_(ed) {
     setMouseTracking(true);
-    setFocusPolicy(Qt::ClickFocus);
+    setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
