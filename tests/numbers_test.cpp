@@ -63,6 +63,8 @@ TEST(Numbers, WriteShortDecimals) {
     EXPECT_EQ(fixedText(-0.01, 1), "0.0");
     EXPECT_EQ(fixedText(99.94, 1), "99.9");
     EXPECT_EQ(clockText(1.24F), " 1.240");
+    EXPECT_EQ(clockText(20000), " 20000.000") << "rounding halves must not lift a long clock";
+    EXPECT_EQ(fixedText(-0.45, 1), "-0.5");
 }
 
 }  // namespace

@@ -95,10 +95,13 @@ void appendReal(std::string& out, float value) {
 
 std::string fixedText(double value, int decimals) {
     char buffer[400];
-    constexpr double halfLastDigit = 0x1p-24;  // of a 32-bit real, relative
-    const double raised = value * (1 + halfLastDigit);
+    // The decimal that the 32-bit real stands for, a hair away from zero: only exact halves notice.
+    double decimal = 0;
+    const auto shown = std::to_chars(buffer, buffer + sizeof buffer, static_cast<float>(value)).ptr;
+    std::from_chars(buffer, shown, decimal);
+    decimal = std::nextafter(decimal, std::copysign(std::numeric_limits<double>::infinity(), decimal));
     const auto end =
-        std::to_chars(buffer, buffer + sizeof buffer, raised, std::chars_format::fixed, decimals).ptr;
+        std::to_chars(buffer, buffer + sizeof buffer, decimal, std::chars_format::fixed, decimals).ptr;
     std::string text(buffer, end);
     const bool onlyZeros = text.find_first_not_of("-0.") == std::string::npos;
     if (onlyZeros && text.front() == '-') text.erase(0, 1);
