@@ -209,6 +209,10 @@ TEST(ModelInformation, CountsUsedAndHighest) {
     const std::string counts =
         "\r\n\r\nNodes: 2\r\nUsed Nodes: 1\r\n\r\nLinks: 1\r\nUsed Links: 1|Model Information\n";
     EXPECT_EQ(host.transcript, "message: <no title>" + counts + "message: Spider" + counts);
+    ed.ProjectTitle = std::string(1000000, 'W');
+    host.transcript.clear();
+    mnuShowModel_Click(ed, host);
+    EXPECT_EQ(host.transcript, "message: " + std::string(300, 'W') + "..." + counts);
 }
 
 }  // namespace

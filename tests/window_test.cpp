@@ -208,6 +208,11 @@ TEST_F(Window, QuestionsComeWithTheValueSelected) {
     answerNext("9", Qt::Key_Escape);
     choose("mnuDefaultK");
     EXPECT_EQ(ed().DefaultLinkK, 7.5F);
+    window_->perform([](Editor& ed, Host&) { ed.ProjectTitle = std::string(1000000, 'W'); });
+    answerNext("Spider", Qt::Key_Return, &said);
+    choose("mnuSetTitle");
+    EXPECT_EQ(said.indexOf('|'), 200) << "no caption of megabytes";
+    EXPECT_EQ(ed().ProjectTitle, "Spider");
     answerNext("2", Qt::Key_Return, &said);
     pressProperty("gravity");
     EXPECT_EQ(said, "Custom Value|1");

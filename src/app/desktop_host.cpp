@@ -19,6 +19,13 @@ namespace {
 
 QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
 
+// A project's title is a caption too, and a file may hold one of any length: an X server ends the program
+// that sends it a caption of megabytes.
+QString caption(const std::string& utf8) {
+    constexpr qsizetype longest = 200;
+    return text(utf8).left(longest);
+}
+
 QMessageBox::Icon iconOf(BoxIcon icon) {
     switch (icon) {
         case BoxIcon::information:
@@ -51,7 +58,7 @@ std::string DesktopHost::inputBox(const std::string& prompt, const std::string& 
                                   const std::string& preset) {
     QInputDialog dialog(&window_);
     dialog.setObjectName("InputBox");
-    dialog.setWindowTitle(text(title));
+    dialog.setWindowTitle(caption(title));
     dialog.setLabelText(text(prompt));
     dialog.setTextValue(text(preset));
     dialog.resize(380, dialog.sizeHint().height());
@@ -60,14 +67,14 @@ std::string DesktopHost::inputBox(const std::string& prompt, const std::string& 
 }
 
 void DesktopHost::messageBox(const std::string& message, const std::string& title, BoxIcon icon) {
-    QMessageBox box(iconOf(icon), text(title), text(message), QMessageBox::Ok, &window_);
+    QMessageBox box(iconOf(icon), caption(title), text(message), QMessageBox::Ok, &window_);
     box.setObjectName("MessageBox");
     box.setTextFormat(Qt::PlainText);
     run(box, open_);
 }
 
 bool DesktopHost::confirm(const std::string& question, const std::string& title) {
-    QMessageBox box(QMessageBox::Information, text(title), text(question),
+    QMessageBox box(QMessageBox::Information, caption(title), text(question),
                     QMessageBox::Ok | QMessageBox::Cancel, &window_);
     box.setObjectName("MessageBox");
     box.setTextFormat(Qt::PlainText);

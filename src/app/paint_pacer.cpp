@@ -2,6 +2,7 @@
 
 #include <QScreen>
 #include <algorithm>
+#include <cmath>
 
 namespace zentrik {
 
@@ -10,7 +11,7 @@ namespace {
 int refreshPeriod(const QWidget& widget) {
     const QScreen* screen = widget.screen();
     const double rate = screen != nullptr ? screen->refreshRate() : 60;
-    return static_cast<int>(1000 / std::clamp(rate, 30.0, 240.0));
+    return static_cast<int>(std::ceil(1000 / std::clamp(rate, 30.0, 240.0)));
 }
 
 }  // namespace
