@@ -27,6 +27,10 @@ allow edit none model sim effects edit
 allow ui none model sim effects project display edit ui
 allow app '.*' model sim effects project display edit ui app
 
+if grep -nE '^ *#include <Q' project/*.h project/*.cpp | grep -v '^project/write_file.cpp:'; then
+    echo "Qt in project outside the file that writes to disk"; status=1
+fi
+
 # Only what is painted may know painting, and headers of display stay free of widgets.
 if grep -nE 'QtWidgets|<Q(Widget|Application|MessageBox|Dialog|Action|Menu|Label)' -r model sim effects project display edit ui; then
     echo "widgets below app"; status=1
