@@ -18,6 +18,7 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
@@ -66,7 +67,9 @@ void frmMain::Form_Load(const QString& folder) {
     ed_.programFolder = (folder.isEmpty() ? programFolder() : folder).toStdString();
     ed_.chance.reseed();
     loadSprites();
-    const std::string skipped = panel(ed_, 5);
+    if (!QFileInfo::exists(QString::fromStdString(ed_.programFolder) + "/zoo"))
+        panel(ed_, 5) = "The sample projects could not be copied to " + ed_.programFolder;
+    const std::string toSay = panel(ed_, 5);
     Placement placement;
     getSettings(ed_, placement, settings_);
     restorePlacement(placement);
@@ -78,7 +81,7 @@ void frmMain::Form_Load(const QString& folder) {
     if (!ed_.marks.mnuAutoResume) ClearAnimation(ed_);
     DisplayScene(ed_, -1, -1);
     redrawPhaseManager(ed_, 0);
-    if (!skipped.empty()) panel(ed_, 5) = skipped;
+    if (!toSay.empty()) panel(ed_, 5) = toSay;
     if (const std::string problem = settings_.problem(); !problem.empty())
         host_.messageBox(problem + "\nThe program goes on with what it could read.", "Zentrik",
                          BoxIcon::exclamation);

@@ -10,22 +10,27 @@ namespace zentrik {
 
 namespace {
 
-void fill(const QString& folder, const QString& name) {
-    if (QFileInfo::exists(folder + "/" + name) || !QDir().mkpath(folder + "/" + name)) return;
+// All files or none: an interrupted copy is made anew at the next start.
+bool fill(const QString& folder, const QString& name) {
+    const QString target = folder + "/" + name, half = target + ".new";
+    if (QFileInfo::exists(target)) return true;
+    QDir(half).removeRecursively();
+    if (!QDir().mkpath(half)) return false;
     const QDir shipped(":/" + name);
     for (const QString& file : shipped.entryList(QDir::Files)) {
-        const QString target = folder + "/" + name + "/" + file;
-        QFile::copy(shipped.filePath(file), target);
-        QFile::setPermissions(target,
+        const QString copy = half + "/" + file;
+        if (!QFile::copy(shipped.filePath(file), copy)) return false;
+        QFile::setPermissions(copy,
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
     }
+    return QDir().rename(half, target);
 }
 
 }  // namespace
 
-void fillProgramFolder(const QString& folder) {
-    fill(folder, "zoo");
-    fill(folder, "sprites");
+bool fillProgramFolder(const QString& folder) {
+    const bool projects = fill(folder, "zoo");
+    return fill(folder, "sprites") && projects;
 }
 
 QString programFolder() {
@@ -33,7 +38,8 @@ QString programFolder() {
     const QFileInfo zoo(beside + "/zoo");
     if (zoo.isDir() && zoo.isWritable()) return beside;
     const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    fillProgramFolder(own);
+    if (!fillProgramFolder(own))
+        qWarning("The sample projects could not all be copied to %s", qPrintable(own));
     return own;
 }
 

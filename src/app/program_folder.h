@@ -7,7 +7,8 @@ namespace zentrik {
 // user's own data folder, which is filled with the shipped projects and sprites when it is new.
 QString programFolder();
 
-// Fills a folder's zoo and sprites with the shipped files, each as far as it does not exist yet as a folder.
-void fillProgramFolder(const QString& folder);
+// Fills a folder's zoo and sprites with the shipped files, each unless it exists already. False when
+// something could not be copied; that folder is then left for the next start.
+bool fillProgramFolder(const QString& folder);
 
 }  // namespace zentrik

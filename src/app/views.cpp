@@ -68,8 +68,16 @@ const SpritePictures& SceneView::loadPictures(const std::string& folder) {
     return sprites_;
 }
 
+// The window came to a screen of another pixel ratio. The folder may hold other files by now; then the
+// pictures stay as they are, since nodes know them by number.
+void SceneView::drawPicturesAnew() {
+    ratio_ = devicePixelRatioF();
+    SpritePictures fresh = loadSprites(folder_, ratio_);
+    if (fresh.names == sprites_.names) sprites_ = std::move(fresh);
+}
+
 void SceneView::paintEvent(QPaintEvent*) {
-    if (ratio_ != 0 && ratio_ != devicePixelRatioF()) loadPictures(folder_);
+    if (ratio_ != 0 && ratio_ != devicePixelRatioF()) drawPicturesAnew();
     QPainter painter(this);
     drawScene(painter, ed_, sprites_);
 }

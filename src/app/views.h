@@ -48,6 +48,8 @@ private:
     SpritePictures sprites_;
     std::string folder_;
     double ratio_ = 0;
+
+    void drawPicturesAnew();
 };
 
 // picPhase

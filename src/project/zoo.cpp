@@ -83,7 +83,8 @@ FileBytes readProjectFile(const fs::path& path) {
     // Only a regular file has a size and an end; a device or pipe might keep us waiting for ever.
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
-    if (!fs::exists(status)) return {"", "There is no such file."};
+    if (status.type() == fs::file_type::not_found) return {"", "There is no such file."};
+    if (!fs::exists(status)) return {"", "It cannot be looked at: " + error.message() + "."};
     if (!fs::is_regular_file(status)) return {"", "It is not an ordinary file."};
     const std::uintmax_t size = fs::file_size(path, error);
     std::ifstream file(path, std::ios::binary);

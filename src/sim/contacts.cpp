@@ -166,7 +166,7 @@ void Barriers::deflect(Editor& ed, std::int32_t i) {
         const std::int32_t x = node.X, y = node.Y;
         std::int32_t anyNear = 0;
         for (std::size_t m = from; m < to; ++m) {
-            near_[m] = (x >= left_[m]) & (x <= right_[m]) & (y >= top_[m]) & (y <= bottom_[m]);
+            near_[m] = int{x >= left_[m]} & int{x <= right_[m]} & int{y >= top_[m]} & int{y <= bottom_[m]};
             anyNear |= near_[m];
         }
         std::size_t next = to;
