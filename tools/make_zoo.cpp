@@ -11,10 +11,11 @@ namespace {
 using namespace zentrik::zoo;
 
 constexpr Exhibit exhibits[] = {
-    {"acrobats", acrobats},       {"birds", birds},     {"bridge", bridge}, {"car", car},
-    {"caterpillar", caterpillar}, {"cloth", cloth},     {"jelly", jelly},   {"jellyfish", jellyfish},
-    {"pendulum", pendulum},       {"planets", planets}, {"range", range},   {"tower", tower},
-    {"walker", walker},           {"wheel", wheel},
+    {"acrobats", acrobats},       {"birds", birds},     {"bridge", bridge},     {"car", car},
+    {"caterpillar", caterpillar}, {"cloth", cloth},     {"jelly", jelly},       {"jellyfish", jellyfish},
+    {"pendulum", pendulum},       {"planets", planets}, {"range", range},       {"tower", tower},
+    {"walker", walker},           {"wheel", wheel},     {"blossoms", blossoms}, {"kites", kites},
+    {"windmills", windmills},
 };
 
 }  // namespace

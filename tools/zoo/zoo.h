@@ -30,4 +30,9 @@ Editor jellyfish();
 Editor planets();
 Editor range();
 
+// Made with the program's own commands.
+Editor blossoms();
+Editor kites();
+Editor windmills();
+
 }  // namespace zentrik::zoo
