@@ -1,5 +1,5 @@
 #pragma once
-// A run of free nodes as the loops of the node stage see it.
+// A run of free nodes as the attraction sees it.
 
 #include <array>
 #include <cstddef>
@@ -14,13 +14,12 @@ struct NodeLanes {
     using Column = std::array<T, size>;
     struct Axis {
         Column<double> place;  // twips
-        Column<float> velocity, force;
+        Column<float> force;
     };
 
     std::size_t count = 0;
     bool small = false;  // all places are: see isSmall
     Axis x, y;
-    Column<float> mass;
 };
 
 // The difference of any two small places is exact as a 32-bit real.

@@ -10,10 +10,15 @@
 #define ZENTRIK_WIDE_LOOP
 #endif
 
+#include "model/records.h"
+
+#include <cstring>
+
 namespace zentrik {
 
 using Float2 = float __attribute__((vector_size(8)));
 using Double2 = double __attribute__((vector_size(16)));
+using Int2 = std::int32_t __attribute__((vector_size(8)));
 
 // Single numbers: a stored quantity is a 32-bit real, an expression is evaluated in double precision.
 inline float real(double value) { return static_cast<float>(value); }
@@ -22,5 +27,16 @@ inline double wide(float value) { return static_cast<double>(value); }
 // Rounds to 32-bit reals; beyond their range gives infinities, which the step looks for.
 inline Float2 round32(Double2 pair) { return __builtin_convertvector(pair, Float2); }
 inline Double2 wide(Float2 pair) { return __builtin_convertvector(pair, Double2); }
+inline Double2 wide(Int2 pair) { return __builtin_convertvector(pair, Double2); }
+
+inline Int2 placeOf(const Node& node) { return Int2{node.X, node.Y}; }
+inline Float2 velocityOf(const Node& node) { return Float2{node.Vx, node.Vy}; }
+inline Float2 forceOf(const Node& node) { return Float2{node.Fx, node.Fy}; }
+
+// Hands a pair to two neighbours in an array.
+template <class Pair, class T>
+void store(T* to, Pair pair) {
+    std::memcpy(to, &pair, sizeof pair);
+}
 
 }  // namespace zentrik

@@ -14,8 +14,9 @@ namespace {
 
 // What a step may change of a node, kept until it is known to have worked.
 struct NodeState {
-    std::int32_t X, Y;
-    float Vx, Vy, Fx, Fy, Rotate;
+    Int2 place;
+    Float2 velocity, force;
+    float Rotate;
     bool Used;
 };
 
@@ -49,8 +50,8 @@ Survey survey(const Editor& ed, Scratch& work) {
     const std::int32_t last = lastNode(ed);
     for (std::int32_t i = 0; i <= last; ++i) {
         const Node& n = nodeAt(ed, i);
-        work.before[static_cast<std::size_t>(i)] = {n.X, n.Y, n.Vx, n.Vy, n.Fx, n.Fy, n.Rotate, n.Used};
-        work.points[static_cast<std::size_t>(i)] = {Double2{double(n.X), double(n.Y)}, Float2{n.Fx, n.Fy}};
+        work.before[static_cast<std::size_t>(i)] = {placeOf(n), velocityOf(n), forceOf(n), n.Rotate, n.Used};
+        work.points[static_cast<std::size_t>(i)] = {placeOf(n), forceOf(n)};
         if (!isSmall(n.X, n.Y)) result.placesAreSmall = false;
         // A node's drive acts over used links whether the node itself is used or not.
         if (n.Rotate != 0) result.anyRotate = true;
@@ -67,7 +68,9 @@ void putBack(Editor& ed, const std::vector<NodeState>& before) {
     for (std::size_t i = 0; i < before.size(); ++i) {
         Node& n = ed.Nodes[i];
         const NodeState& s = before[i];
-        n.X = s.X, n.Y = s.Y, n.Vx = s.Vx, n.Vy = s.Vy, n.Fx = s.Fx, n.Fy = s.Fy;
+        n.X = s.place[0], n.Y = s.place[1];
+        n.Vx = s.velocity[0], n.Vy = s.velocity[1];
+        n.Fx = s.force[0], n.Fy = s.force[1];
         n.Rotate = s.Rotate, n.Used = s.Used;
     }
 }
