@@ -22,10 +22,23 @@ struct NodeLanes {
     Axis x, y;
 };
 
-// The difference of any two small places is exact as a 32-bit real.
+// Whether the difference of any two of the places added is exact as a 32-bit real.
+class PlaceSpread {
+public:
+    void add(std::int32_t x, std::int32_t y) {
+        seen_ |= static_cast<std::uint32_t>(x) + limit;
+        seen_ |= static_cast<std::uint32_t>(y) + limit;
+    }
+    bool isSmall() const { return seen_ < 2 * limit; }
+
+private:
+    static constexpr std::uint32_t limit = 1U << 23;
+    std::uint32_t seen_ = 0;
+};
 inline bool isSmall(std::int32_t x, std::int32_t y) {
-    constexpr std::uint32_t limit = 1U << 23;
-    return ((static_cast<std::uint32_t>(x) + limit) | (static_cast<std::uint32_t>(y) + limit)) < 2 * limit;
+    PlaceSpread spread;
+    spread.add(x, y);
+    return spread.isSmall();
 }
 
 }  // namespace zentrik

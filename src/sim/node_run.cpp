@@ -29,12 +29,12 @@ ZENTRIK_WIDE_LOOP void move(const NodeRun& run, const Motion& motion, Arrivals& 
 }
 
 ZENTRIK_WIDE_LOOP bool isClear(std::size_t count, const Motion& motion, const Arrivals& arrivals) {
-    std::int64_t clear = -1;
+    std::int64_t unclear = 0;
     for (std::size_t k = 0; k < 2 * count; ++k) {
         const double place = arrivals.place[k];
-        clear &= place >= motion.low[k] && place <= motion.high[k] ? -1 : 0;
+        unclear += (place >= motion.low[k]) & (place <= motion.high[k]) ? 0 : 1;
     }
-    return clear != 0;
+    return unclear == 0;
 }
 
 }  // namespace

@@ -47,20 +47,28 @@ Survey survey(const Editor& ed, Scratch& work) {
     work.attraction.clear();
     work.before.resize(ed.Nodes.size());
     work.points.resize(ed.Nodes.size());
+    const Node* const nodes = ed.Nodes.data();
+    NodeState* const before = work.before.data();
+    ForcePoint* const points = work.points.data();
     const std::int32_t last = lastNode(ed);
+    PlaceSpread spread;
+    float turning = 0;
     for (std::int32_t i = 0; i <= last; ++i) {
-        const Node& n = nodeAt(ed, i);
-        work.before[static_cast<std::size_t>(i)] = {placeOf(n), velocityOf(n), forceOf(n), n.Rotate, n.Used};
-        work.points[static_cast<std::size_t>(i)] = {placeOf(n), forceOf(n)};
-        if (!isSmall(n.X, n.Y)) result.placesAreSmall = false;
+        const Node& n = nodes[i];
+        __builtin_prefetch(&n + 24);  // a large model's are far away
+        before[i] = {placeOf(n), velocityOf(n), forceOf(n), n.Rotate, n.Used};
+        points[i] = {placeOf(n), forceOf(n)};
+        spread.add(n.X, n.Y);
         // A node's drive acts over used links whether the node itself is used or not.
-        if (n.Rotate != 0) result.anyRotate = true;
+        turning = n.Rotate != 0 ? 1 : turning;
         if (!n.Used) continue;
         if (n.Gravity != 0) work.attraction.add(i, n);
         if (n.Locked) continue;
         result.lastFree = i;
         if (n.Mass == 0 && result.massless == 0) result.massless = i;
     }
+    result.anyRotate = turning != 0;
+    result.placesAreSmall = spread.isSmall();
     return result;
 }
 
