@@ -2,6 +2,7 @@
 
 #include "model/numbers.h"
 #include "model/store.h"
+#include "sim/prefetch.h"
 
 #include <algorithm>
 #include <cmath>
@@ -64,7 +65,7 @@ std::int32_t NodeStage::gatherRun(std::int32_t from) {
     std::int32_t i = from;
     for (bool ends = false; i <= last && m < NodeRun::size && !ends; ++i) {
         Node& node = nodeAt(ed, i);
-        __builtin_prefetch(&node + 24, 1);  // a large model's are far away
+        prefetchAhead(node, 64);
         if (!node.Used || node.Locked) {
             if (hold(i, node) != nullptr) run_.plain = false;
             continue;

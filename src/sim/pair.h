@@ -2,6 +2,10 @@
 // x and y side by side, so that one instruction works on both. Lane 0 is x, lane 1 is y; arithmetic
 // between pairs goes lane by lane and rounds exactly as it does for single numbers.
 
+#include "model/records.h"
+
+#include <cstring>
+
 // Marks a function of plain loops to be compiled twice: for processors with 256-bit vectors and for all
 // others. The program picks at its start; results are the same to the last bit, only sooner there.
 #if defined(__x86_64__)
@@ -9,10 +13,6 @@
 #else
 #define ZENTRIK_WIDE_LOOP
 #endif
-
-#include "model/records.h"
-
-#include <cstring>
 
 namespace zentrik {
 
@@ -33,6 +33,7 @@ inline Int2 placeOf(const Node& node) { return Int2{node.X, node.Y}; }
 inline Float2 velocityOf(const Node& node) { return Float2{node.Vx, node.Vy}; }
 inline Float2 forceOf(const Node& node) { return Float2{node.Fx, node.Fy}; }
 
+inline Float2 pairAt(const float* from) { return Float2{from[0], from[1]}; }
 // Hands a pair to two neighbours in an array.
 template <class Pair, class T>
 void store(T* to, Pair pair) {

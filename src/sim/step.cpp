@@ -4,6 +4,7 @@
 #include "model/redraw.h"
 #include "model/store.h"
 #include "sim/node_stage.h"
+#include "sim/prefetch.h"
 #include "sim/run.h"
 
 #include <cmath>
@@ -55,7 +56,7 @@ Survey survey(const Editor& ed, Scratch& work) {
     float turning = 0;
     for (std::int32_t i = 0; i <= last; ++i) {
         const Node& n = nodes[i];
-        __builtin_prefetch(&n + 24);  // a large model's are far away
+        prefetchAhead(n, 24);
         before[i] = {placeOf(n), velocityOf(n), forceOf(n), n.Rotate, n.Used};
         points[i] = {placeOf(n), forceOf(n)};
         spread.add(n.X, n.Y);
