@@ -39,7 +39,7 @@ struct SpringBatch {
 
     Column<Link*> link{};
     PairColumn<float> d{};  // from N2 to N1, twips
-    Column<float> rest{}, factor{}, k{}, length{}, strength{};
+    Column<float> rest{}, factor{}, k{}, length{};
     PairColumn<float> force{};
 };
 
@@ -50,28 +50,19 @@ struct SpringBatch {
     return round32(wide(a.place) - wide(b.place));
 }
 
-[[gnu::always_inline]] inline void measure(SpringBatch& batch) {
+// Ends at the same place give no direction to pull in: such a link exerts nothing, whether links of
+// length zero are allowed or not. (Other lengths are at least 1 twip.)
+[[gnu::always_inline]] inline void solve(SpringBatch& batch) {
     for (std::size_t m = 0; m < SpringBatch::size; ++m) {
         const double dx = wide(batch.d[2 * m]), dy = wide(batch.d[2 * m + 1]);
-        batch.length[m] = real(std::sqrt(dx * dx + dy * dy));
-    }
-}
-
-// Ends at the same place give no direction to pull in: such a link exerts nothing, whether links of
-// length zero are allowed or not.
-[[gnu::always_inline]] inline void stretch(SpringBatch& batch) {
-    for (std::size_t m = 0; m < SpringBatch::size; ++m) {
+        const float length = real(std::sqrt(dx * dx + dy * dy));
         const double rest = wide(batch.factor[m]) * batch.rest[m];
-        const float strength = real((batch.length[m] - rest) * batch.k[m] * 100);
-        batch.strength[m] = batch.length[m] > 0 ? strength : 0;
-    }
-}
-
-[[gnu::always_inline]] inline void pull(SpringBatch& batch) {
-    for (std::size_t m = 0; m < SpringBatch::size; ++m) {
-        const double length = wide(batch.length[m] > 1 ? batch.length[m] : 1);  // 0 or at least 1 twip
-        batch.force[2 * m] = real(batch.d[2 * m] / length * batch.strength[m]);
-        batch.force[2 * m + 1] = real(batch.d[2 * m + 1] / length * batch.strength[m]);
+        const float F = real((length - rest) * batch.k[m] * 100);
+        const float strength = length > 0 ? F : 0;
+        const double divisor = wide(length > 1 ? length : 1);
+        batch.length[m] = length;
+        batch.force[2 * m] = real(dx / divisor * strength);
+        batch.force[2 * m + 1] = real(dy / divisor * strength);
     }
 }
 
@@ -87,9 +78,7 @@ struct SpringBatch {
 }
 
 [[gnu::always_inline]] inline void exert(SpringBatch& batch, std::size_t count, ForcePoint* points) {
-    measure(batch);
-    stretch(batch);
-    pull(batch);
+    solve(batch);
     scatter(batch, count, points);
 }
 
