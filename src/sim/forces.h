@@ -10,7 +10,7 @@ namespace zentrik {
 
 // A node as the link stages see it: small enough that a large model stays in the processor's cache.
 struct ForcePoint {
-    Double2 place;  // twips
+    Int2 place;  // twips
     Float2 force;
 };
 using ForcePoints = std::vector<ForcePoint>;  // by node number

@@ -1,5 +1,5 @@
 #pragma once
-// A run of free nodes as the loops of the node stage see it.
+// A run of free nodes as the attraction sees it.
 
 #include <array>
 #include <cstddef>
@@ -14,19 +14,31 @@ struct NodeLanes {
     using Column = std::array<T, size>;
     struct Axis {
         Column<double> place;  // twips
-        Column<float> velocity, force;
+        Column<float> force;
     };
 
     std::size_t count = 0;
     bool small = false;  // all places are: see isSmall
     Axis x, y;
-    Column<float> mass;
 };
 
-// The difference of any two small places is exact as a 32-bit real.
+// Whether the difference of any two of the places added is exact as a 32-bit real.
+class PlaceSpread {
+public:
+    void add(std::int32_t x, std::int32_t y) {
+        seen_ |= static_cast<std::uint32_t>(x) + limit;
+        seen_ |= static_cast<std::uint32_t>(y) + limit;
+    }
+    bool isSmall() const { return seen_ < 2 * limit; }
+
+private:
+    static constexpr std::uint32_t limit = 1U << 23;
+    std::uint32_t seen_ = 0;
+};
 inline bool isSmall(std::int32_t x, std::int32_t y) {
-    constexpr std::uint32_t limit = 1U << 23;
-    return ((static_cast<std::uint32_t>(x) + limit) | (static_cast<std::uint32_t>(y) + limit)) < 2 * limit;
+    PlaceSpread spread;
+    spread.add(x, y);
+    return spread.isSmall();
 }
 
 }  // namespace zentrik

@@ -2,6 +2,7 @@
 
 #include "model/numbers.h"
 #include "model/store.h"
+#include "sim/prefetch.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,35 +22,13 @@ bool inTheWorld(double x, double y) {
     return std::fabs(x) <= farthest && std::fabs(y) <= farthest;
 }
 
-// What moves all nodes along one axis.
-struct Motion {
-    double dt, viscosity, wind, gravity;
-};
-
-// Drag and wind, velocity, place from the new velocity, each in its own short loop: the processor looks
-// ahead only so far. (Half of a quotient is the quotient of the half, to the last bit: no 32-bit force
-// is so small that halving it could lose one.)
-ZENTRIK_WIDE_LOOP void integrate(const NodeLanes& lanes, const NodeLanes::Axis& from, const Motion& motion,
-                                 NodeLanes::Axis& to) {
-    const auto [dt, viscosity, wind, gravity] = motion;
-    NodeLanes::Column<double> acceleration;
-    for (std::size_t m = 0; m < lanes.count; ++m) {
-        to.force[m] = real(from.force[m] - viscosity * from.velocity[m] * 10 + wind);
-        acceleration[m] = to.force[m] / wide(lanes.mass[m]);
-    }
-    for (std::size_t m = 0; m < lanes.count; ++m)
-        to.velocity[m] = real((acceleration[m] + gravity) * dt + from.velocity[m]);
-    for (std::size_t m = 0; m < lanes.count; ++m)
-        to.place[m] = dt * dt * (acceleration[m] * 0.5) + dt * to.velocity[m] + from.place[m];
-}
-
 std::string problemText(std::int32_t i, const char* reason) {
     return "Node " + std::to_string(i) + " " + reason;
 }
 
 }  // namespace
 
-NodeStage::NodeStage(Editor& editor, ForcePoints& points, Attraction& attraction, Barriers& barriers)
+NodeStage::NodeStage(Editor& editor, const ForcePoints& points, Attraction& attraction, Barriers& barriers)
     : ed(editor),
       points_(points),
       attraction_(attraction),
@@ -61,44 +40,85 @@ NodeStage::NodeStage(Editor& editor, ForcePoints& points, Attraction& attraction
 
 std::string NodeStage::run(float dt, std::int32_t lastFree) {
     lastFree_ = lastFree;
-    const Motion sideways{dt, wide(ed.Viscosity), ed.LeftWind * 1000.0, 0};
-    const Motion downwards{dt, wide(ed.Viscosity), 0, wide(real(ed.Gravity * 10000.0))};
+    const Motion motion(ed, dt, bounds_);
     std::string problem;
     for (std::int32_t i = 1; i <= lastNode(ed) && problem.empty();) {
         const std::int32_t end = gatherRun(i);
-        if (attracts_) attraction_.pull(lanes_);
-        integrate(lanes_, lanes_.x, sideways, arrivalX_);
-        integrate(lanes_, lanes_.y, downwards, arrivalY_);
-        i = commitRun(i, end, problem);
+        if (attracts_) attract();
+        integrate(run_, motion, arrivals_);
+        if (nothingComesBetween()) {
+            commitPlainRun();
+            i = end;
+        } else {
+            i = commitRun(i, end, problem);
+        }
     }
     if (problem.empty() && contacts_.touched) return checkVelocities();
     return problem;
 }
 
-// Fills the lanes with the free nodes of a run; gives the node behind it.
+// Fills the run with free nodes; gives the node behind it.
 std::int32_t NodeStage::gatherRun(std::int32_t from) {
     const std::int32_t last = lastNode(ed);
-    lanes_.small = true;
+    run_.plain = true;
     std::size_t m = 0;
     std::int32_t i = from;
-    for (bool ends = false; i <= last && m < NodeLanes::size && !ends; ++i) {
-        const Node& node = nodeAt(ed, i);
-        __builtin_prefetch(&nodeAt(ed, std::min(i + 24, last)), 1);  // a large model's are far away
-        if (!node.Used || node.Locked) continue;
-        const Float2 force = pointAt(points_, i).force;
-        lanes_.x.place[m] = node.X;
-        lanes_.y.place[m] = node.Y;
-        lanes_.x.force[m] = force[0];
-        lanes_.y.force[m] = force[1];
-        lanes_.x.velocity[m] = node.Vx;
-        lanes_.y.velocity[m] = node.Vy;
-        lanes_.mass[m] = node.Mass;
-        if (!isSmall(node.X, node.Y)) lanes_.small = false;
+    for (bool ends = false; i <= last && m < NodeRun::size && !ends; ++i) {
+        Node& node = nodeAt(ed, i);
+        prefetchAhead(node, 64);
+        if (!node.Used || node.Locked) {
+            if (hold(i, node) != nullptr) run_.plain = false;
+            continue;
+        }
+        run_.node[m] = &node;
+        store(&run_.place[2 * m], placeOf(node));
+        store(&run_.velocity[2 * m], velocityOf(node));
+        store(&run_.force[2 * m], pointAt(points_, i).force);
+        store(&run_.mass[2 * m], Float2{node.Mass, node.Mass});
         ends = node.Gravity != 0;
         ++m;
     }
-    lanes_.count = m;
+    if (attracts_) run_.plain = false;
+    run_.count = m;
     return i;
+}
+
+void NodeStage::attract() {
+    NodeLanes lanes;
+    lanes.small = true;
+    lanes.count = run_.count;
+    for (std::size_t m = 0; m < run_.count; ++m) {
+        const std::size_t x = 2 * m, y = x + 1;
+        if (!isSmall(run_.place[x], run_.place[y])) lanes.small = false;
+        lanes.x.place[m] = run_.place[x];
+        lanes.y.place[m] = run_.place[y];
+        lanes.x.force[m] = run_.force[x];
+        lanes.y.force[m] = run_.force[y];
+    }
+    attraction_.pull(lanes);
+    for (std::size_t m = 0; m < run_.count; ++m) {
+        run_.force[2 * m] = lanes.x.force[m];
+        run_.force[2 * m + 1] = lanes.y.force[m];
+    }
+}
+
+// Whether the arrivals are all there is to do for the nodes of this run.
+bool NodeStage::nothingComesBetween() const {
+    const bool plotting = ed.marks.mnuDisplayPath && selectedNode(ed) != nullptr;
+    return run_.plain && arrivals_.clear && !testBarriers_ && !recolour_ && !plotting;
+}
+
+void NodeStage::commitPlainRun() const {
+    for (std::size_t m = 0; m < run_.count; ++m) {
+        Node& node = *run_.node[m];
+        const double* const place = &arrivals_.place[2 * m];
+        const float* const velocity = &arrivals_.velocity[2 * m];
+        node.X = static_cast<std::int32_t>(std::llrint(place[0]));
+        node.Y = static_cast<std::int32_t>(std::llrint(place[1]));
+        node.Vx = velocity[0];
+        node.Vy = velocity[1];
+        node.Fx = node.Fy = 0;
+    }
 }
 
 // Hands a run's arrivals to its nodes, up to the first one at a wall; gives the node to go on with.
@@ -131,12 +151,12 @@ const char* NodeStage::hold(std::int32_t i, Node& node) const {
 }
 
 const char* NodeStage::move(std::int32_t i, Node& node, std::size_t lane) {
-    node.Vx = arrivalX_.velocity[lane];
-    node.Vy = arrivalY_.velocity[lane];
-    if (!inTheWorld(arrivalX_.place[lane], arrivalY_.place[lane]))
-        return isFinite(node) ? leftTheWorld : notFinite;
-    node.X = static_cast<std::int32_t>(std::llrint(arrivalX_.place[lane]));
-    node.Y = static_cast<std::int32_t>(std::llrint(arrivalY_.place[lane]));
+    const double* const place = &arrivals_.place[2 * lane];
+    node.Vx = arrivals_.velocity[2 * lane];
+    node.Vy = arrivals_.velocity[2 * lane + 1];
+    if (!inTheWorld(place[0], place[1])) return isFinite(node) ? leftTheWorld : notFinite;
+    node.X = static_cast<std::int32_t>(std::llrint(place[0]));
+    node.Y = static_cast<std::int32_t>(std::llrint(place[1]));
     node.Fx = 0;
     node.Fy = 0;
     const char* problem = nullptr;

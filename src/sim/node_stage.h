@@ -5,6 +5,7 @@
 #include "sim/attraction.h"
 #include "sim/contacts.h"
 #include "sim/forces.h"
+#include "sim/node_run.h"
 
 #include <string>
 
@@ -16,7 +17,7 @@ namespace zentrik {
 class NodeStage {
 public:
     // points, attraction and barriers must hold this step's forces, attracting nodes and barriers.
-    NodeStage(Editor& editor, ForcePoints& points, Attraction& attraction, Barriers& barriers);
+    NodeStage(Editor& editor, const ForcePoints& points, Attraction& attraction, Barriers& barriers);
 
     // dt: time units. lastFree: the last node that will move. Gives what went wrong, or the empty text.
     std::string run(float dt, std::int32_t lastFree);
@@ -24,17 +25,20 @@ public:
 
 private:
     Editor& ed;
-    ForcePoints& points_;
+    const ForcePoints& points_;
     Attraction& attraction_;
     Barriers& barriers_;
     Bounds bounds_;
     WallContacts contacts_;
     std::int32_t lastFree_ = 0;
     bool attracts_, testBarriers_, recolour_;
-    NodeLanes lanes_;
-    NodeLanes::Axis arrivalX_, arrivalY_;  // where the lanes go, if nothing comes in between
+    NodeRun run_;
+    Arrivals arrivals_;  // where the run's nodes go, if nothing comes in between
 
     std::int32_t gatherRun(std::int32_t from);
+    void attract();
+    bool nothingComesBetween() const;
+    void commitPlainRun() const;
     std::int32_t commitRun(std::int32_t from, std::int32_t to, std::string& problem);
     const char* hold(std::int32_t i, Node& node) const;
     const char* move(std::int32_t i, Node& node, std::size_t lane);

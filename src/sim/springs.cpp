@@ -1,7 +1,7 @@
 #include "model/store.h"
 #include "sim/forces.h"
+#include "sim/prefetch.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -21,104 +21,95 @@ struct AnimatorClock {
 // Factor by which an animator stretches its link's rest length; it starts once the clock's phase has
 // passed its own.
 float animatorFactor(const Link& link, const AnimatorClock& clock) {
-    if (!link.Animator || !clock.running) return 1;
+    if (!clock.running) return 1;
     const double angle = link.Angle * degreesToRadians;
     if (!(real(angle) < clock.reached)) return 1;
     return real(link.Force * std::sin(clock.phase - angle) + 1);
 }
 
-double drivenRestLength(const Link& link, const AnimatorClock& clock) {
-    return link.Animator ? wide(animatorFactor(link, clock)) * link.RestLength : wide(link.RestLength);
-}
-
 // A run of springs side by side. One spring alone waits for its square root, then for its division, then
-// for the memory of its nodes; short loops over many keep the processor busy, and vectorise.
+// for the memory of its nodes; short loops over many keep the processor busy, and vectorise. All of them
+// are compiled into applySprings, which is there once for each width of vectors.
 struct SpringBatch {
     static constexpr std::size_t size = 32;
     template <class T>
     using Column = std::array<T, size>;
+    template <class T>
+    using PairColumn = std::array<T, 2 * size>;  // x and y take turns
 
     Column<Link*> link{};
-    Column<double> dx{}, dy{};  // from N2 to N1, twips
-    Column<double> rest{};
-    Column<float> k{}, length{}, strength{}, fx{}, fy{};
+    PairColumn<float> d{};  // from N2 to N1, twips
+    Column<float> rest{}, factor{}, k{}, length{};
+    PairColumn<float> force{};
 };
 
-void gather(SpringBatch& batch, std::size_t m, Link& link, const ForcePoints& points,
-            const AnimatorClock& clock) {
-    const Double2 d = pointAt(points, link.N1).place - pointAt(points, link.N2).place;
-    batch.link[m] = &link;
-    batch.dx[m] = d[0];
-    batch.dy[m] = d[1];
-    batch.rest[m] = drivenRestLength(link, clock);
-    batch.k[m] = link.k;
-}
-
-ZENTRIK_WIDE_LOOP void roundDifferences(SpringBatch& batch) {
-    for (std::size_t m = 0; m < SpringBatch::size; ++m) {
-        batch.dx[m] = wide(real(batch.dx[m]));
-        batch.dy[m] = wide(real(batch.dy[m]));
-    }
-}
-
-ZENTRIK_WIDE_LOOP void measure(SpringBatch& batch) {
-    for (std::size_t m = 0; m < SpringBatch::size; ++m)
-        batch.length[m] = real(std::sqrt(batch.dx[m] * batch.dx[m] + batch.dy[m] * batch.dy[m]));
+// Exact where places are small: whole numbers then have no more digits than a 32-bit real.
+[[gnu::always_inline]] inline Float2 difference(const ForcePoint& a, const ForcePoint& b,
+                                                bool placesAreSmall) {
+    if (placesAreSmall) return __builtin_convertvector(a.place - b.place, Float2);
+    return round32(wide(a.place) - wide(b.place));
 }
 
 // Ends at the same place give no direction to pull in: such a link exerts nothing, whether links of
-// length zero are allowed or not.
-ZENTRIK_WIDE_LOOP void stretch(SpringBatch& batch) {
+// length zero are allowed or not. (Other lengths are at least 1 twip.)
+[[gnu::always_inline]] inline void solve(SpringBatch& batch) {
     for (std::size_t m = 0; m < SpringBatch::size; ++m) {
-        const float strength = real((batch.length[m] - batch.rest[m]) * batch.k[m] * 100);
-        batch.strength[m] = batch.length[m] > 0 ? strength : 0;
-    }
-}
-
-ZENTRIK_WIDE_LOOP void pull(SpringBatch& batch) {
-    for (std::size_t m = 0; m < SpringBatch::size; ++m) {
-        const double length = wide(batch.length[m] > 1 ? batch.length[m] : 1);  // 0 or at least 1 twip
-        batch.fx[m] = real(batch.dx[m] / length * batch.strength[m]);
-        batch.fy[m] = real(batch.dy[m] / length * batch.strength[m]);
+        const double dx = wide(batch.d[2 * m]), dy = wide(batch.d[2 * m + 1]);
+        const float length = real(std::sqrt(dx * dx + dy * dy));
+        const double rest = wide(batch.factor[m]) * batch.rest[m];
+        const float F = real((length - rest) * batch.k[m] * 100);
+        const float strength = length > 0 ? F : 0;
+        const double divisor = wide(length > 1 ? length : 1);
+        batch.length[m] = length;
+        batch.force[2 * m] = real(dx / divisor * strength);
+        batch.force[2 * m + 1] = real(dy / divisor * strength);
     }
 }
 
 // Hands the forces to the nodes, link by link in index order: the order decides how sums round.
-void scatter(const SpringBatch& batch, std::size_t count, ForcePoints& points) {
+[[gnu::always_inline]] inline void scatter(const SpringBatch& batch, std::size_t count, ForcePoint* points) {
     for (std::size_t m = 0; m < count; ++m) {
         Link& link = *batch.link[m];
-        const Float2 force{batch.fx[m], batch.fy[m]};
+        const Float2 force = pairAt(&batch.force[2 * m]);
         link.CurrentLength = batch.length[m];
-        pointAt(points, link.N1).force -= force;
-        pointAt(points, link.N2).force += force;
+        points[link.N1].force -= force;
+        points[link.N2].force += force;
     }
 }
 
-void exert(SpringBatch& batch, std::size_t count, ForcePoints& points, bool placesAreSmall) {
-    if (!placesAreSmall) roundDifferences(batch);
-    measure(batch);
-    stretch(batch);
-    pull(batch);
+[[gnu::always_inline]] inline void exert(SpringBatch& batch, std::size_t count, ForcePoint* points) {
+    solve(batch);
     scatter(batch, count, points);
 }
 
 }  // namespace
 
-void applySprings(Editor& ed, ForcePoints& points, bool placesAreSmall, std::vector<std::int32_t>& barriers) {
+ZENTRIK_WIDE_LOOP void applySprings(Editor& ed, ForcePoints& points, bool placesAreSmall,
+                                    std::vector<std::int32_t>& barriers) {
     const double phase = wide(ed.DeltaAngle) * ed.AnimationTime;
     const AnimatorClock clock{ed.buttons.animation, phase, std::fabs(real(phase))};
+    const auto nodes = static_cast<std::uint32_t>(lastNode(ed));
+    const auto exists = [nodes](std::int32_t i) { return static_cast<std::uint32_t>(i) - 1 < nodes; };
+    ForcePoint* const at = points.data();
+    Link* const links = ed.Links.data();
+    const std::int32_t last = lastLink(ed);
     SpringBatch batch;
     std::size_t count = 0;
-    const std::int32_t last = lastLink(ed);
-    forEachLink(ed, [&](std::int32_t j, Link& link) {
-        __builtin_prefetch(&linkAt(ed, std::min(j + 16, last)), 1);  // a large model's are far away
+    for (std::int32_t j = 1; j <= last; ++j) {
+        Link& link = links[j];
+        prefetchAhead(link, 32);
+        if (!link.Used || !exists(link.N1) || !exists(link.N2)) continue;
         if (link.Barrier) barriers.push_back(j);
-        gather(batch, count++, link, points, clock);
-        if (count < SpringBatch::size) return;
-        exert(batch, count, points, placesAreSmall);
+        store(&batch.d[2 * count], difference(at[link.N1], at[link.N2], placesAreSmall));
+        batch.link[count] = &link;
+        batch.rest[count] = link.RestLength;
+        batch.factor[count] = link.Animator ? animatorFactor(link, clock) : 1;
+        batch.k[count] = link.k;
+        if (++count < SpringBatch::size) continue;
+        exert(batch, count, at);
         count = 0;
-    });
-    if (count > 0) exert(batch, count, points, placesAreSmall);
+    }
+    if (count > 0) exert(batch, count, at);
 }
 
 }  // namespace zentrik

@@ -4,6 +4,7 @@
 #include "model/redraw.h"
 #include "model/store.h"
 #include "sim/node_stage.h"
+#include "sim/prefetch.h"
 #include "sim/run.h"
 
 #include <cmath>
@@ -14,8 +15,9 @@ namespace {
 
 // What a step may change of a node, kept until it is known to have worked.
 struct NodeState {
-    std::int32_t X, Y;
-    float Vx, Vy, Fx, Fy, Rotate;
+    Int2 place;
+    Float2 velocity, force;
+    float Rotate;
     bool Used;
 };
 
@@ -46,20 +48,28 @@ Survey survey(const Editor& ed, Scratch& work) {
     work.attraction.clear();
     work.before.resize(ed.Nodes.size());
     work.points.resize(ed.Nodes.size());
+    const Node* const nodes = ed.Nodes.data();
+    NodeState* const before = work.before.data();
+    ForcePoint* const points = work.points.data();
     const std::int32_t last = lastNode(ed);
+    PlaceSpread spread;
+    float turning = 0;
     for (std::int32_t i = 0; i <= last; ++i) {
-        const Node& n = nodeAt(ed, i);
-        work.before[static_cast<std::size_t>(i)] = {n.X, n.Y, n.Vx, n.Vy, n.Fx, n.Fy, n.Rotate, n.Used};
-        work.points[static_cast<std::size_t>(i)] = {Double2{double(n.X), double(n.Y)}, Float2{n.Fx, n.Fy}};
-        if (!isSmall(n.X, n.Y)) result.placesAreSmall = false;
+        const Node& n = nodes[i];
+        prefetchAhead(n, 24);
+        before[i] = {placeOf(n), velocityOf(n), forceOf(n), n.Rotate, n.Used};
+        points[i] = {placeOf(n), forceOf(n)};
+        spread.add(n.X, n.Y);
         // A node's drive acts over used links whether the node itself is used or not.
-        if (n.Rotate != 0) result.anyRotate = true;
+        turning = n.Rotate != 0 ? 1 : turning;
         if (!n.Used) continue;
         if (n.Gravity != 0) work.attraction.add(i, n);
         if (n.Locked) continue;
         result.lastFree = i;
         if (n.Mass == 0 && result.massless == 0) result.massless = i;
     }
+    result.anyRotate = turning != 0;
+    result.placesAreSmall = spread.isSmall();
     return result;
 }
 
@@ -67,7 +77,9 @@ void putBack(Editor& ed, const std::vector<NodeState>& before) {
     for (std::size_t i = 0; i < before.size(); ++i) {
         Node& n = ed.Nodes[i];
         const NodeState& s = before[i];
-        n.X = s.X, n.Y = s.Y, n.Vx = s.Vx, n.Vy = s.Vy, n.Fx = s.Fx, n.Fy = s.Fy;
+        n.X = s.place[0], n.Y = s.place[1];
+        n.Vx = s.velocity[0], n.Vy = s.velocity[1];
+        n.Fx = s.force[0], n.Fy = s.force[1];
         n.Rotate = s.Rotate, n.Used = s.Used;
     }
 }

@@ -1,0 +1,42 @@
+#pragma once
+// A run of free nodes on its way through one step.
+
+#include "sim/contacts.h"
+#include "sim/pair.h"
+
+#include <array>
+
+namespace zentrik {
+
+// Free nodes side by side, one column a quantity, x and y taking turns: short loops over columns
+// vectorise, and keep the processor busy where one node alone would wait for each of its results.
+struct NodeRun {
+    static constexpr std::size_t size = 64;
+    template <class T>
+    using Column = std::array<T, 2 * size>;
+
+    std::size_t count = 0;
+    bool plain = false;  // none of the nodes needs a closer look for what it is itself
+    std::array<Node*, size> node;
+    Column<std::int32_t> place;  // twips
+    Column<float> velocity, force, mass;
+};
+
+// Where a run goes, if nothing comes in between.
+struct Arrivals {
+    bool clear = false;  // nowhere near a bound or the end of the world
+    NodeRun::Column<float> velocity;
+    NodeRun::Column<double> place;
+};
+
+// What moves all nodes, and the box in which they meet nothing.
+struct Motion {
+    Motion(const Editor& ed, float step, const Bounds& bounds);
+
+    double dt, viscosity;
+    NodeRun::Column<double> wind, gravity, low, high;
+};
+
+void integrate(const NodeRun& run, const Motion& motion, Arrivals& to);
+
+}  // namespace zentrik
