@@ -32,7 +32,8 @@ ZENTRIK_WIDE_LOOP bool isClear(std::size_t count, const Motion& motion, const Ar
     std::int64_t unclear = 0;
     for (std::size_t k = 0; k < 2 * count; ++k) {
         const double place = arrivals.place[k];
-        unclear += (place >= motion.low[k]) & (place <= motion.high[k]) ? 0 : 1;
+        const bool clear = (place >= motion.low[k]) & (place <= motion.high[k]);
+        unclear += clear ? 0 : 1;
     }
     return unclear == 0;
 }

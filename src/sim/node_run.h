@@ -37,6 +37,7 @@ struct Motion {
     NodeRun::Column<double> wind, gravity, low, high;
 };
 
+// Gives the places, velocities and whether all of it is clear; changes no node.
 void integrate(const NodeRun& run, const Motion& motion, Arrivals& to);
 
 }  // namespace zentrik

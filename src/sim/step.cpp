@@ -53,7 +53,6 @@ Survey survey(const Editor& ed, Scratch& work) {
     ForcePoint* const points = work.points.data();
     const std::int32_t last = lastNode(ed);
     PlaceSpread spread;
-    float turning = 0;
     for (std::int32_t i = 0; i <= last; ++i) {
         const Node& n = nodes[i];
         prefetchAhead(n, 24);
@@ -61,14 +60,13 @@ Survey survey(const Editor& ed, Scratch& work) {
         points[i] = {placeOf(n), forceOf(n)};
         spread.add(n.X, n.Y);
         // A node's drive acts over used links whether the node itself is used or not.
-        turning = n.Rotate != 0 ? 1 : turning;
+        if (n.Rotate != 0) result.anyRotate = true;
         if (!n.Used) continue;
         if (n.Gravity != 0) work.attraction.add(i, n);
         if (n.Locked) continue;
         result.lastFree = i;
         if (n.Mass == 0 && result.massless == 0) result.massless = i;
     }
-    result.anyRotate = turning != 0;
     result.placesAreSmall = spread.isSmall();
     return result;
 }
