@@ -32,8 +32,8 @@ ZENTRIK_WIDE_LOOP bool isClear(std::size_t count, const Motion& motion, const Ar
     std::int64_t unclear = 0;
     for (std::size_t k = 0; k < 2 * count; ++k) {
         const double place = arrivals.place[k];
-        const bool clear = (place >= motion.low[k]) & (place <= motion.high[k]);
-        unclear += clear ? 0 : 1;
+        const int clear = int{place >= motion.low[k]} & int{place <= motion.high[k]};
+        unclear += 1 - clear;
     }
     return unclear == 0;
 }
