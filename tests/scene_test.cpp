@@ -92,6 +92,11 @@ TEST(Scene, EveryLayerShowsWhereItsSwitchesSay) {
             ed.marks.mnuAllowGrid = allowed;
         };
     };
+    const auto later = [](Editor& ed) {
+        nodeAt(ed, scenes::addNode(ed, 4500, 1500)).color = 0x123456;
+        ed.Links[1].Barrier = true;
+        scenes::addLink(ed, 2, 1);
+    };
     const auto rubberBand = [](Editor& ed) { ed.SelectedNode = 1, ed.rubberBand = PointF{1500, 4000}; };
     const auto stale = [](Editor& ed) {
         ed.SelectedNode = ed.HoverNode = ed.SelectedLink = ed.HoverLink = 1000;
@@ -126,6 +131,8 @@ TEST(Scene, EveryLayerShowsWhereItsSwitchesSay) {
         {"selected locked node", selected(&Buttons::data, 0, true), 1620, 1620, red},
         {"selected node keeps its gravity dot", selected(&Buttons::data, 1), 1500, 1500, yellow},
         {"selected link's dot, lines off", selected(&Buttons::line), 3000, 1600, blue},
+        {"later node on top", later, 4500, 1500, 0x123456},
+        {"later link on top", later, 2500, 1500, ink},
         {"hover covers selection", [](Editor& ed) { ed.SelectedNode = ed.HoverNode = 1; }, 1500, 1500, white},
         {"hover link's dot", [](Editor& ed) { ed.HoverLink = 1; }, 3000, 1600, white},
         {"stale selections", stale, 3000, 1600, paper},
@@ -144,18 +151,6 @@ TEST(Scene, EveryLayerShowsWhereItsSwitchesSay) {
             EXPECT_EQ(at(painted(ed, ratio), probe.x, probe.y), probe.expected)
                 << probe.what << " at ratio " << ratio;
         }
-}
-
-TEST(Scene, LaterLinksAndNodesLieOnTop) {
-    Editor ed = pair();
-    scenes::addNode(ed, 4500, 1500);
-    ed.Nodes[3].color = 0x123456;
-    ed.Links[1].Barrier = true;
-    scenes::addLink(ed, 2, 1);
-    const QImage image = painted(ed);
-    EXPECT_EQ(at(image, 4500, 1500), 0x123456);
-    EXPECT_EQ(at(image, 2500, 1500), ink);
-    EXPECT_EQ(at(image, 2500, 1485), red);
 }
 
 TEST(Scene, TextsAppearWithTheirSwitchesAndStandOutFromTheBackground) {

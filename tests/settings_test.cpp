@@ -68,26 +68,31 @@ TEST(Settings, WhatIsMissingOrDoesNotConvertGivesTheDefault) {
     spoilt.texts = {{"Walls", "perhaps"}, {"Gravity", "inf"},   {"NodeRadius", "wide"},
                     {"Speed", "0"},       {"GridSize", "0"},    {"Line", "on"},
                     {"BackColor", ""},    {"MainLeft", "1e99"}, {"DeltaAngle", "2x"}};
-    for (MemoryStore store : {MemoryStore{}, spoilt}) {
+    const auto reread = [](MemoryStore store) {
         Editor ed;
         Placement placement{0, 0, 0, 0};
-        ed.buttons.line = ed.buttons.draw = false;
         getSettings(ed, placement, store);
-        EXPECT_EQ(placement.left, 1200);
-        EXPECT_EQ(placement.width, 13500);
-        EXPECT_TRUE(ed.marks.mnuWalls && ed.marks.mnuCeiling && ed.marks.mnuIgnoreBarriers);
-        EXPECT_TRUE(ed.marks.mnuAutoResume && ed.marks.mnuReverseModel && ed.marks.mnuUseDirectional);
-        EXPECT_FALSE(ed.marks.mnuDisplayTitle || ed.marks.mnuRandom || ed.timerFireWorks.enabled);
-        EXPECT_TRUE(ed.buttons.line && ed.buttons.draw && ed.buttons.animation && ed.buttons.simple);
-        EXPECT_FALSE(ed.buttons.grid || ed.buttons.slow);
-        EXPECT_EQ(ed.Gravity, 1);
-        EXPECT_EQ(ed.Friction, 0.2F);
-        EXPECT_EQ(ed.DeltaAngle, 0.1F);
-        EXPECT_EQ(ed.NodeRadius, 60);
-        EXPECT_EQ(ed.Timer1.interval, 20);
-        EXPECT_EQ(ed.GridSize, 250);
-        EXPECT_EQ(ed.BackColor, 0xFFFFFF);
-    }
+        saveSettings(ed, placement, store);
+        return store.texts;
+    };
+    auto texts = reread(MemoryStore{});
+    EXPECT_EQ(reread(spoilt), texts);
+    const std::pair<const char*, const char*> defaults[] = {{"MainLeft", "1200"},
+                                                            {"MainWidth", "13500"},
+                                                            {"Walls", "True"},
+                                                            {"UseDirectional", "True"},
+                                                            {"AutoResume", "True"},
+                                                            {"DisplayTitle", "False"},
+                                                            {"Line", "1"},
+                                                            {"DisplayGrid", "0"},
+                                                            {"Gravity", "1"},
+                                                            {"Friction", "0.2"},
+                                                            {"DeltaAngle", "0.1"},
+                                                            {"NodeRadius", "60"},
+                                                            {"Speed", "20"},
+                                                            {"GridSize", "250"},
+                                                            {"BackColor", "16777215"}};
+    for (const auto& [key, text] : defaults) EXPECT_EQ(texts[key], text) << key;
 }
 
 }  // namespace

@@ -38,6 +38,8 @@ std::vector<std::int64_t> stateOf(const Link& link) {
     return {link.Used, link.Res3, link.Res1, link.Res4, bits(link.CurrentLength)};
 }
 
+std::vector<std::int64_t> stateOf(const PathDot& dot) { return {dot.x, dot.y, dot.color}; }
+
 template <class Record>
 std::string difference(const std::vector<Record>& a, const std::vector<Record>& b, const char* kind) {
     for (std::size_t i = 0; i < a.size(); ++i) {
@@ -50,22 +52,18 @@ std::string difference(const std::vector<Record>& a, const std::vector<Record>& 
     return {};
 }
 
+std::vector<std::int64_t> stateOf(const Editor& ed) {
+    return {bits(ed.AnimationTime), ed.TimeDirection,        ed.InitialVelocityPending, ed.SelectedNode,
+            ed.Timer1.enabled,      ed.tips.start == "Stop", bits(ed.phaseShift)};
+}
+
 // The first difference of two models that were stepped alike, or the empty text.
 std::string difference(const Editor& a, const Editor& b) {
     if (a.panels != b.panels) return "panels " + a.panels[4] + " and " + b.panels[4];
-    std::string text = difference(a.Nodes, b.Nodes, "node ") + difference(a.Links, b.Links, "link ");
-    if (!text.empty()) return text;
-    if (bits(a.AnimationTime) != bits(b.AnimationTime) || a.TimeDirection != b.TimeDirection) return "clock";
-    if (a.InitialVelocityPending != b.InitialVelocityPending) return "initial velocities";
-    if (a.SelectedNode != b.SelectedNode) return "selection";
-    if (a.Timer1.enabled != b.Timer1.enabled || a.tips.start != b.tips.start) return "running state";
-    if (bits(a.phaseShift) != bits(b.phaseShift)) return "phase strip";
+    if (stateOf(a) != stateOf(b)) return "clock, selection or running state";
     if (a.pathDots.size() != b.pathDots.size()) return "path";
-    for (std::size_t i = 0; i < a.pathDots.size(); ++i)
-        if (a.pathDots[i].x != b.pathDots[i].x || a.pathDots[i].y != b.pathDots[i].y ||
-            a.pathDots[i].color != b.pathDots[i].color)
-            return "path dot";
-    return {};
+    return difference(a.Nodes, b.Nodes, "node ") + difference(a.Links, b.Links, "link ") +
+           difference(a.pathDots, b.pathDots, "dot ");
 }
 
 Editor noForces() {
@@ -80,21 +78,14 @@ void steps(Editor& ed, int count) {
 }
 
 // FNV-1a over everything that moves.
-std::uint64_t hashOf(const Editor& ed) {
-    std::uint64_t hash = 0xcbf29ce484222325U;
-    const auto take = [&](std::int64_t value) {
-        hash = (hash ^ static_cast<std::uint64_t>(value)) * 0x100000001b3U;
-    };
-    for (const Node& node : ed.Nodes)
-        for (const std::int64_t value : stateOf(node)) take(value);
-    for (const Link& link : ed.Links) take(bits(link.CurrentLength));
-    take(bits(ed.AnimationTime));
-    return hash;
+void takeInto(std::uint64_t& hash, const std::vector<std::int64_t>& state) {
+    for (const std::int64_t value : state) hash = (hash ^ static_cast<std::uint64_t>(value)) * 0x100000001b3U;
 }
 
 }  // namespace
 
-TEST(Step, IsThePlainStepBitForBit) {
+TEST(Step, IsThePlainStepBitForBitAndTheSameInEveryBuild) {
+    std::uint64_t hash = 0xcbf29ce484222325U;
     int stepsDone = 0, stopped = 0, touched = 0, left = 0;
     std::vector<std::uint32_t> seeds(1500);
     std::iota(seeds.begin(), seeds.end(), 1U);
@@ -116,37 +107,16 @@ TEST(Step, IsThePlainStepBitForBit) {
             ++stopped;
             break;
         }
+        for (const Node& node : fast.Nodes) takeInto(hash, stateOf(node));
+        for (const Link& link : fast.Links) takeInto(hash, stateOf(link));
+        takeInto(hash, stateOf(fast));
     }
+    EXPECT_EQ(hash, 16622637577585440531U);
     // The models are worth comparing only if most of them run and all kinds of things happen to them.
     EXPECT_GT(stepsDone, 20000);
     EXPECT_GT(stopped, 100);
     EXPECT_GT(touched, 1000);
     EXPECT_GT(left, 20);
-}
-
-TEST(Step, GivesTheSameBitsInEveryBuild) {
-    Editor ed = scenes::fullScreen();
-    scenes::addLattice(ed, 12, 8, 400, 3000, 9000);
-    scenes::addLattice(ed, 3, 3, 500, 12000, 2000);
-    for (std::int32_t j = 5; j <= lastLink(ed); j += 7) {
-        linkAt(ed, j).Animator = true;
-        linkAt(ed, j).Angle = static_cast<float>(j % 360);
-    }
-    nodeAt(ed, 20).Rotate = 0.3F;
-    nodeAt(ed, 50).Gravity = 0.02F;
-    nodeAt(ed, 101).Gravity = -0.05F;
-    const auto a = addNode(ed, 6000, 13000), b = addNode(ed, 15000, 13000);
-    nodeAt(ed, a).Locked = nodeAt(ed, b).Locked = true;
-    linkAt(ed, addLink(ed, a, b)).Barrier = true;
-    ed.marks.mnuWalls = ed.marks.mnuCeiling = true;
-    ed.buttons.animation = true;
-    ed.DeltaAngle = 1;
-    ed.Viscosity = 0.05F;
-    ed.LeftWind = 0.4F;
-    ed.Timer1.enabled = true;
-    steps(ed, 500);
-    EXPECT_EQ(ed.panels[4].find("stopped"), std::string::npos) << ed.panels[4];
-    EXPECT_EQ(hashOf(ed), 6364381370040218869U);
 }
 
 // A node at (5000, 5000) between the ends of what may be a barrier, in a world without forces.
@@ -200,12 +170,6 @@ TEST(Step, GivesTheWorkedNumbers) {
          "5060,6000 5,0.5"},
         {"barrier from the left", [](Editor& ed) { barrierTo(ed, 5000, 7000, 4960, 6000, 10, 1); },
          "4940,6000 -5,0.5"},
-        {"slanted barrier", [](Editor& ed) { barrierTo(ed, 7000, 5001, 6000, 4990, 1, 10); },
-         "6000,4990 1,10"},
-        {"above a barrier's end", [](Editor& ed) { barrierTo(ed, 7000, 5000, 5000, 4990, 0, 10); },
-         "5000,4990 0,10"},
-        {"not near enough", [](Editor& ed) { barrierTo(ed, 7000, 5000, 6000, 4930, 0, 10); },
-         "6000,4930 0,10"},
     };
     for (const auto& c : cases) {
         Editor ed = noForces();

@@ -1,7 +1,6 @@
 // The sample projects as a new user meets them: first-run settings, the start button, and time.
 
 #include "project/zoo.h"
-#include "effects/shooter.h"
 #include "model/store.h"
 #include "project/library.h"
 #include "rig.h"
@@ -108,23 +107,6 @@ TEST(Zoo, RunsForMinutesInSmallAndLargeScenes) {
                 EXPECT_GT(travel, scene.travel);
             }
         }
-}
-
-TEST(Zoo, CannonsFire) {
-    Editor ed = load("range", 14280, 3100);
-    ScriptedHost host;
-    run(ed, 10);
-    int fired = 0;
-    const std::int32_t last = lastNode(ed);
-    for (std::int32_t i = 1; i <= last; ++i) {
-        if (nodeAt(ed, i).Res1 <= 0 || !nodeAt(ed, i).Locked) continue;
-        ed.SelectedNode = i;
-        mnuFire_Click(ed, host);
-        const Node& ball = ed.Nodes.back();
-        EXPECT_TRUE(ball.Vx > 2000 && ball.Vy < -2000) << "to the right and up";
-        ++fired;
-    }
-    EXPECT_GT(fired, 0);
 }
 
 }  // namespace
