@@ -132,7 +132,7 @@ TEST(PropertyToolbar, FacesAskAndConfirm) {
     EXPECT_EQ(desk.host.transcript, "") << "without a node nothing is asked";
     desk.ed.SelectedNode = desk.ed.SelectedLink = 1;
     const std::pair<const char*, const char*> answers[] = {
-        {"gravity", "2.5x"}, {"wind", "3"}, {"rate", "12.5"}, {"rate", "0"},
+        {"gravity", "2.5x"}, {"wind", "3"}, {"rate", "12.5"}, {"rate", "0"},     {"rate", "65536"},
         {"mass", "x"},       {"k", "7"},    {"k", ""},        {"direction", "1"}};
     for (const auto& [key, answer] : answers) {
         desk.host.answers = {answer};
@@ -145,6 +145,7 @@ TEST(PropertyToolbar, FacesAskAndConfirm) {
         "input: Enter custom value for gravity:|Custom Value|1\nGravity changed to 2.5\n"
         "input: Enter custom value for wind:|Custom Value|0\n\n"
         "input: Enter custom value for rate:|Custom Value|20\nRate changed to 12\n"
+        "input: Enter custom value for rate:|Custom Value|12\nRate changed to 12\n"
         "input: Enter custom value for rate:|Custom Value|12\nRate changed to 12\n"
         "input: Enter custom value for mass:|Custom Value|1\nMass changed to 0\n"
         "input: Enter custom value for spring constant:|Custom Value|5\nSpring Constant (k) changed to 7\n"
@@ -304,23 +305,15 @@ TEST(SpriteCommands, GiveSprites) {
 
 // Models on which every row of every table must leave a sound record behind.
 std::vector<Desk> sweepDesks() {
-    std::vector<Desk> desks;
-    desks.emplace_back();
-    desks.push_back(withPair());
-    desks.back().ed.SelectedNode = 1;
-    desks.back().ed.SelectedLink = 1;
-    desks.push_back(withPair());  // holes, ends that do not exist, selections that outlived their slots
-    desks.back().ed.Nodes[2].Used = false;
-    desks.back().ed.Links[1].N2 = 99;
-    desks.back().ed.SelectedNode = 77;
-    desks.back().ed.SelectedLink = desks.back().ed.SelectedAnimatorLink = desks.back().ed.PhaseOverLink = 88;
-    desks.emplace_back();
-    scenes::addLattice(desks.back().ed, 8, 8, 500, 1000, 1000);
-    desks.back().ed.SelectedNode = 9;
-    desks.back().press("start");
-    desks.push_back(withPair());
-    desks.back().ed.DrawMode = true;
-    desks.back().ed.HoverNode = 2;
+    std::vector<Desk> desks{Desk{}, withPair(), withPair(), Desk{}};
+    desks[1].ed.SelectedNode = desks[1].ed.SelectedLink = 1;
+    Editor& odd = desks[2].ed;  // holes, ends that do not exist, selections that outlived their slots
+    odd.Nodes[2].Used = false;
+    odd.Links[1].N2 = 99;
+    odd.SelectedNode = odd.SelectedLink = odd.SelectedAnimatorLink = odd.PhaseOverLink = 88;
+    scenes::addLattice(desks[3].ed, 8, 8, 500, 1000, 1000);
+    desks[3].ed.SelectedNode = desks[3].ed.HoverNode = 9;
+    desks[3].press("start");
     return desks;
 }
 

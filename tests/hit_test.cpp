@@ -59,15 +59,15 @@ TEST(Hit, DescribesWhatItFound) {
     nodeAt(ed, 2).Mass = 2.5F;
     nodeAt(ed, 2).Gravity = -3;
     scenes::addLink(ed, 1, 2);
-    std::int32_t over = none;
-    OverNode(ed, 0, 0, over);
-    EXPECT_EQ(panel(ed, 5), "Node: 1   UnLocked    Mass: 1   Force: 0");
-    OverNode(ed, 1000, 0, over);
-    OverNode(ed, 9000, 9000, over);
-    OverLink(ed, 9000, 9000, over);
-    EXPECT_EQ(panel(ed, 5), "Node: 2   Locked    Mass: 2.5    Force: -3");
-    OverLink(ed, 500, 0, over);
-    EXPECT_EQ(panel(ed, 5), "Link: 1");
+    const std::pair<float, const char*> cases[] = {{0.F, "Node: 1   UnLocked    Mass: 1   Force: 0"},
+                                                   {1000.F, "Node: 2   Locked    Mass: 2.5    Force: -3"},
+                                                   {9000.F, "Node: 2   Locked    Mass: 2.5    Force: -3"},
+                                                   {500.F, "Link: 1"}};
+    for (const auto& [x, text] : cases) {
+        std::int32_t over = none;
+        if (!OverNode(ed, x, 0, over)) OverLink(ed, x, 0, over);
+        EXPECT_EQ(panel(ed, 5), text);
+    }
 }
 
 TEST(Hit, SteppingWrapsOverUsedSlotsOnly) {

@@ -106,11 +106,4 @@ TEST_F(Run, InitialVelocitiesActAgainAfterTheClockWasSetToZero) {
     EXPECT_EQ(ed.Nodes[1].Vx, 1000.0F);
 }
 
-TEST_F(Run, RateKeepsToPeriodsTheTimerAccepts) {
-    for (const std::int32_t refused : {0, -5, 65536}) setRate(ed, refused);
-    EXPECT_EQ(ed.Timer1.interval, 20);
-    setRate(ed, 65535);
-    EXPECT_EQ(ed.Timer1.interval, 65535);
-}
-
 }  // namespace zentrik

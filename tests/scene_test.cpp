@@ -217,12 +217,12 @@ TEST(Scene, PlacesAndSizesOfAnyMagnitudeArePaintable) {
     for (const std::int32_t x : corners)
         for (const std::int32_t y : corners) {
             const std::int32_t i = scenes::addNode(ed, x, y);
-            ed.Nodes.back().Locked = i % 2 == 0;
-            ed.Nodes.back().Res1 = i % 4 == 0 ? i - 1 : none;
-            ed.Nodes.back().Gravity = 1;
-            scenes::addLink(ed, i - 1, i);
-            ed.Links.back().Barrier = i % 3 == 0;
-            ed.Links.back().Animator = i % 5 == 0;
+            nodeAt(ed, i).Locked = i % 2 == 0;
+            nodeAt(ed, i).Res1 = i % 4 == 0 ? i - 1 : none;
+            nodeAt(ed, i).Gravity = 1;
+            Link& link = linkAt(ed, scenes::addLink(ed, i - 1, i));
+            link.Barrier = i % 3 == 0;
+            link.Animator = i % 5 == 0;
         }
     for (const std::int32_t radius : {least, 0, 400, most})
         for (const float grid : {-1e38F, 0.0F, 1.0F, 1e38F}) {

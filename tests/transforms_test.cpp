@@ -95,15 +95,5 @@ TEST(Transforms, TheBoxStartsFromTheScene) {
     EXPECT_EQ(placesOf(ed), "5100,3900 ");
 }
 
-TEST(Transforms, TurnsClockwiseByFiveDegreesAndComesBack) {
-    Editor ed;
-    scenes::addNodes(ed, {{-1000000, 0}, {1000000, 0}});
-    RotateAnimation(ed);
-    EXPECT_EQ(placesOf(ed, 2), "996195,87155 ");
-    for (int i = 1; i < 72; ++i) RotateAnimation(ed);
-    EXPECT_NEAR(nodeAt(ed, 2).X, 1000000, 60);
-    EXPECT_NEAR(nodeAt(ed, 2).Y, 0, 60);
-}
-
 }  // namespace
 }  // namespace zentrik
