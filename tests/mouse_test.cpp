@@ -37,13 +37,9 @@ TEST_F(Mouse, DrawsAChainAndClosesIt) {
     EXPECT_EQ(selections(ed), (Selections{1, none, none, none}));
     EXPECT_EQ(placesOf(ed), "1000,1000 2000,1000 2000,2000 ");
     EXPECT_EQ(endsOf(ed), "1-2 2-3 3-1 ");
-    EXPECT_EQ(linkAt(ed, 1).RestLength, 1000);
     EXPECT_EQ(linkAt(ed, 2).RestLength, 0);
     EXPECT_EQ(linkAt(ed, 2).CurrentLength, 1000);
     EXPECT_EQ(nodeAt(ed, 2).color, 0x123456);
-    EXPECT_EQ(nodeAt(ed, 2).Mass, 1);
-    EXPECT_EQ(nodeAt(ed, 2).Res1, none);
-    EXPECT_EQ(panel(ed, 2), "Links: 3");
 
     release(1010, 1010);
     press(1010, 1010);  // the selected node: drawing goes on, nothing is linked
