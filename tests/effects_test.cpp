@@ -16,13 +16,12 @@ namespace {
 using scenes::addNode;
 
 // A running model with a shooter at node 1 and its trigger at node 2, not yet tied to it.
-struct Range {
+struct Shooter : testing::Test {
     Editor ed = scenes::fullScreen();
     ScriptedHost host;
 
-    Range() {
-        addNode(ed, 1300, 1000);
-        addNode(ed, 1000, 1000);
+    Shooter() {
+        scenes::addNodes(ed, {{1300, 1000}, {1000, 1000}});
         nodeAt(ed, 1).Res1 = 0;
         ed.buttons.ball = false;  // a redraw then leaves the trigger alone
         ed.Timer1.enabled = true;
@@ -35,31 +34,27 @@ struct Range {
     }
 };
 
-TEST(Shooter, FiresByTheGlobalSettingsOrAwayFromItsTrigger) {
-    Range range;
-    const Node* ball = range.fire();
+TEST_F(Shooter, FiresByTheGlobalSettingsOrAwayFromItsTrigger) {
+    const Node* ball = fire();
     ASSERT_TRUE(ball);
-    EXPECT_EQ(std::pair(ball->X, ball->Y), std::pair(1300, 1000));
+    EXPECT_EQ(placesOf(ed, 3), "1300,1000 ");
     EXPECT_NEAR(ball->Vx, 5673, 1);
     EXPECT_NEAR(ball->Vy, -5640, 1);
     EXPECT_EQ(ball->Res1, none);
-    EXPECT_EQ(range.ed.SelectedNode, 1);
-    EXPECT_EQ(range.ed.LastShooter, 1);
-
-    nodeAt(range.ed, 1).Res1 = 2;
-    range.ed.marks.mnuCannonBallFocus = true;
-    ball = range.fire();
+    EXPECT_EQ(ed.SelectedNode, 1);
+    EXPECT_EQ(ed.LastShooter, 1);
+    nodeAt(ed, 1).Res1 = 2;
+    ed.marks.mnuCannonBallFocus = true;
+    ball = fire();
     EXPECT_EQ(ball->Vx, 3000);
     EXPECT_NEAR(ball->Vy, 0, 0.1);
-    EXPECT_EQ(range.ed.SelectedNode, 4);
-    nodeAt(range.ed, 1).Res1 = 900;  // no such trigger
-    ball = range.fire();             // the last shooter again
+    EXPECT_EQ(ed.SelectedNode, 4);
+    nodeAt(ed, 1).Res1 = 900;  // no such trigger
+    ball = fire();             // the last shooter again
     EXPECT_NEAR(ball->Vx, 5673, 1);
 }
 
-TEST(Shooter, LooksForItsTriggerUntilItHasALink) {
-    Range range;
-    Editor& ed = range.ed;
+TEST_F(Shooter, LooksForItsTriggerUntilItHasALink) {
     ed.buttons.ball = true;
     nodeAt(ed, 1).Locked = true;
     addNode(ed, 2000, 2000);
@@ -68,52 +63,47 @@ TEST(Shooter, LooksForItsTriggerUntilItHasALink) {
     for (const Link& link : {freed, hanging, loop}) appendLink(ed, link);
     DisplayScene(ed, -1, -1);
     EXPECT_EQ(nodeAt(ed, 1).Res1, 0);
-
-    appendLink(ed, defaultLink(ed, 2, 1));
-    appendLink(ed, defaultLink(ed, 1, 3));
+    scenes::addLinks(ed, {{2, 1}, {1, 3}});
     DisplayScene(ed, -1, -1);
     EXPECT_EQ(nodeAt(ed, 1).Res1, 2);
     EXPECT_TRUE(nodeAt(ed, 2).Locked);
     const std::vector<std::int32_t> triggers = triggerNodes(ed);
-    for (std::int32_t i = 1; i <= 3; ++i)
-        EXPECT_EQ(triggers[static_cast<std::size_t>(i)], GetTriggerNode(ed, i)) << i;
+    EXPECT_EQ(triggers, (std::vector<std::int32_t>{0, 2, 1, 3}));
+    for (std::int32_t i = 1; i <= 3; ++i) EXPECT_EQ(GetTriggerNode(ed, i), triggers.at(std::size_t(i)));
 }
 
-TEST(Shooter, FiresNothingWhenItCannot) {
-    Range stopped;
-    stopped.ed.Timer1.enabled = false;
-    EXPECT_FALSE(stopped.fire());
-    Range standard;
-    standard.ed.SelectedNode = 2;
-    EXPECT_FALSE(standard.fire());
-    EXPECT_EQ(standard.ed.SelectedNode, 2);
+TEST_F(Shooter, FiresNothingWhenItCannot) {
+    addNode(ed, 0, 0);
+    ed.Nodes.back().Res1 = 0;
+    ed.Nodes.back().Used = false;
+    ed.SelectedNode = 2;  // no shooter
+    EXPECT_FALSE(fire());
+    EXPECT_EQ(ed.SelectedNode, 2);
     for (const std::int32_t last : {0, 2, 3, 50}) {  // none, no shooter, a free shooter, no slot
-        Range range;
-        addNode(range.ed, 0, 0);
-        range.ed.Nodes.back().Res1 = 0;
-        range.ed.Nodes.back().Used = false;
-        range.ed.LastShooter = last;
-        range.ed.SelectedNode = none;
-        EXPECT_FALSE(range.fire());
-        EXPECT_EQ(range.ed.SelectedNode, none);
+        ed.LastShooter = last;
+        ed.SelectedNode = none;
+        EXPECT_FALSE(fire());
+        EXPECT_EQ(ed.SelectedNode, none);
     }
+    ed.SelectedNode = 1;
+    ed.Timer1.enabled = false;
+    EXPECT_FALSE(fire());
 }
 
-TEST(Shooter, AChainFiresFromItsEnd) {
-    Range range;
+TEST_F(Shooter, AChainFiresFromItsEnd) {
     for (const std::int32_t trigger : {1, 3, 2}) {
-        addNode(range.ed, 3000, 3000);
-        range.ed.Nodes.back().Res1 = trigger;
+        addNode(ed, 3000, 3000);
+        ed.Nodes.back().Res1 = trigger;
     }
-    const Node* ball = range.fire();  // 1 triggers 3, 3 triggers 4; 5 belongs to node 2
+    const Node* ball = fire();  // 1 triggers 3, 3 triggers 4; 5 belongs to node 2
     ASSERT_TRUE(ball);
-    EXPECT_EQ(range.ed.SelectedNode, 4);
-    EXPECT_EQ(range.ed.LastShooter, 1);
+    EXPECT_EQ(ed.SelectedNode, 4);
+    EXPECT_EQ(ed.LastShooter, 1);
     EXPECT_EQ(ball->X, 3000);
     EXPECT_EQ(ball->Vx, 0);  // it stands on its trigger
 }
 
-TEST(Shooter, SettingsTakeOnlyTheirRange) {
+TEST_F(Shooter, SettingsTakeOnlyTheirRange) {
     struct {
         std::string answer;
         float direction, velocity;
@@ -123,13 +113,14 @@ TEST(Shooter, SettingsTakeOnlyTheirRange) {
         {"-30000", 0.7825F, 8000}, {"30001", 0.7825F, 8000}, {"up", 0, 0},
     };
     for (const auto& c : cases) {
-        Range range;
-        range.host.answers = {c.answer, c.answer};
-        mnuShooterDirection_Click(range.ed, range.host);
-        mnuShooterVelocity_Click(range.ed, range.host);
-        EXPECT_FLOAT_EQ(range.ed.ShooterDirection, c.direction) << c.answer;
-        EXPECT_FLOAT_EQ(range.ed.ShooterVelocity, c.velocity) << c.answer;
-        EXPECT_EQ(range.host.transcript,
+        ed = Editor{};
+        host.transcript.clear();
+        host.answers = {c.answer, c.answer};
+        mnuShooterDirection_Click(ed, host);
+        mnuShooterVelocity_Click(ed, host);
+        EXPECT_FLOAT_EQ(ed.ShooterDirection, c.direction) << c.answer;
+        EXPECT_FLOAT_EQ(ed.ShooterVelocity, c.velocity) << c.answer;
+        EXPECT_EQ(host.transcript,
                   "input: Enter shooter direction (0-360 degrees).|Set Shooter Direction|44.8\n"
                   "input: Enter shooter velocity.|Set Shooter Velocity|8000\n");
     }
@@ -149,40 +140,32 @@ TEST(Fireworks, TicksAddTheirBursts) {
     EXPECT_EQ(ed.FireworksTicks, 0);
 
     ed.Timer1.enabled = true;
-    addNode(ed, 0, 0);
-    nodeAt(ed, 1).Vx = 7;
     std::int32_t size = 0;  // every burst has as many sparks: the seed is fixed
     for (int tick = 1; tick <= 15; ++tick) {
         SCOPED_TRACE(tick);
         ClearAnimation(ed);
-        addNode(ed, 0, 0);
-        nodeAt(ed, 1).Vx = 7;
+        nodeAt(ed, addNode(ed, 0, 0)).Vx = 7;
         timerFireWorks_Timer(ed);
         const std::int32_t sparks = lastNode(ed) - 1;
         if (tick == 1) size = sparks;
-        ASSERT_GE(size, 10);
-        ASSERT_LE(size, 60);
+        ASSERT_TRUE(size >= 10 && size <= 60) << size;
         const bool scattered = tick % 5 == 0, ring = tick % 2 == 1;
         EXPECT_EQ(sparks, size * (scattered + ring));
         EXPECT_EQ(nodeAt(ed, 1).Vx, tick % 3 == 0 ? -7 : 7);
-        std::int32_t apart = 0;  // sparks that do not start where the last one does
+        const Node centre = ed.Nodes.back();  // where all sparks of a ring start
+        std::int32_t apart = 0;
         for (std::int32_t i = 2; i <= lastNode(ed); ++i) {
-            const Node& spark = nodeAt(ed, i);
-            EXPECT_NEAR(std::hypot(spark.Vx, spark.Vy), 5000, 1);
-            EXPECT_EQ(spark.Res1, none);
-            apart += spark.X != ed.Nodes.back().X;
-        }
-        if (ring) {
-            EXPECT_EQ(panel(ed, 5), "Node ring created (" + std::to_string(size) + " : 0)");
-            EXPECT_GE(ed.Nodes.back().X, 0.4 * ed.sceneWidth);
-            EXPECT_LE(ed.Nodes.back().X, 0.6 * ed.sceneWidth + 1);
-            EXPECT_GE(ed.Nodes.back().Y, 0.2 * ed.sceneHeight);
-            EXPECT_LE(ed.Nodes.back().Y, 0.4 * ed.sceneHeight + 1);
+            EXPECT_NEAR(std::hypot(nodeAt(ed, i).Vx, nodeAt(ed, i).Vy), 5000, 1);
+            apart += nodeAt(ed, i).X != centre.X;
         }
         EXPECT_EQ(apart > 0, scattered);
-        if (!ring && !scattered) {
-            EXPECT_EQ(panel(ed, 5), "Node ring created (0 : 0)");
+        const std::string last = std::to_string(ring ? size : 0);
+        if (ring || !scattered) {
+            EXPECT_EQ(panel(ed, 5), "Node ring created (" + last + " : 0)");
         }
+        if (!ring) continue;
+        EXPECT_NEAR(centre.X, 0.5 * ed.sceneWidth, 0.1 * ed.sceneWidth + 1);
+        EXPECT_NEAR(centre.Y, 0.3 * ed.sceneHeight, 0.1 * ed.sceneHeight + 1);
     }
     ed.marks.mnuDisplayFireWorks = false;
     followFireworksMark(ed, host);

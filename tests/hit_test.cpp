@@ -1,6 +1,6 @@
 #include "edit/hit.h"
 
-#include "model/store.h"
+#include "rig.h"
 #include "scenes/scenes.h"
 
 #include <gtest/gtest.h>
@@ -11,15 +11,10 @@
 namespace zentrik {
 namespace {
 
-using scenes::addLink;
-using scenes::addNode;
-
 TEST(Hit, NodesAnswerStrictlyWithinTheirBoxLowestNumberFirst) {
     Editor ed = scenes::fullScreen();
-    addNode(ed, 5000, 5000);
+    scenes::addNodes(ed, {{5000, 5000}, {1000, 2000}, {1050, 2000}});
     nodeAt(ed, 1).Used = false;
-    addNode(ed, 1000, 2000);
-    addNode(ed, 1050, 2000);
     struct {
         std::int32_t hitRadius;
         float x, y;
@@ -39,67 +34,61 @@ TEST(Hit, NodesAnswerStrictlyWithinTheirBoxLowestNumberFirst) {
 
 TEST(Hit, LinksAnswerAtTheirMidpointOnly) {
     Editor ed = scenes::fullScreen();
-    addNode(ed, 0, 0);
-    addNode(ed, 1, 0);
-    addNode(ed, 1000, 0);
+    scenes::addNodes(ed, {{0, 0}, {1, 0}, {1000, 0}});
     appendLink(ed, defaultLink(ed, 1, 50));  // its far end is not there
-    addLink(ed, 1, 2);
-    ed.HitRadius = 1;
-    EXPECT_EQ(linkAtPoint(ed, 1.4F, 0), 2);
-    EXPECT_EQ(linkAtPoint(ed, -0.4F, 0), 2);
-    EXPECT_EQ(linkAtPoint(ed, -0.5F, 0), none);
+    scenes::addLinks(ed, {{1, 2}, {1, 3}, {1, 2}});
+    linkAt(ed, 4).Used = false;
+    struct {
+        std::int32_t hitRadius;
+        float x;
+        std::int32_t found;
+    } const cases[] = {{1, 1.4F, 2}, {1, -0.4F, 2},   {1, -0.5F, none}, {90, 0, 2},
+                       {90, 580, 3}, {90, 300, none}, {90, 590, none}};
+    for (const auto& c : cases) {
+        ed.HitRadius = c.hitRadius;
+        EXPECT_EQ(linkAtPoint(ed, c.x, 0), c.found) << c.x;
+    }
     linkAt(ed, 2).Used = false;
-    EXPECT_EQ(linkAtPoint(ed, 0.5F, 0), none);
-    addLink(ed, 1, 3);
-    ed.HitRadius = 90;
-    EXPECT_EQ(linkAtPoint(ed, 580, 0), 3);
-    EXPECT_EQ(linkAtPoint(ed, 300, 0), none);
+    EXPECT_EQ(linkAtPoint(ed, 0, 0), none);
 }
 
 TEST(Hit, DescribesWhatItFound) {
     Editor ed = scenes::fullScreen();
-    addNode(ed, 0, 0);
-    addNode(ed, 1000, 0);
+    scenes::addNodes(ed, {{0, 0}, {1000, 0}});
     nodeAt(ed, 2).Locked = true;
     nodeAt(ed, 2).Mass = 2.5F;
     nodeAt(ed, 2).Gravity = -3;
-    addLink(ed, 1, 2);
-    std::int32_t over = none;
-    OverNode(ed, 0, 0, over);
-    EXPECT_EQ(panel(ed, 5), "Node: 1   UnLocked    Mass: 1   Force: 0");
-    OverNode(ed, 1000, 0, over);
-    EXPECT_EQ(panel(ed, 5), "Node: 2   Locked    Mass: 2.5    Force: -3");
-    OverNode(ed, 9000, 9000, over);
-    OverLink(ed, 9000, 9000, over);
-    EXPECT_EQ(panel(ed, 5), "Node: 2   Locked    Mass: 2.5    Force: -3");
-    OverLink(ed, 500, 0, over);
-    EXPECT_EQ(panel(ed, 5), "Link: 1");
-    linkAt(ed, 1).Animator = true;
-    OverLink(ed, 500, 0, over);
-    EXPECT_EQ(panel(ed, 5), "Link: 1  (animated)");
+    scenes::addLink(ed, 1, 2);
+    const std::pair<float, const char*> cases[] = {{0.F, "Node: 1   UnLocked    Mass: 1   Force: 0"},
+                                                   {1000.F, "Node: 2   Locked    Mass: 2.5    Force: -3"},
+                                                   {9000.F, "Node: 2   Locked    Mass: 2.5    Force: -3"},
+                                                   {500.F, "Link: 1"}};
+    for (const auto& [x, text] : cases) {
+        std::int32_t over = none;
+        if (!OverNode(ed, x, 0, over)) OverLink(ed, x, 0, over);
+        EXPECT_EQ(panel(ed, 5), text);
+    }
 }
 
 TEST(Hit, SteppingWrapsOverUsedSlotsOnly) {
     struct {
-        std::vector<int> used;
+        std::string used;
         std::int32_t from, to;
     } const cases[] = {
-        {{2, 5, 9}, 9, 2}, {{2, 5, 9}, none, 2}, {{2, 5, 9}, 5, 9}, {{2, 5, 9}, 3, 5}, {{5}, 5, 5},
-        {{1}, 1, 1},       {{}, none, none},     {{}, 4, 4},        {{2, 5}, 9, 2},    {{2, 5}, 40, 2},
+        {"010010001", 9, 2}, {"010010001", none, 2}, {"010010001", 5, 9}, {"010010001", 3, 5},
+        {"000010000", 5, 5}, {"100000000", 1, 1},    {"000000000", 4, 4}, {"000000000", none, none},
+        {"010010000", 9, 2}, {"010010000", 40, 2},
     };
     for (const auto& c : cases) {
         Editor ed;
-        for (int i = 1; i <= 9; ++i) {
-            addNode(ed, 0, 0);
-            addLink(ed, 1, 1);
-            const bool used = std::find(c.used.begin(), c.used.end(), i) != c.used.end();
-            nodeAt(ed, i).Used = linkAt(ed, i).Used = used;
+        for (const char used : c.used) {
+            nodeAt(ed, scenes::addNode(ed, 0, 0)).Used = used == '1';
+            linkAt(ed, scenes::addLink(ed, 1, 1)).Used = used == '1';
         }
         ed.SelectedNode = ed.SelectedLink = c.from;
         NextNode(ed);
         NextLink(ed);
-        EXPECT_EQ(ed.SelectedNode, c.to) << "from " << c.from;
-        EXPECT_EQ(ed.SelectedLink, c.to) << "from " << c.from;
+        EXPECT_EQ(selections(ed), (Selections{c.to, none, c.to, none})) << c.used << " from " << c.from;
     }
 }
 
@@ -114,7 +103,7 @@ TEST(Hit, ManyPointsAtOnceAgreeWithOneByOne) {
             std::uniform_int_distribution<std::int32_t> at(-span, span);
             std::vector<PointF> points;
             for (int i = 0; i < 300; ++i) {
-                addNode(ed, at(random), at(random));
+                scenes::addNode(ed, at(random), at(random));
                 ed.Nodes.back().Used = i % 7 != 0;
                 // Half of the points lie on or beside a node's box.
                 const PointF far{static_cast<float>(at(random)), static_cast<float>(at(random))};

@@ -10,6 +10,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <tuple>
+
 namespace zentrik {
 
 namespace {
@@ -67,77 +69,74 @@ TEST_F(Library, SelectsResumeAtTheStartOrElseTheFirst) {
     EXPECT_EQ(host.transcript, "");
 }
 
-TEST_F(Library, ChoosingClearsTheModelEvenWhenTheFileIsRejected) {
-    put("a", "something else");
-    LoadListOfFileNames(ed, host, false);
-    scenes::addLattice(ed, 2, 2, 100, 0, 0);
-    ed.SelectedNode = 1;
-    ed.ProjectTitle = "kept";
-    lstSaved_Click(ed, host, 0);
-    EXPECT_EQ(host.transcript, "message: Input file not recognized!|Zentrik\n");
-    EXPECT_EQ(lastNode(ed) + lastLink(ed), 0);
-    EXPECT_EQ(ed.SelectedNode, none);
-    EXPECT_EQ(ed.ProjectTitle, "kept");
-    for (const std::int32_t entry : {-1, 5, -7}) lstSaved_Click(ed, host, entry);
-    EXPECT_EQ(ed.savedText, "a");
-}
-
-TEST_F(Library, AFileOfAnotherKindLeavesTheModelUntouched) {
-    put("foreign", "something else");
+TEST_F(Library, WhatCannotBeReadIsSaidAndLeavesTheModelUntouchedUnlessChosen) {
     put("cut", "Zentrik\r\n");
+    put("foreign", "something else");
+    put("malformed", project(3) + "4 : True : left\r\n");
+    // Garbage without end, and places from which no bytes come, are refused at once.
+    for (const char* name : {"garbage", "Zentrik"}) {
+        put(name, name);
+        fs::resize_file(file(name), 1ULL << 40);
+    }
+    fs::create_directory(file("folder"));
+    ASSERT_EQ(mkfifo(file("pipe").c_str(), 0600), 0);
     scenes::addLattice(ed, 2, 2, 100, 0, 0);
     ed.ProjectTitle = "kept";
     const std::string before = projectBytes(ed);
-    for (const char* name : {"foreign", "cut", "missing"}) OpenFile(ed, host, name);
-    EXPECT_EQ(projectBytes(ed), before);
-    EXPECT_EQ(host.transcript,
-              "message: Input file not recognized!|Zentrik\n"
-              "message: zoo/cut.bot, line 2: the file ends before the project title.|Zentrik\n"
-              "message: zoo/missing.bot could not be read.\nThere is no such file.|Zentrik\n");
-}
-
-TEST_F(Library, AMalformedLineIsNamedAndWhatCameBeforeIsLoaded) {
-    put("a", project(3) + "4 : True : left\r\n");
-    OpenFile(ed, host, "a");
+    const std::pair<const char*, std::string> cases[] = {
+        {"foreign", "Input file not recognized!"},
+        {"garbage", "Input file not recognized!"},
+        {"cut", "zoo/cut.bot, line 2: the file ends before the project title."},
+        {"missing", "zoo/missing.bot could not be read.\nThere is no such file."},
+        {"Zentrik", "zoo/Zentrik.bot could not be read.\nIt is too large."},
+        {"folder", "zoo/folder.bot could not be read.\nIt is not an ordinary file."},
+        {"pipe", "zoo/pipe.bot could not be read.\nIt is not an ordinary file."}};
+    for (const auto& [name, message] : cases) {
+        host.transcript.clear();
+        OpenFile(ed, host, name);
+        EXPECT_EQ(host.transcript, "message: " + message + "|Zentrik\n");
+        EXPECT_EQ(projectBytes(ed), before) << name;
+    }
+    ed.savedNames = {"foreign"};
+    lstSaved_Click(ed, host, 0);
+    EXPECT_EQ(lastNode(ed) + lastLink(ed), 0);
+    EXPECT_EQ(ed.ProjectTitle, "kept");
+    for (const std::int32_t entry : {-1, 5, -7}) lstSaved_Click(ed, host, entry);
+    EXPECT_EQ(ed.savedText, "foreign");
+    host.transcript.clear();
+    OpenFile(ed, host, "malformed");
     EXPECT_EQ(lastNode(ed), 3);
     EXPECT_EQ(host.transcript,
-              "message: zoo/a.bot, line 12: field 3 (X) is not a whole number: left\n"
+              "message: zoo/malformed.bot, line 12: field 3 (X) is not a whole number: left\n"
               "The lines before it were loaded.|Zentrik\n");
 }
 
 TEST_F(Library, LoadsSettingsSpritesAndWindowSize) {
-    struct Case {
-        bool mark;
-        std::int32_t width, height;  // of the scene
-        const char* transcript;
-    };
-    const Case cases[] = {{true, 9599, 5999, "resize: 9700|8000\n"},
-                          {true, 9599, 6000, "resize: 9700|-1\n"},
-                          {true, 9600, 5999, "resize: -1|8000\n"},
-                          {true, 20000, 20000, ""},
-                          {false, 0, 0, ""}};
     Editor saved;
     saved.sceneWidth = 9600, saved.sceneHeight = 6000;
     saved.AnimationTime = 2.5F, saved.Friction = 0.75F, saved.Timer1.interval = 65535;
-    scenes::addNode(saved, 1, 1);
-    scenes::addNode(saved, 1, 1);
+    scenes::addNodes(saved, {{1, 1}, {1, 1}});
     saved.Nodes[1].Sprite = "wheel.png";
     saved.Nodes[2].Sprite = "Wheel.png";
     put("a", projectBytes(saved));
     ed.spriteNames = {noSprite, "arm.png", "wheel.png"};
-    for (const Case& c : cases) {
+    // Whether the mark is set, the scene's size, and what is asked of the window.
+    const std::tuple<bool, std::int32_t, std::int32_t, const char*> cases[] = {
+        {true, 9599, 5999, "resize: 9700|8000\n"},
+        {true, 9599, 6000, "resize: 9700|-1\n"},
+        {true, 9600, 5999, "resize: -1|8000\n"},
+        {true, 20000, 20000, ""},
+        {false, 0, 0, ""}};
+    for (const auto& [mark, width, height, transcript] : cases) {
         host.transcript.clear();
-        ed.marks.mnuAutoWindowSize = c.mark;
-        ed.sceneWidth = c.width, ed.sceneHeight = c.height;
+        ed.marks.mnuAutoWindowSize = mark;
+        ed.sceneWidth = width, ed.sceneHeight = height;
         OpenFile(ed, host, "a");
-        EXPECT_EQ(host.transcript, c.transcript);
-        EXPECT_EQ(ed.AnimationTime, 2.5F);
-        EXPECT_EQ(ed.Friction, 0.75F);
-        EXPECT_EQ(ed.Timer1.interval, 65535);
-        EXPECT_EQ(ed.Nodes.at(1).SpriteIndex, 2);
-        EXPECT_EQ(ed.Nodes.at(2).SpriteIndex, 0);
+        EXPECT_EQ(host.transcript, transcript);
     }
-    for (const std::int32_t period : {0, -5, 65536}) {
+    EXPECT_EQ(ed.AnimationTime, 2.5F);
+    EXPECT_EQ(ed.Nodes.at(1).SpriteIndex * 10 + ed.Nodes.at(2).SpriteIndex, 20);
+    for (const std::int32_t period : {65535, 0, -5, 65536}) {
         saved.Timer1.interval = period;
         put("a", projectBytes(saved));
         OpenFile(ed, host, "a");
@@ -165,11 +164,10 @@ TEST_F(Library, SavingListsANewNameOnce) {
 TEST_F(Library, RefusesNamesThatAreNoProjects) {
     scenes::addNode(ed, 1, 1);
     const std::string before = projectBytes(ed);
-    for (const std::string& name :
-         {std::string(), std::string("  "), std::string("no file found"), std::string("../x"),
-          std::string("a/b"), std::string("a\\b"), std::string(".."), std::string("."), std::string("CON"),
-          std::string("nul.txt"), std::string("Com1"), std::string("LPT9 .x"), std::string("a\nb"),
-          std::string("a\0b", 3), std::string(201, 'a')}) {
+    std::vector<std::string> names{"",  "  ",  "no file found", "../x", "a/b",     "a\\b", "..",
+                                   ".", "CON", "nul.txt",       "Com1", "LPT9 .x", "a\nb"};
+    names.insert(names.end(), {std::string("a\0b", 3), std::string(201, 'a')});
+    for (const std::string& name : names) {
         ed.savedText = name;
         for (const auto command : {saveProject, reloadProject}) {
             host.transcript.clear();
@@ -184,13 +182,6 @@ TEST_F(Library, RefusesNamesThatAreNoProjects) {
     SaveFile(ed, host, std::string(200, 'a'));
     EXPECT_EQ(host.transcript, "");
     EXPECT_EQ(entriesIn(zoo()), 6u);
-}
-
-TEST_F(Library, AFailedSaveSaysSo) {
-    putFile(zoo(), "a file where the folder should be");
-    SaveFile(ed, host, "a");
-    EXPECT_TRUE(host.transcript.starts_with("message: zoo/a.bot could not be saved.\n")) << host.transcript;
-    EXPECT_TRUE(ed.savedNames.empty());
 }
 
 TEST_F(Library, ReloadingShowsTheFileAndItsClock) {
@@ -209,22 +200,6 @@ TEST_F(Library, ReloadingShowsTheFileAndItsClock) {
     EXPECT_EQ(ed.SelectedLink, none);
 }
 
-// Garbage without end, and places from which no bytes come, are refused at once.
-TEST_F(Library, NeverWaitsForAStrangeFile) {
-    put("garbage", "garbage");
-    fs::resize_file(file("garbage"), 1ULL << 40);
-    put("large", "Zentrik\r\n");
-    fs::resize_file(file("large"), 1ULL << 40);
-    fs::create_directory(file("folder"));
-    ASSERT_EQ(mkfifo(file("pipe").c_str(), 0600), 0);
-    for (const char* name : {"garbage", "large", "folder", "pipe"}) OpenFile(ed, host, name);
-    EXPECT_EQ(host.transcript,
-              "message: Input file not recognized!|Zentrik\n"
-              "message: zoo/large.bot could not be read.\nIt is too large.|Zentrik\n"
-              "message: zoo/folder.bot could not be read.\nIt is not an ordinary file.|Zentrik\n"
-              "message: zoo/pipe.bot could not be read.\nIt is not an ordinary file.|Zentrik\n");
-}
-
 TEST_F(Library, AsksForTheTitle) {
     ed.ProjectTitle = "old";
     host.answers = {"new"};
@@ -235,7 +210,7 @@ TEST_F(Library, AsksForTheTitle) {
     EXPECT_EQ(host.transcript, "input: Enter project title.|old|old\ninput: Enter project title.|new|new\n");
 }
 
-TEST_F(Library, MailsTheProject) {
+TEST_F(Library, MailsTheProjectAndSaysWhatFailed) {
     const std::string copied = "clipboard: " + projectBytes(ed) + "\n";
     const std::string opened =
         "open: mailto:" + std::string(makerMail) +
@@ -254,6 +229,10 @@ TEST_F(Library, MailsTheProject) {
     putFile(zoo(), "");
     mnuEmail_Click(ed, host);
     EXPECT_EQ(host.transcript, failed);
+    host.transcript.clear();
+    SaveFile(ed, host, "a");
+    EXPECT_TRUE(host.transcript.starts_with("message: zoo/a.bot could not be saved.\n")) << host.transcript;
+    EXPECT_EQ(ed.savedNames, std::vector<std::string>{"email"});
 }
 
 }  // namespace

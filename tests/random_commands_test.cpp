@@ -1,19 +1,15 @@
 // Random sequences of editing commands on random models, with selections that name no slot, links to
 // nodes that are not there and odd settings, against what must hold after every single one.
 
-#include "edit/builders.h"
-#include "edit/bulk.h"
-#include "edit/hit.h"
 #include "edit/mouse.h"
-#include "edit/objects.h"
-#include "edit/transforms.h"
 #include "effects/fireworks.h"
-#include "effects/shooter.h"
 #include "model/invariants.h"
-#include "model/redraw.h"
-#include "model/store.h"
+#include "random_model.h"
 #include "rig.h"
-#include "scenes/scenes.h"
+#include "ui/command_toolbar.h"
+#include "ui/menus.h"
+#include "ui/phase_manager.h"
+#include "ui/property_toolbar.h"
 
 #include <gtest/gtest.h>
 
@@ -23,24 +19,6 @@
 namespace zentrik {
 namespace {
 
-using Command = void (*)(Editor&, Host&);
-
-// clang-format off
-const Command commands[] = {
-    mnuCreateNodeRing_Click, mnuCreateConnectedNodeRing_Click, mnuCreateConnectedNodeRingWithSpokes_Click,
-    mnuCreateConnectedNodeRingWithSpokesNo_Click, mnuCreateConnectedNodeRingWithLongSpokes_Click,
-    mnuCreateNodeAtMidpoint_Click, ConvertObjectToBarrier, mnuDuplicateNode_Click, mnuDuplicateObject_Click,
-    mnuCreateRoad_Click, mnuResetMass_Click, mnuResetGravity_Click, mnuResetRotationalForces_Click,
-    mnuResetInitial_Click, mnuResetVelocity_Click, mnuResetSprites_Click, mnuUnlockAll_Click,
-    mnuLockAll_Click, mnuClearAnimators_Click, mnuResetK_Click, mnuResetAngle_Click, mnuResetForce_Click,
-    mnuResetBarriers_Click, mnuDoubleK_Click, mnuHalfK_Click, mnuDoubleF_Click, mnuHalveF_Click,
-    mnuSetLinkK_Click, mnuSetLinkF_Click, mnuRemoveNodes_Click, mnuRemoveLinks_Click,
-    mnuRemoveFreeNodes_Click, mnuResetAllNodes_Click, mnuResetAllLinks_Click, mnuFire_Click,
-    mnuShooterDirection_Click, mnuShooterVelocity_Click, followFireworksMark, mnuCompact_Click,
-};
-// clang-format on
-void (*const transforms[])(Editor&) = {Increase, Decrease, RotateAnimation,      CenterAnimation,
-                                       NextNode, NextLink, timerFireWorks_Timer, picS_DblClick};
 const char* const answers[] = {"",    "3:500", "5:700",        "1:1", "7.5",
                                "abc", "1e30",  "2000000000:5", "0:0", "-4:x"};
 
@@ -67,21 +45,9 @@ private:
     float coordinate() { return static_cast<float>(below(20) ? below(6000) : (below(3) - 1) * 4e9); }
 
     void startModel() {
-        ed_ = scenes::fullScreen();
-        const int nodes = below(30);
-        for (int i = 0; i < nodes; ++i) {
-            Node& node = nodeAt(ed_, scenes::addNode(ed_, below(6000), below(6000)));
-            node.Used = below(4) != 0;
-            node.Locked = flip();
-            if (below(5) == 0) node.Res1 = below(nodes + 3) - 1;
-            if (below(40) == 0) node.X = std::numeric_limits<std::int32_t>::min();
-        }
-        for (int i = below(50); i > 0; --i) {
-            Link link = defaultLink(ed_, below(nodes + 4) - 2, below(nodes + 4) - 2);
-            link.Used = below(4) != 0;
-            link.Animator = flip();
-            appendLink(ed_, link);
-        }
+        ed_ = randomModel(static_cast<std::uint32_t>(random_()));
+        ed_.programFolder = "/nonexistent/zentrik";
+        ed_.SelectedNode = none;
     }
     // What other parts of the program may do between two commands.
     void disturb() {
@@ -98,10 +64,15 @@ private:
         constexpr std::int32_t radii[] = {90, 90, 30, 0, -70, std::numeric_limits<std::int32_t>::max()};
         ed_.HitRadius = radii[below(6)];
     }
+    template <class Rows>
+    const auto& rowOf(const Rows& rows) {
+        return rows[static_cast<std::size_t>(below(static_cast<int>(rows.size())))];
+    }
     std::string event() {
         const float x = coordinate(), y = coordinate();
         const int button = 1 << below(3);
-        switch (below(8)) {
+        host_.answers = {answers[below(std::size(answers))]};
+        switch (below(12)) {
             case 0:
                 picS_MouseMove(ed_, button, x, y);
                 return "move";
@@ -112,18 +83,29 @@ private:
                 picS_MouseUp(ed_, button, x, y);
                 return "release";
             case 3:
-                moveProject(ed_, below(3) - 1, below(3) - 1);
-                return "moving the project";
-            case 4: {
-                const int which = below(std::size(transforms));
-                transforms[which](ed_);
-                return "transform " + std::to_string(which);
+                picS_DblClick(ed_);
+                return "double click";
+            case 4:
+                timerFireWorks_Timer(ed_);
+                return "fireworks";
+            case 5:
+                picPhase_MouseDown(ed_, button, x, 300);
+                picPhase_MouseMove(ed_, y, 300);
+                return "drag in the strip";
+            case 6: {
+                const PropertyRow& row = rowOf(propertyRows());
+                if (row.isButton()) pressProperty(ed_, host_, row);
+                return row.key;
+            }
+            case 7: {
+                const CommandRow& row = rowOf(commandRows());
+                if (row.key != std::string("reposition")) pressCommand(ed_, host_, row);
+                return row.key;
             }
             default: {
-                const int which = below(std::size(commands));
-                host_.answers = {answers[below(std::size(answers))]};
-                commands[which](ed_, host_);
-                return "command " + std::to_string(which);
+                const MenuRow& row = rowOf(menuRows());
+                chooseMenu(ed_, host_, row);
+                return row.name;
             }
         }
     }

@@ -139,7 +139,8 @@ Editor randomModel(std::uint32_t seed) {
     const bool large = dice.percent(2);
     const std::int32_t nodes = large ? dice.between(130, 220) : dice.between(0, 20);
     addNodes(ed, dice, nodes);
-    addLinks(ed, dice, nodes * dice.oneOf({0, 1, 3}) + dice.between(0, 3));
+    const std::int32_t density = dice.oneOf({0, 1, 3});
+    addLinks(ed, dice, nodes * density + dice.between(0, 3));
     chooseSettings(ed, dice);
     ed.buttons.start = ed.Timer1.enabled = true;
     return ed;

@@ -1,10 +1,12 @@
 #pragma once
 // Drives the core without a display: a host that answers from a script and writes down what it was
-// asked, in order, as one text.
+// asked, in order, as one text; and a model's records as texts.
 
 #include "model/editor.h"
 #include "model/host.h"
+#include "model/store.h"
 
+#include <array>
 #include <deque>
 #include <string>
 
@@ -59,5 +61,37 @@ private:
         transcript += what + ": " + detail + "\n";
     }
 };
+
+// The places of the node slots and the ends of the link slots from a number on, as "100,200 0,0 " and
+// "1-2 2-3 ", a dash for a free slot.
+inline std::string placesOf(const Editor& ed, std::int32_t from = 1) {
+    std::string text;
+    for (std::int32_t i = from; i <= lastNode(ed); ++i) {
+        const Node& node = nodeAt(ed, i);
+        text += node.Used ? std::to_string(node.X) + "," + std::to_string(node.Y) + " " : "- ";
+    }
+    return text;
+}
+inline std::string endsOf(const Editor& ed, std::int32_t from = 1) {
+    std::string text;
+    for (std::int32_t j = from; j <= lastLink(ed); ++j) {
+        const Link& link = linkAt(ed, j);
+        text += link.Used ? std::to_string(link.N1) + "-" + std::to_string(link.N2) + " " : "- ";
+    }
+    return text;
+}
+// A flag of all slots, as "101".
+template <class Record>
+std::string flags(const std::vector<Record>& records, bool Record::*flag) {
+    std::string text;
+    for (std::size_t i = 1; i < records.size(); ++i) text += records[i].*flag ? '1' : '0';
+    return text;
+}
+
+// The selected and hovered node, then the selected and hovered link.
+inline std::array<std::int32_t, 4> selections(const Editor& ed) {
+    return {ed.SelectedNode, ed.HoverNode, ed.SelectedLink, ed.HoverLink};
+}
+using Selections = std::array<std::int32_t, 4>;
 
 }  // namespace zentrik

@@ -24,24 +24,6 @@ public:
     }
 };
 
-TEST(Settings, FirstRunDefaults) {
-    MemoryStore store;
-    Editor ed;
-    Placement placement{0, 0, 0, 0};
-    ed.buttons.line = ed.buttons.draw = false;
-    getSettings(ed, placement, store);
-    EXPECT_EQ(placement.left + placement.top, 2400);
-    EXPECT_EQ(placement.width, 13500);
-    EXPECT_TRUE(ed.marks.mnuWalls && ed.marks.mnuCeiling && ed.marks.mnuIgnoreBarriers &&
-                ed.marks.mnuAutoResume);
-    EXPECT_TRUE(ed.marks.mnuReverseModel && ed.marks.mnuUseDirectional);
-    EXPECT_FALSE(ed.marks.mnuDisplayTitle || ed.marks.mnuRandom || ed.timerFireWorks.enabled);
-    EXPECT_TRUE(ed.buttons.line && ed.buttons.draw && ed.buttons.animation && ed.buttons.simple);
-    EXPECT_FALSE(ed.buttons.grid || ed.buttons.slow);
-    EXPECT_EQ(ed.Friction, 0.2F);
-    EXPECT_EQ(ed.BackColor, 0xFFFFFF);
-}
-
 TEST(Settings, RoundTripInOrderAndForm) {
     MemoryStore store;
     Editor ed;
@@ -58,16 +40,11 @@ TEST(Settings, RoundTripInOrderAndForm) {
     ASSERT_EQ(store.order.size(), 54U);
     EXPECT_EQ(store.order.front(), "MainLeft");
     EXPECT_EQ(store.order.back(), "Sprite");
-    for (const auto& [key, text] : std::map<std::string, std::string>{{"Walls", "False"},
-                                                                      {"Fireworks", "True"},
-                                                                      {"DisplayGrid", "1"},
-                                                                      {"Sprite", "0"},
-                                                                      {"Gravity", "-0.5"},
-                                                                      {"ShooterVelocity", "1E+07"},
-                                                                      {"Speed", "35"},
-                                                                      {"StructureParm", "8:500"},
-                                                                      {"MainWidth", "15000"}})
-        EXPECT_EQ(store.texts[key], text) << key;
+    const std::pair<const char*, const char*> written[] = {
+        {"Walls", "False"}, {"Fireworks", "True"},      {"DisplayGrid", "1"},
+        {"Sprite", "0"},    {"Gravity", "-0.5"},        {"ShooterVelocity", "1E+07"},
+        {"Speed", "35"},    {"StructureParm", "8:500"}, {"MainWidth", "15000"}};
+    for (const auto& [key, text] : written) EXPECT_EQ(store.texts[key], text) << key;
 
     Editor again;
     Placement placement;
@@ -86,23 +63,36 @@ TEST(Settings, RoundTripInOrderAndForm) {
     EXPECT_EQ(second.order.size(), 104U);
 }
 
-TEST(Settings, WhatDoesNotConvertGivesTheDefault) {
-    MemoryStore store;
-    store.texts = {{"Walls", "perhaps"}, {"Gravity", "inf"},  {"NodeRadius", "wide"}, {"Speed", "0"},
-                   {"GridSize", "0"},    {"Line", "on"},      {"BackColor", ""},      {"MainLeft", "1e99"},
-                   {"DeltaAngle", "2x"}, {"LinkColor", "255"}};
-    Editor ed;
-    Placement placement;
-    getSettings(ed, placement, store);
-    EXPECT_TRUE(ed.marks.mnuWalls && ed.buttons.line);
-    EXPECT_EQ(ed.Gravity, 1);
-    EXPECT_EQ(ed.NodeRadius, 60);
-    EXPECT_EQ(ed.Timer1.interval, 20);
-    EXPECT_EQ(ed.GridSize, 250);
-    EXPECT_EQ(ed.BackColor, 0xFFFFFF);
-    EXPECT_EQ(placement.left, 1200);
-    EXPECT_EQ(ed.DeltaAngle, 0.1F);
-    EXPECT_EQ(ed.LinkColor, 255);
+TEST(Settings, WhatIsMissingOrDoesNotConvertGivesTheDefault) {
+    MemoryStore spoilt;
+    spoilt.texts = {{"Walls", "perhaps"}, {"Gravity", "inf"},   {"NodeRadius", "wide"},
+                    {"Speed", "0"},       {"GridSize", "0"},    {"Line", "on"},
+                    {"BackColor", ""},    {"MainLeft", "1e99"}, {"DeltaAngle", "2x"}};
+    const auto reread = [](MemoryStore store) {
+        Editor ed;
+        Placement placement{0, 0, 0, 0};
+        getSettings(ed, placement, store);
+        saveSettings(ed, placement, store);
+        return store.texts;
+    };
+    auto texts = reread(MemoryStore{});
+    EXPECT_EQ(reread(spoilt), texts);
+    const std::pair<const char*, const char*> defaults[] = {{"MainLeft", "1200"},
+                                                            {"MainWidth", "13500"},
+                                                            {"Walls", "True"},
+                                                            {"UseDirectional", "True"},
+                                                            {"AutoResume", "True"},
+                                                            {"DisplayTitle", "False"},
+                                                            {"Line", "1"},
+                                                            {"DisplayGrid", "0"},
+                                                            {"Gravity", "1"},
+                                                            {"Friction", "0.2"},
+                                                            {"DeltaAngle", "0.1"},
+                                                            {"NodeRadius", "60"},
+                                                            {"Speed", "20"},
+                                                            {"GridSize", "250"},
+                                                            {"BackColor", "16777215"}};
+    for (const auto& [key, text] : defaults) EXPECT_EQ(texts[key], text) << key;
 }
 
 }  // namespace

@@ -65,16 +65,10 @@ TEST_F(Sprites, StandCentredOnTheirNodesAtTheirOwnSize) {
     writePicture("b.png", 30, 30, Qt::red);
     Editor ed;
     ed.sceneWidth = ed.sceneHeight = 3000;
-    ed.buttons.sprite = ed.marks.mnuAllowSprites = true;
     ed.buttons.ball = false;
-    for (const std::int32_t x : {750, 1500, 2250}) scenes::addNode(ed, x, 1500);
-    ed.Nodes[1].SpriteIndex = 1;
-    ed.Nodes[2].SpriteIndex = 2;
-    ed.Nodes[3].SpriteIndex = 77;  // a list that has grown shorter
-    scenes::addNode(ed, -2000000000, 2000000000);
-    ed.Nodes[4].SpriteIndex = 1;
-    scenes::addNode(ed, 1500, 2500);
-    ed.Nodes[5].SpriteIndex = -1;
+    scenes::addNodes(ed, {{750, 1500}, {1500, 1500}, {2250, 1500}, {-2000000000, 2000000000}, {1500, 2500}});
+    const std::int32_t entries[] = {0, 1, 2, 77, 1, -1};  // 77: the list has grown shorter
+    for (std::size_t i = 1; i <= 5; ++i) ed.Nodes[i].SpriteIndex = entries[i];
 
     // Pictures loaded for another ratio keep their size, too.
     for (const double ratio : {1.0, 2.0})
@@ -85,29 +79,24 @@ TEST_F(Sprites, StandCentredOnTheirNodesAtTheirOwnSize) {
             const auto at = [&](double x, double y) {
                 return image.pixelColor(static_cast<int>(x * ratio), static_cast<int>(y * ratio));
             };
-            const auto draw = [&] {
+            const auto draw = [&](bool allowed, bool running, bool button) {
+                ed.marks.mnuAllowSprites = allowed;
+                ed.Timer1.enabled = running;
+                ed.buttons.sprite = button;
                 QPainter painter(&image);
                 drawScene(painter, ed, sprites);
+                return at(100, 100) == QColor(Qt::red);
             };
-            draw();
+            EXPECT_FALSE(draw(false, false, true));
+            EXPECT_TRUE(draw(false, true, true));
+            EXPECT_FALSE(draw(true, true, false));
+            EXPECT_TRUE(draw(true, false, true));
             EXPECT_EQ(at(50 - 9, 100 - 4), QColor(Qt::green));
             EXPECT_EQ(at(50 + 8.5, 100 + 3.5), QColor(Qt::green));
             EXPECT_EQ(at(50 - 12, 100), QColor(Qt::white));
             EXPECT_EQ(at(50, 100 - 7), QColor(Qt::white));
             EXPECT_EQ(at(100 + 13, 100 - 13), QColor(Qt::red));
             EXPECT_EQ(at(150, 100), QColor(Qt::white));
-
-            ed.marks.mnuAllowSprites = false;
-            draw();
-            EXPECT_EQ(at(100, 100), QColor(Qt::white));
-            ed.Timer1.enabled = true;
-            draw();
-            EXPECT_EQ(at(100, 100), QColor(Qt::red));
-            ed.buttons.sprite = false;
-            draw();
-            EXPECT_EQ(at(100, 100), QColor(Qt::white));
-            ed.Timer1.enabled = false;
-            ed.buttons.sprite = ed.marks.mnuAllowSprites = true;
         }
 }
 

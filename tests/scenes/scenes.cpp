@@ -25,6 +25,14 @@ std::int32_t addLink(Editor& ed, std::int32_t n1, std::int32_t n2, float k) {
     return appendLink(ed, link);
 }
 
+void addNodes(Editor& ed, Pairs places) {
+    for (const auto& [x, y] : places) addNode(ed, x, y);
+}
+
+void addLinks(Editor& ed, Pairs ends) {
+    for (const auto& [a, b] : ends) addLink(ed, a, b);
+}
+
 void addLattice(Editor& ed, int columns, int rows, int spacing, int left, int top) {
     const std::int32_t first = lastNode(ed) + 1;
     for (int row = 0; row < rows; ++row)
