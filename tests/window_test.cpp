@@ -124,7 +124,7 @@ TEST_F(Window, SaysWhichSpriteIsNoPicture) {
     window_ = makeWindow();
     window_->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window_.get()));
-    EXPECT_EQ(panelText(5), "No readable picture: notes.txt");
+    EXPECT_EQ(panelText(5), "No usable picture: notes.txt");
 }
 
 TEST_F(Window, EverythingHasItsName) {

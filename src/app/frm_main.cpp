@@ -92,7 +92,7 @@ void frmMain::loadSprites() {
     ed_.spriteNames = sprites.names;
     Frame1_->setPictures(sprites);
     for (const std::string& name : sprites.skipped)
-        panel(ed_, 5) += (panel(ed_, 5).empty() ? "No readable picture: " : ", ") + name;
+        panel(ed_, 5) += (panel(ed_, 5).empty() ? "No usable picture: " : ", ") + name;
 }
 
 void frmMain::restorePlacement(const Placement& placement) {

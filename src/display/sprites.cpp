@@ -60,7 +60,8 @@ SpritePictures loadSprites(const std::string& folder, double devicePixelRatio) {
     const QStringList names = dir.entryList(QDir::Files | QDir::Readable, QDir::Name);
     for (const QString& name : names) {
         const QImage picture = readPicture(dir.filePath(name), devicePixelRatio);
-        if (picture.isNull()) {
+        // A name with a field separator would not come back from a project file.
+        if (picture.isNull() || name.contains(" : ")) {
             sprites.skipped.push_back(name.toStdString());
             continue;
         }

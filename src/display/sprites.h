@@ -15,7 +15,7 @@ namespace zentrik {
 struct SpritePictures {
     std::vector<std::string> names{noSprite};
     std::vector<QImage> pictures{QImage()};  // pixels of the device; their device pixel ratio is set
-    std::vector<std::string> skipped;        // files that hold no picture that can be shown
+    std::vector<std::string> skipped;  // files that hold no picture, or whose name no project file can hold
 };
 
 // Reads every regular file of a folder (UTF-8 path), in name order. A picture's own size counts in

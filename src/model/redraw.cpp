@@ -1,6 +1,5 @@
 #include "model/redraw.h"
 
-#include "model/connected.h"
 #include "model/grid.h"
 #include "model/numbers.h"
 #include "model/shooter_aim.h"

@@ -3,6 +3,7 @@
 #include "model/addresses.h"
 #include "model/host.h"
 #include "model/numbers.h"
+#include "model/rate.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
@@ -49,7 +50,7 @@ void applyGlobal(Editor& ed, Host& host, const GlobalSettings& global) {
     ed.Bounce = global.Bounce;
     ed.TimeInterval = global.TimeInterval;
     // A period the timer cannot take leaves its period unchanged, as everywhere.
-    if (global.timerPeriod >= 1 && global.timerPeriod <= 65535) ed.Timer1.interval = global.timerPeriod;
+    setRate(ed, global.timerPeriod);
     ed.DeltaAngle = global.DeltaAngle;
     if (ed.marks.mnuAutoWindowSize) {
         const double width = global.sceneWidth, height = global.sceneHeight;

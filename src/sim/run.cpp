@@ -6,10 +6,6 @@
 
 namespace zentrik {
 
-void setRate(Editor& ed, std::int32_t milliseconds) {
-    if (milliseconds >= shortestPeriod && milliseconds <= longestPeriod) ed.Timer1.interval = milliseconds;
-}
-
 void Timer1_Timer(Editor& ed) {
     // Counts up for as long as the program runs, so it must survive its own end.
     ed.Cycles = static_cast<std::int32_t>(static_cast<std::uint32_t>(ed.Cycles) + 1);

@@ -7,11 +7,6 @@ namespace zentrik {
 
 class Host;
 
-// Periods the animation timer accepts, milliseconds.
-inline constexpr std::int32_t shortestPeriod = 1, longestPeriod = 65535;
-// Changes the timer's period; refuses one it does not accept and leaves the old one.
-void setRate(Editor& ed, std::int32_t milliseconds);
-
 void Timer1_Timer(Editor& ed);
 
 // Makes the timer and the tool tip follow the start button.

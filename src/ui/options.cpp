@@ -2,8 +2,8 @@
 
 #include "model/host.h"
 #include "model/numbers.h"
+#include "model/rate.h"
 #include "model/redraw.h"
-#include "sim/run.h"
 #include "ui/layout.h"
 
 namespace zentrik {

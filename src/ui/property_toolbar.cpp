@@ -2,9 +2,9 @@
 
 #include "model/host.h"
 #include "model/numbers.h"
+#include "model/rate.h"
 #include "model/redraw.h"
 #include "model/store.h"
-#include "sim/run.h"
 #include "ui/property_commands.h"
 
 namespace zentrik {

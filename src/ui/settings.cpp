@@ -1,8 +1,7 @@
 #include "ui/settings.h"
 
-#include "model/numbers.h"
+#include "model/rate.h"
 #include "project/forms.h"
-#include "sim/run.h"
 #include "ui/options.h"
 
 #include <variant>
@@ -104,8 +103,7 @@ bool convert(const SettingRow& row, const std::string& text, Editor& ed, Placeme
 }
 
 bool isAcceptable(const SettingRow& row, const Editor& ed) {
-    if (std::holds_alternative<TimerPeriod>(row.slot))
-        return ed.Timer1.interval >= shortestPeriod && ed.Timer1.interval <= longestPeriod;
+    if (std::holds_alternative<TimerPeriod>(row.slot)) return isPeriod(ed.Timer1.interval);
     const auto* real = std::get_if<float Editor::*>(&row.slot);
     return real == nullptr || *real != &Editor::GridSize || ed.GridSize > 49;
 }
