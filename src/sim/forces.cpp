@@ -60,7 +60,7 @@ void applyRotationalDrive(const Editor& ed, ForcePoints& points) {
         const float R2 = nodeAt(ed, link.N2).Rotate;
         if (R1 == 0 && R2 == 0) return;
         const Drive drive{pointAt(points, link.N1), pointAt(points, link.N2), R1 * scale, R2 * scale};
-        const Float2 d = round32(wide(drive.a.place) - wide(drive.b.place));
+        const Float2 d = difference(nodeAt(ed, link.N1), nodeAt(ed, link.N2));
         const float dx = d[0], dy = d[1];
         if (std::fabs(dx) < nearAxis)
             driveVertical(drive, dy);

@@ -10,7 +10,7 @@ namespace zentrik {
 
 // A node as the link stages see it: small enough that a large model stays in the processor's cache.
 struct ForcePoint {
-    Int2 place;  // twips
+    Float2 place;  // twips; rounded where the step's places are not small
     Float2 force;
 };
 using ForcePoints = std::vector<ForcePoint>;  // by node number

@@ -26,12 +26,18 @@ inline double wide(float value) { return static_cast<double>(value); }
 
 // Rounds to 32-bit reals; beyond their range gives infinities, which the step looks for.
 inline Float2 round32(Double2 pair) { return __builtin_convertvector(pair, Float2); }
+inline Float2 round32(Int2 pair) { return __builtin_convertvector(pair, Float2); }
 inline Double2 wide(Float2 pair) { return __builtin_convertvector(pair, Double2); }
 inline Double2 wide(Int2 pair) { return __builtin_convertvector(pair, Double2); }
 
 inline Int2 placeOf(const Node& node) { return Int2{node.X, node.Y}; }
 inline Float2 velocityOf(const Node& node) { return Float2{node.Vx, node.Vy}; }
 inline Float2 forceOf(const Node& node) { return Float2{node.Fx, node.Fy}; }
+
+// From b to a, rounded once.
+inline Float2 difference(const Node& a, const Node& b) {
+    return round32(wide(placeOf(a)) - wide(placeOf(b)));
+}
 
 inline Float2 pairAt(const float* from) { return Float2{from[0], from[1]}; }
 // Hands a pair to two neighbours in an array.

@@ -2,8 +2,10 @@
 #include "sim/forces.h"
 #include "sim/prefetch.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 
 namespace zentrik {
 
@@ -27,59 +29,121 @@ float animatorFactor(const Link& link, const AnimatorClock& clock) {
     return real(link.Force * std::sin(clock.phase - angle) + 1);
 }
 
-// A run of springs side by side. One spring alone waits for its square root, then for its division, then
-// for the memory of its nodes; short loops over many keep the processor busy, and vectorise. All of them
-// are compiled into applySprings, which is there once for each width of vectors.
-struct SpringBatch {
-    static constexpr std::size_t size = 32;
+// Springs side by side. One spring alone waits for its square root, then for its division, then for the
+// memory of its nodes. In groups they pass three stages that need not wait for each other: gather, solve
+// and hand out. Solving is short loops over columns, which vectorise.
+struct alignas(32) SpringGroup {
+    static constexpr std::size_t size = 8;
     template <class T>
     using Column = std::array<T, size>;
-    template <class T>
-    using PairColumn = std::array<T, 2 * size>;  // x and y take turns
 
-    Column<Link*> link{};
-    PairColumn<float> d{};  // from N2 to N1, twips
-    Column<float> rest{}, factor{}, k{}, length{};
-    PairColumn<float> force{};
+    Column<Link*> link;
+    Column<float> dx, dy;  // from N2 to N1, twips
+    Column<float> rest, factor, k, length;
+    Column<float> fx, fy;
 };
 
-// Exact where places are small: whole numbers then have no more digits than a 32-bit real.
-[[gnu::always_inline]] inline Float2 difference(const ForcePoint& a, const ForcePoint& b,
-                                                bool placesAreSmall) {
-    if (placesAreSmall) return __builtin_convertvector(a.place - b.place, Float2);
-    return round32(wide(a.place) - wide(b.place));
+// The groups on their way. A stage works on what the stage before it finished two groups ago: about as
+// far as the processor looks ahead.
+class Belt {
+public:
+    static constexpr std::size_t distance = 2;
+
+    explicit Belt(Link& nowhere) {
+        for (SpringGroup& group : groups_) {
+            group = {};
+            group.link.fill(&nowhere);
+            group.factor.fill(1);
+        }
+    }
+    SpringGroup& at(std::size_t n) { return groups_[n % groups_.size()]; }
+
+private:
+    std::array<SpringGroup, 8> groups_;
+};
+
+// What springs are gathered from.
+struct Source {
+    const Node* nodes;
+    std::uint32_t lastNode;
+    const Link* links;
+    const ForcePoint* points;
+    bool placesAreSmall;
+    AnimatorClock clock;
+    Link* nowhere;  // stands for a link that is not there, and pulls at slot 0, which is no node
+    std::vector<std::int32_t>* barriers;
+};
+
+[[gnu::always_inline]] inline bool isThere(const Link& link, const Source& from) {
+    const auto exists = [&](std::int32_t i) { return static_cast<std::uint32_t>(i) - 1 < from.lastNode; };
+    return link.Used && exists(link.N1) && exists(link.N2);
+}
+
+// The points hold exact places only where these are small.
+[[gnu::always_inline]] inline Float2 extent(const Link& link, const Source& from) {
+    if (from.placesAreSmall) return from.points[link.N1].place - from.points[link.N2].place;
+    return difference(from.nodes[link.N1], from.nodes[link.N2]);
+}
+
+[[gnu::always_inline]] inline void gather(Link& link, const Source& from, SpringGroup& group, std::size_t m) {
+    prefetchAhead(link, 32);
+    if (!isThere(link, from)) {
+        group.link[m] = from.nowhere;
+        return;
+    }
+    if (link.Barrier) from.barriers->push_back(static_cast<std::int32_t>(&link - from.links));
+    const Float2 d = extent(link, from);
+    group.link[m] = &link;
+    group.dx[m] = d[0];
+    group.dy[m] = d[1];
+    group.rest[m] = link.RestLength;
+    if (link.Animator) group.factor[m] = animatorFactor(link, from.clock);
+    group.k[m] = link.k;
+}
+
+// As many links as there are, at most a group.
+[[gnu::always_inline]] inline void gather(std::span<Link> links, const Source& from, SpringGroup& group) {
+    if (links.size() == SpringGroup::size) {
+#pragma GCC unroll 8
+        for (std::size_t m = 0; m < SpringGroup::size; ++m) gather(links[m], from, group, m);
+    } else {
+        group.link.fill(from.nowhere);
+        for (std::size_t m = 0; m < links.size(); ++m) gather(links[m], from, group, m);
+    }
 }
 
 // Ends at the same place give no direction to pull in: such a link exerts nothing, whether links of
-// length zero are allowed or not. (Other lengths are at least 1 twip.)
-[[gnu::always_inline]] inline void solve(SpringBatch& batch) {
-    for (std::size_t m = 0; m < SpringBatch::size; ++m) {
-        const double dx = wide(batch.d[2 * m]), dy = wide(batch.d[2 * m + 1]);
+// length zero are allowed or not. (Other lengths are at least 1 twip.) Unrolled loops would not vectorise.
+[[gnu::always_inline]] inline void solve(SpringGroup& g) {
+    alignas(32) SpringGroup::Column<float> strength, divisor;
+#pragma GCC unroll 0
+    for (std::size_t m = 0; m < SpringGroup::size; ++m) {
+        const double dx = wide(g.dx[m]), dy = wide(g.dy[m]);
         const float length = real(std::sqrt(dx * dx + dy * dy));
-        const double rest = wide(batch.factor[m]) * batch.rest[m];
-        const float F = real((length - rest) * batch.k[m] * 100);
-        const float strength = length > 0 ? F : 0;
-        const double divisor = wide(length > 1 ? length : 1);
-        batch.length[m] = length;
-        batch.force[2 * m] = real(dx / divisor * strength);
-        batch.force[2 * m + 1] = real(dy / divisor * strength);
+        const double rest = wide(g.factor[m]) * g.rest[m];
+        const float F = real((length - rest) * g.k[m] * 100);
+        g.factor[m] = 1;
+        g.length[m] = length;
+        strength[m] = length > 0 ? F : 0;
+        divisor[m] = length > 1 ? length : 1;
+    }
+#pragma GCC unroll 0
+    for (std::size_t m = 0; m < SpringGroup::size; ++m) {
+        g.fx[m] = real(wide(g.dx[m]) / divisor[m] * strength[m]);
+        g.fy[m] = real(wide(g.dy[m]) / divisor[m] * strength[m]);
     }
 }
 
 // Hands the forces to the nodes, link by link in index order: the order decides how sums round.
-[[gnu::always_inline]] inline void scatter(const SpringBatch& batch, std::size_t count, ForcePoint* points) {
-    for (std::size_t m = 0; m < count; ++m) {
-        Link& link = *batch.link[m];
-        const Float2 force = pairAt(&batch.force[2 * m]);
-        link.CurrentLength = batch.length[m];
+[[gnu::always_inline]] inline void handOut(const SpringGroup& group, ForcePoint* points) {
+#pragma GCC unroll 8
+    for (std::size_t m = 0; m < SpringGroup::size; ++m) {
+        Link& link = *group.link[m];
+        const Float2 force{group.fx[m], group.fy[m]};
+        link.CurrentLength = group.length[m];
         points[link.N1].force -= force;
         points[link.N2].force += force;
     }
-}
-
-[[gnu::always_inline]] inline void exert(SpringBatch& batch, std::size_t count, ForcePoint* points) {
-    solve(batch);
-    scatter(batch, count, points);
 }
 
 }  // namespace
@@ -88,28 +152,21 @@ ZENTRIK_WIDE_LOOP void applySprings(Editor& ed, ForcePoints& points, bool places
                                     std::vector<std::int32_t>& barriers) {
     const double phase = wide(ed.DeltaAngle) * ed.AnimationTime;
     const AnimatorClock clock{ed.buttons.animation, phase, std::fabs(real(phase))};
-    const auto nodes = static_cast<std::uint32_t>(lastNode(ed));
-    const auto exists = [nodes](std::int32_t i) { return static_cast<std::uint32_t>(i) - 1 < nodes; };
-    ForcePoint* const at = points.data();
-    Link* const links = ed.Links.data();
-    const std::int32_t last = lastLink(ed);
-    SpringBatch batch;
-    std::size_t count = 0;
-    for (std::int32_t j = 1; j <= last; ++j) {
-        Link& link = links[j];
-        prefetchAhead(link, 32);
-        if (!link.Used || !exists(link.N1) || !exists(link.N2)) continue;
-        if (link.Barrier) barriers.push_back(j);
-        store(&batch.d[2 * count], difference(at[link.N1], at[link.N2], placesAreSmall));
-        batch.link[count] = &link;
-        batch.rest[count] = link.RestLength;
-        batch.factor[count] = link.Animator ? animatorFactor(link, clock) : 1;
-        batch.k[count] = link.k;
-        if (++count < SpringBatch::size) continue;
-        exert(batch, count, at);
-        count = 0;
+    Link nowhere;
+    const Source from{ed.Nodes.data(), static_cast<std::uint32_t>(lastNode(ed)),
+                      ed.Links.data(), points.data(),
+                      placesAreSmall,  clock,
+                      &nowhere,        &barriers};
+    Belt belt(nowhere);
+    std::span<Link> links = std::span(ed.Links).subspan(1);
+    const std::size_t groups = (links.size() + SpringGroup::size - 1) / SpringGroup::size;
+    for (std::size_t n = 0; n < groups + 2 * Belt::distance; ++n) {
+        const std::size_t count = std::min(links.size(), SpringGroup::size);
+        gather(links.first(count), from, belt.at(n + 2 * Belt::distance));
+        solve(belt.at(n + Belt::distance));
+        handOut(belt.at(n), points.data());
+        links = links.subspan(count);
     }
-    if (count > 0) exert(batch, count, at);
 }
 
 }  // namespace zentrik

@@ -57,7 +57,7 @@ Survey survey(const Editor& ed, Scratch& work) {
         const Node& n = nodes[i];
         prefetchAhead(n, 24);
         before[i] = {placeOf(n), velocityOf(n), forceOf(n), n.Rotate, n.Used};
-        points[i] = {placeOf(n), forceOf(n)};
+        points[i] = {round32(placeOf(n)), forceOf(n)};
         spread.add(n.X, n.Y);
         // A node's drive acts over used links whether the node itself is used or not.
         if (n.Rotate != 0) result.anyRotate = true;
