@@ -2,6 +2,7 @@
 // Creating, deleting, counting and compacting nodes and links, and the selection they affect.
 
 #include "model/editor.h"
+#include "model/prefetch.h"
 
 namespace zentrik {
 
@@ -51,8 +52,11 @@ void forEachLink(EditorType& ed, Visit visit) {
 template <class EditorType, class Visit>
 void forEachNode(EditorType& ed, Visit visit) {
     const std::int32_t last = lastNode(ed);
-    for (std::int32_t i = 1; i <= last; ++i)
-        if (nodeAt(ed, i).Used) visit(i, nodeAt(ed, i));
+    for (std::int32_t i = 1; i <= last; ++i) {
+        auto& node = nodeAt(ed, i);
+        prefetchAhead(node, 16);
+        if (node.Used) visit(i, node);
+    }
 }
 
 // Distance of a link's two existing ends, twips.

@@ -24,18 +24,14 @@ ZENTRIK_WIDE_LOOP void move(const NodeRun& run, const Motion& motion, Arrivals& 
     }
     for (std::size_t k = 0; k < count; ++k)
         to.velocity[k] = real((acceleration[k] + motion.gravity[k]) * dt + run.velocity[k]);
-    for (std::size_t k = 0; k < count; ++k)
-        to.place[k] = dt * dt * (acceleration[k] * 0.5) + dt * to.velocity[k] + run.place[k];
-}
-
-ZENTRIK_WIDE_LOOP bool isClear(std::size_t count, const Motion& motion, const Arrivals& arrivals) {
     std::int64_t unclear = 0;
-    for (std::size_t k = 0; k < 2 * count; ++k) {
-        const double place = arrivals.place[k];
+    for (std::size_t k = 0; k < count; ++k) {
+        const double place = dt * dt * (acceleration[k] * 0.5) + dt * to.velocity[k] + run.place[k];
+        to.place[k] = place;
         const int clear = int{place >= motion.low[k]} & int{place <= motion.high[k]};
         unclear += 1 - clear;
     }
-    return unclear == 0;
+    to.clear = unclear == 0;
 }
 
 }  // namespace
@@ -52,9 +48,6 @@ Motion::Motion(const Editor& ed, float step, const Bounds& bounds)
               std::min(static_cast<double>(bounds.floor) - 1, farthest));
 }
 
-void integrate(const NodeRun& run, const Motion& motion, Arrivals& to) {
-    move(run, motion, to);
-    to.clear = isClear(run.count, motion, to);
-}
+void integrate(const NodeRun& run, const Motion& motion, Arrivals& to) { move(run, motion, to); }
 
 }  // namespace zentrik

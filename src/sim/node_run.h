@@ -11,7 +11,7 @@ namespace zentrik {
 // Free nodes side by side, one column a quantity, x and y taking turns: short loops over columns
 // vectorise, and keep the processor busy where one node alone would wait for each of its results.
 struct NodeRun {
-    static constexpr std::size_t size = 64;
+    static constexpr std::size_t size = 32;
     template <class T>
     using Column = std::array<T, 2 * size>;
 

@@ -1,8 +1,8 @@
 #include "sim/node_stage.h"
 
 #include "model/numbers.h"
+#include "model/prefetch.h"
 #include "model/store.h"
-#include "sim/prefetch.h"
 
 #include <algorithm>
 #include <cmath>
@@ -60,25 +60,28 @@ std::string NodeStage::run(float dt, std::int32_t lastFree) {
 // Fills the run with free nodes; gives the node behind it.
 std::int32_t NodeStage::gatherRun(std::int32_t from) {
     const std::int32_t last = lastNode(ed);
-    run_.plain = true;
+    Node* const nodes = ed.Nodes.data();
+    const ForcePoint* const points = points_.data();
+    run_.plain = !attracts_;
     std::size_t m = 0;
     std::int32_t i = from;
-    for (bool ends = false; i <= last && m < NodeRun::size && !ends; ++i) {
-        Node& node = nodeAt(ed, i);
+    while (i <= last && m < NodeRun::size) {
+        const std::int32_t here = i++;
+        Node& node = nodes[here];
         prefetchAhead(node, 64);
-        if (!node.Used || node.Locked) {
-            if (hold(i, node) != nullptr) run_.plain = false;
+        if (!node.Used || node.Locked) [[unlikely]] {
+            if (hold(here, node) != nullptr) run_.plain = false;
             continue;
         }
         run_.node[m] = &node;
         store(&run_.place[2 * m], placeOf(node));
         store(&run_.velocity[2 * m], velocityOf(node));
-        store(&run_.force[2 * m], pointAt(points_, i).force);
+        store(&run_.force[2 * m], points[here].force);
         store(&run_.mass[2 * m], Float2{node.Mass, node.Mass});
-        ends = node.Gravity != 0;
         ++m;
+        if (node.Gravity != 0) [[unlikely]]
+            break;
     }
-    if (attracts_) run_.plain = false;
     run_.count = m;
     return i;
 }

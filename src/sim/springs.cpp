@@ -1,6 +1,6 @@
+#include "model/prefetch.h"
 #include "model/store.h"
 #include "sim/forces.h"
-#include "sim/prefetch.h"
 
 #include <algorithm>
 #include <array>
@@ -68,7 +68,6 @@ struct Source {
     std::uint32_t lastNode;
     const Link* links;
     const ForcePoint* points;
-    bool placesAreSmall;
     AnimatorClock clock;
     Link* nowhere;  // stands for a link that is not there, and pulls at slot 0, which is no node
     std::vector<std::int32_t>* barriers;
@@ -76,39 +75,46 @@ struct Source {
 
 [[gnu::always_inline]] inline bool isThere(const Link& link, const Source& from) {
     const auto exists = [&](std::int32_t i) { return static_cast<std::uint32_t>(i) - 1 < from.lastNode; };
-    return link.Used && exists(link.N1) && exists(link.N2);
+    if (!link.Used) [[unlikely]]
+        return false;
+    return exists(link.N1) && exists(link.N2);
 }
 
 // The points hold exact places only where these are small.
+template <bool placesAreSmall>
 [[gnu::always_inline]] inline Float2 extent(const Link& link, const Source& from) {
-    if (from.placesAreSmall) return from.points[link.N1].place - from.points[link.N2].place;
+    if constexpr (placesAreSmall) return from.points[link.N1].place - from.points[link.N2].place;
     return difference(from.nodes[link.N1], from.nodes[link.N2]);
 }
 
+template <bool placesAreSmall>
 [[gnu::always_inline]] inline void gather(Link& link, const Source& from, SpringGroup& group, std::size_t m) {
     prefetchAhead(link, 32);
-    if (!isThere(link, from)) {
+    if (!isThere(link, from)) [[unlikely]] {
         group.link[m] = from.nowhere;
         return;
     }
-    if (link.Barrier) from.barriers->push_back(static_cast<std::int32_t>(&link - from.links));
-    const Float2 d = extent(link, from);
+    if (link.Barrier) [[unlikely]]
+        from.barriers->push_back(static_cast<std::int32_t>(&link - from.links));
+    const Float2 d = extent<placesAreSmall>(link, from);
     group.link[m] = &link;
     group.dx[m] = d[0];
     group.dy[m] = d[1];
     group.rest[m] = link.RestLength;
-    if (link.Animator) group.factor[m] = animatorFactor(link, from.clock);
+    if (link.Animator) [[unlikely]]
+        group.factor[m] = animatorFactor(link, from.clock);
     group.k[m] = link.k;
 }
 
 // As many links as there are, at most a group.
+template <bool placesAreSmall>
 [[gnu::always_inline]] inline void gather(std::span<Link> links, const Source& from, SpringGroup& group) {
     if (links.size() == SpringGroup::size) {
 #pragma GCC unroll 8
-        for (std::size_t m = 0; m < SpringGroup::size; ++m) gather(links[m], from, group, m);
+        for (std::size_t m = 0; m < SpringGroup::size; ++m) gather<placesAreSmall>(links[m], from, group, m);
     } else {
         group.link.fill(from.nowhere);
-        for (std::size_t m = 0; m < links.size(); ++m) gather(links[m], from, group, m);
+        for (std::size_t m = 0; m < links.size(); ++m) gather<placesAreSmall>(links[m], from, group, m);
     }
 }
 
@@ -146,6 +152,19 @@ struct Source {
     }
 }
 
+template <bool placesAreSmall>
+[[gnu::always_inline]] inline void run(std::span<Link> links, const Source& from, ForcePoint* points) {
+    Belt belt(*from.nowhere);
+    const std::size_t groups = (links.size() + SpringGroup::size - 1) / SpringGroup::size;
+    for (std::size_t n = 0; n < groups + 2 * Belt::distance; ++n) {
+        const std::size_t count = std::min(links.size(), SpringGroup::size);
+        gather<placesAreSmall>(links.first(count), from, belt.at(n + 2 * Belt::distance));
+        solve(belt.at(n + Belt::distance));
+        handOut(belt.at(n), points);
+        links = links.subspan(count);
+    }
+}
+
 }  // namespace
 
 ZENTRIK_WIDE_LOOP void applySprings(Editor& ed, ForcePoints& points, bool placesAreSmall,
@@ -155,18 +174,13 @@ ZENTRIK_WIDE_LOOP void applySprings(Editor& ed, ForcePoints& points, bool places
     Link nowhere;
     const Source from{ed.Nodes.data(), static_cast<std::uint32_t>(lastNode(ed)),
                       ed.Links.data(), points.data(),
-                      placesAreSmall,  clock,
-                      &nowhere,        &barriers};
-    Belt belt(nowhere);
-    std::span<Link> links = std::span(ed.Links).subspan(1);
-    const std::size_t groups = (links.size() + SpringGroup::size - 1) / SpringGroup::size;
-    for (std::size_t n = 0; n < groups + 2 * Belt::distance; ++n) {
-        const std::size_t count = std::min(links.size(), SpringGroup::size);
-        gather(links.first(count), from, belt.at(n + 2 * Belt::distance));
-        solve(belt.at(n + Belt::distance));
-        handOut(belt.at(n), points.data());
-        links = links.subspan(count);
-    }
+                      clock,           &nowhere,
+                      &barriers};
+    const auto links = std::span(ed.Links).subspan(1);
+    if (placesAreSmall)
+        run<true>(links, from, points.data());
+    else
+        run<false>(links, from, points.data());
 }
 
 }  // namespace zentrik

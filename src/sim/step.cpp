@@ -1,10 +1,10 @@
 #include "sim/step.h"
 
 #include "model/numbers.h"
+#include "model/prefetch.h"
 #include "model/redraw.h"
 #include "model/store.h"
 #include "sim/node_stage.h"
-#include "sim/prefetch.h"
 #include "sim/run.h"
 
 #include <cmath>
