@@ -31,7 +31,8 @@ float animatorFactor(const Link& link, const AnimatorClock& clock) {
 
 // Springs side by side. One spring alone waits for its square root, then for its division, then for the
 // memory of its nodes. In groups they pass three stages that need not wait for each other: gather, solve
-// and hand out. Solving is short loops over columns, which vectorise.
+// and hand out. Solving is short loops over columns, which vectorise. A lane without a link holds whatever
+// the last one left in it.
 struct alignas(32) SpringGroup {
     static constexpr std::size_t size = 8;
     template <class T>
@@ -39,7 +40,8 @@ struct alignas(32) SpringGroup {
 
     Column<Link*> link;
     Column<float> dx, dy;  // from N2 to N1, twips
-    Column<float> rest, factor, k, length;
+    Column<float> rest, k, length;
+    Column<float> factor;  // 1 wherever gathering finds no animator: solving puts it back
     Column<float> fx, fy;
 };
 
@@ -122,7 +124,7 @@ template <bool placesAreSmall>
 // length zero are allowed or not. (Other lengths are at least 1 twip.) Unrolled loops would not vectorise.
 [[gnu::always_inline]] inline void solve(SpringGroup& g) {
     alignas(32) SpringGroup::Column<float> strength, divisor;
-#pragma GCC unroll 0
+#pragma GCC unroll 1
     for (std::size_t m = 0; m < SpringGroup::size; ++m) {
         const double dx = wide(g.dx[m]), dy = wide(g.dy[m]);
         const float length = real(std::sqrt(dx * dx + dy * dy));
@@ -133,7 +135,7 @@ template <bool placesAreSmall>
         strength[m] = length > 0 ? F : 0;
         divisor[m] = length > 1 ? length : 1;
     }
-#pragma GCC unroll 0
+#pragma GCC unroll 1
     for (std::size_t m = 0; m < SpringGroup::size; ++m) {
         g.fx[m] = real(wide(g.dx[m]) / divisor[m] * strength[m]);
         g.fy[m] = real(wide(g.dy[m]) / divisor[m] * strength[m]);
