@@ -150,6 +150,14 @@ TEST(Step, GivesTheWorkedNumbers) {
              linkAt(ed, addLink(ed, 1, 2)).RestLength = 400;
          },
          "4718,4624 600,800"},
+        {"spring without a direction, however strong",
+         [](Editor& ed) {
+             ed.Gravity = 1;
+             addNode(ed, 5000, 5000);
+             Link& link = linkAt(ed, addLink(ed, 1, 2));
+             link.k = 1e38F, link.RestLength = 3e38F;
+         },
+         "5000,5004 0,200"},
         {"attraction: 10 x 5 / 0.5^2",
          [](Editor& ed) {
              ed.TimeInterval = 1000;
