@@ -6,10 +6,12 @@
 namespace zentrik {
 
 // Has the record that many places behind this one in an array brought near. There need not be one.
-template <class Record>
+// Records that are needed once only do not push others out of the larger caches.
+enum class Needed { again, once };
+template <Needed needed = Needed::again, class Record>
 void prefetchAhead(const Record& record, std::uintptr_t places) {
     const auto address = reinterpret_cast<std::uintptr_t>(&record) + places * sizeof(Record);
-    __builtin_prefetch(reinterpret_cast<const void*>(address));
+    __builtin_prefetch(reinterpret_cast<const void*>(address), 0, needed == Needed::once ? 0 : 3);
 }
 
 }  // namespace zentrik

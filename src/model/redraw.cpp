@@ -16,7 +16,7 @@ namespace {
 void aimShooters(Editor& ed) {
     std::vector<std::int32_t> triggers;
     forEachNode(ed, [&](std::int32_t i, Node& node) {
-        if (!node.Locked || node.Res1 == none) return;
+        if (!takesAim(node)) return;
         if (node.Res1 == 0) {
             if (triggers.empty()) triggers = triggerNodes(ed);
             node.Res1 = triggers[static_cast<std::size_t>(i)];
@@ -29,8 +29,8 @@ void aimShooters(Editor& ed) {
 
 }  // namespace
 
-void DisplayScene(Editor& ed, float PX, float PY) {
-    if (ed.buttons.ball) aimShooters(ed);
+void DisplayScene(Editor& ed, float PX, float PY, bool anyTakesAim) {
+    if (ed.buttons.ball && anyTakesAim) aimShooters(ed);
     ed.rubberBand.reset();
     if (PX >= 0 && PY >= 0 && ed.DrawMode && ed.SelectedNode != none)
         ed.rubberBand = PointF{SnapToGrid(ed, PX), SnapToGrid(ed, PY)};

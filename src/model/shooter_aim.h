@@ -5,6 +5,9 @@
 
 namespace zentrik {
 
+// Whether a used node takes aim at a redraw: a shooter does while it is locked.
+inline bool takesAim(const Node& node) { return node.Locked && node.Res1 != none; }
+
 // The node at the other end of the first used link that touches node i; 0 when there is none.
 std::int32_t GetTriggerNode(const Editor& ed, std::int32_t i);
 // The same for every node slot, in one pass over the links.

@@ -91,7 +91,7 @@ template <bool placesAreSmall>
 
 template <bool placesAreSmall>
 [[gnu::always_inline]] inline void gather(Link& link, const Source& from, SpringGroup& group, std::size_t m) {
-    prefetchAhead(link, 32);
+    prefetchAhead<Needed::once>(link, 32);
     if (!isThere(link, from)) [[unlikely]] {
         group.link[m] = from.nowhere;
         return;

@@ -3,6 +3,7 @@
 #include "model/numbers.h"
 #include "model/prefetch.h"
 #include "model/redraw.h"
+#include "model/shooter_aim.h"
 #include "model/store.h"
 #include "sim/node_stage.h"
 #include "sim/run.h"
@@ -38,6 +39,7 @@ Scratch& scratch() {
 // What must be known of the nodes before the forces.
 struct Survey {
     bool anyRotate = false;
+    bool anyTakesAim = false;
     bool placesAreSmall = true;  // the difference of any two coordinates is exact as a 32-bit real
     std::int32_t lastFree = 0;   // the last node that the step will move
     std::int32_t massless = 0;   // the first node that cannot be moved
@@ -63,7 +65,10 @@ Survey survey(const Editor& ed, Scratch& work) {
         if (n.Rotate != 0) result.anyRotate = true;
         if (!n.Used) continue;
         if (n.Gravity != 0) work.attraction.add(i, n);
-        if (n.Locked) continue;
+        if (n.Locked) {
+            if (takesAim(n)) result.anyTakesAim = true;
+            continue;
+        }
         result.lastFree = i;
         if (n.Mass == 0 && result.massless == 0) result.massless = i;
     }
@@ -153,7 +158,7 @@ void CalculatePositions(Editor& ed) {
         ed.SelectedNode = selected;
         return stopWith(ed, problem);
     }
-    DisplayScene(ed, -1, -1);
+    DisplayScene(ed, -1, -1, found.anyTakesAim);
     if (nodes.wallTouched()) ed.TimeDirection = -ed.TimeDirection;
 }
 
