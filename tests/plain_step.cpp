@@ -105,12 +105,7 @@ void spring(const Editor& ed, Link& link, Node& n1, Node& n2) {
                 1);
     const float F = f32((f64(link.CurrentLength) - f64(f) * f64(link.RestLength)) * f64(link.k) * 100);
     double fx = 0, fy = 0;
-    if (F != 0 && link.CurrentLength == 0) {
-        if (ed.marks.mnuAllowZero) {
-            fx = f64(f32(std::fabs(dx / 10 * f64(F))));
-            fy = f64(f32(std::fabs(dy / 10 * f64(F))));
-        }
-    } else if (F != 0) {
+    if (F != 0 && link.CurrentLength != 0) {
         fx = f64(f32(std::fabs(dx / f64(link.CurrentLength) * f64(F))));
         fy = f64(f32(std::fabs(dy / f64(link.CurrentLength) * f64(F))));
     }

@@ -153,6 +153,7 @@ TEST(Step, GivesTheWorkedNumbers) {
         {"spring without a direction, however strong",
          [](Editor& ed) {
              ed.Gravity = 1;
+             ed.marks.mnuAllowZero = true;
              addNode(ed, 5000, 5000);
              Link& link = linkAt(ed, addLink(ed, 1, 2));
              link.k = 1e38F, link.RestLength = 3e38F;

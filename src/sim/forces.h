@@ -8,7 +8,7 @@
 
 namespace zentrik {
 
-// A node as the link stages see it: small enough that a large model stays in the processor's cache.
+// A node as the springs see it: small enough that a large model stays in the processor's cache.
 struct ForcePoint {
     Float2 place;  // twips; rounded where the step's places are not small
     Float2 force;
@@ -26,7 +26,7 @@ void applyRotationalDrive(const Editor& ed, ForcePoints& points);
 
 // Springs and animators of all links, in index order; measures every link's CurrentLength. Appends the
 // used barrier links with both ends to barriers. placesAreSmall: the differences of all coordinates are
-// exact as 32-bit reals, which saves rounding them.
+// exact as 32-bit reals, so that the points will do instead of the nodes.
 void applySprings(Editor& ed, ForcePoints& points, bool placesAreSmall, std::vector<std::int32_t>& barriers);
 
 }  // namespace zentrik

@@ -11,10 +11,24 @@ void alternate(NodeRun::Column<double>& column, double x, double y) {
     for (std::size_t k = 0; k < column.size(); ++k) column[k] = k % 2 == 0 ? x : y;
 }
 
-// Drag and wind, velocity, place from the new velocity, each in its own short loop: the processor looks
-// ahead only so far. (Half of a quotient is the quotient of the half, to the last bit: no 32-bit force
-// is so small that halving it could lose one.)
-ZENTRIK_WIDE_LOOP void move(const NodeRun& run, const Motion& motion, Arrivals& to) {
+}  // namespace
+
+Motion::Motion(const Editor& ed, float step, const Bounds& bounds)
+    : dt(wide(step)), viscosity(wide(ed.Viscosity)) {
+    alternate(wind, ed.LeftWind * 1000.0, 0);
+    alternate(gravity, 0, wide(real(ed.Gravity * 10000.0)));
+    // A place inside this box is still off every bound when it is rounded.
+    constexpr double farthest = std::numeric_limits<std::int32_t>::max();
+    const double lowest = std::max(static_cast<double>(bounds.low) + 1, -farthest);
+    alternate(low, lowest, lowest);
+    alternate(high, std::min(static_cast<double>(bounds.right) - 1, farthest),
+              std::min(static_cast<double>(bounds.floor) - 1, farthest));
+}
+
+// Drag and wind, velocity, place from the new velocity and whether it is clear, each in its own short
+// loop: the processor looks ahead only so far. (Half of a quotient is the quotient of the half, to the last
+// bit: no 32-bit force is so small that halving it could lose one.)
+ZENTRIK_WIDE_LOOP void integrate(const NodeRun& run, const Motion& motion, Arrivals& to) {
     const double dt = motion.dt, viscosity = motion.viscosity;
     const std::size_t count = 2 * run.count;
     NodeRun::Column<double> acceleration;
@@ -33,21 +47,5 @@ ZENTRIK_WIDE_LOOP void move(const NodeRun& run, const Motion& motion, Arrivals& 
     }
     to.clear = unclear == 0;
 }
-
-}  // namespace
-
-Motion::Motion(const Editor& ed, float step, const Bounds& bounds)
-    : dt(wide(step)), viscosity(wide(ed.Viscosity)) {
-    alternate(wind, ed.LeftWind * 1000.0, 0);
-    alternate(gravity, 0, wide(real(ed.Gravity * 10000.0)));
-    // A place inside this box is still off every bound when it is rounded.
-    constexpr double farthest = std::numeric_limits<std::int32_t>::max();
-    const double lowest = std::max(static_cast<double>(bounds.low) + 1, -farthest);
-    alternate(low, lowest, lowest);
-    alternate(high, std::min(static_cast<double>(bounds.right) - 1, farthest),
-              std::min(static_cast<double>(bounds.floor) - 1, farthest));
-}
-
-void integrate(const NodeRun& run, const Motion& motion, Arrivals& to) { move(run, motion, to); }
 
 }  // namespace zentrik

@@ -24,7 +24,7 @@ struct NodeRun {
 
 // Where a run goes, if nothing comes in between.
 struct Arrivals {
-    bool clear = false;  // nowhere near a bound or the end of the world
+    bool clear = false;  // off every bound and in the world
     NodeRun::Column<float> velocity;
     NodeRun::Column<double> place;
 };

@@ -87,6 +87,7 @@ std::int32_t NodeStage::gatherRun(std::int32_t from) {
 }
 
 void NodeStage::attract() {
+    static_assert(NodeRun::size <= NodeLanes::size);
     NodeLanes lanes;
     lanes.small = true;
     lanes.count = run_.count;

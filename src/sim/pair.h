@@ -7,7 +7,8 @@
 #include <cstring>
 
 // Marks a function of plain loops to be compiled twice: for processors with 256-bit vectors and for all
-// others. The program picks at its start; results are the same to the last bit, only sooner there.
+// others, where the compiler can. The program picks at its start; results are the same to the last bit, only
+// sooner there.
 #if defined(__x86_64__)
 #define ZENTRIK_WIDE_LOOP [[gnu::target_clones("avx2", "default")]]
 #else
@@ -39,7 +40,6 @@ inline Float2 difference(const Node& a, const Node& b) {
     return round32(wide(placeOf(a)) - wide(placeOf(b)));
 }
 
-inline Float2 pairAt(const float* from) { return Float2{from[0], from[1]}; }
 // Hands a pair to two neighbours in an array.
 template <class Pair, class T>
 void store(T* to, Pair pair) {

@@ -22,7 +22,7 @@ struct AnimatorClock {
 
 // Factor by which an animator stretches its link's rest length; it starts once the clock's phase has
 // passed its own.
-float animatorFactor(const Link& link, const AnimatorClock& clock) {
+[[gnu::noinline]] float animatorFactor(const Link& link, const AnimatorClock& clock) {
     if (!clock.running) return 1;
     const double angle = link.Angle * degreesToRadians;
     if (!(real(angle) < clock.reached)) return 1;
@@ -62,21 +62,26 @@ public:
 
 private:
     std::array<SpringGroup, 8> groups_;
+    static_assert(std::tuple_size_v<decltype(groups_)> > 2 * distance);
 };
 
-// What springs are gathered from.
-struct Source {
+// What the stages work on.
+struct Work {
     const Node* nodes;
     std::uint32_t lastNode;
     const Link* links;
-    const ForcePoint* points;
+    ForcePoint* points;
     AnimatorClock clock;
     Link* nowhere;  // stands for a link that is not there, and pulls at slot 0, which is no node
     std::vector<std::int32_t>* barriers;
 };
 
-[[gnu::always_inline]] inline bool isThere(const Link& link, const Source& from) {
-    const auto exists = [&](std::int32_t i) { return static_cast<std::uint32_t>(i) - 1 < from.lastNode; };
+[[gnu::noinline]] void noteBarrier(const Link& link, const Work& work) {
+    work.barriers->push_back(static_cast<std::int32_t>(&link - work.links));
+}
+
+[[gnu::always_inline]] inline bool isThere(const Link& link, const Work& work) {
+    const auto exists = [&](std::int32_t i) { return static_cast<std::uint32_t>(i) - 1 < work.lastNode; };
     if (!link.Used) [[unlikely]]
         return false;
     return exists(link.N1) && exists(link.N2);
@@ -84,39 +89,41 @@ struct Source {
 
 // The points hold exact places only where these are small.
 template <bool placesAreSmall>
-[[gnu::always_inline]] inline Float2 extent(const Link& link, const Source& from) {
-    if constexpr (placesAreSmall) return from.points[link.N1].place - from.points[link.N2].place;
-    return difference(from.nodes[link.N1], from.nodes[link.N2]);
+[[gnu::always_inline]] inline Float2 extent(const Link& link, const Work& work) {
+    if constexpr (placesAreSmall)
+        return work.points[link.N1].place - work.points[link.N2].place;
+    else
+        return difference(work.nodes[link.N1], work.nodes[link.N2]);
 }
 
 template <bool placesAreSmall>
-[[gnu::always_inline]] inline void gather(Link& link, const Source& from, SpringGroup& group, std::size_t m) {
+[[gnu::always_inline]] inline void gather(Link& link, const Work& work, SpringGroup& group, std::size_t m) {
     prefetchAhead<Needed::once>(link, 32);
-    if (!isThere(link, from)) [[unlikely]] {
-        group.link[m] = from.nowhere;
+    if (!isThere(link, work)) [[unlikely]] {
+        group.link[m] = work.nowhere;
         return;
     }
     if (link.Barrier) [[unlikely]]
-        from.barriers->push_back(static_cast<std::int32_t>(&link - from.links));
-    const Float2 d = extent<placesAreSmall>(link, from);
+        noteBarrier(link, work);
+    const Float2 d = extent<placesAreSmall>(link, work);
     group.link[m] = &link;
     group.dx[m] = d[0];
     group.dy[m] = d[1];
     group.rest[m] = link.RestLength;
     if (link.Animator) [[unlikely]]
-        group.factor[m] = animatorFactor(link, from.clock);
+        group.factor[m] = animatorFactor(link, work.clock);
     group.k[m] = link.k;
 }
 
-// As many links as there are, at most a group.
+// Fills a group with at most as many links; lanes beyond the last one lead nowhere.
 template <bool placesAreSmall>
-[[gnu::always_inline]] inline void gather(std::span<Link> links, const Source& from, SpringGroup& group) {
+[[gnu::always_inline]] inline void gather(std::span<Link> links, const Work& work, SpringGroup& group) {
     if (links.size() == SpringGroup::size) {
 #pragma GCC unroll 8
-        for (std::size_t m = 0; m < SpringGroup::size; ++m) gather<placesAreSmall>(links[m], from, group, m);
+        for (std::size_t m = 0; m < SpringGroup::size; ++m) gather<placesAreSmall>(links[m], work, group, m);
     } else {
-        group.link.fill(from.nowhere);
-        for (std::size_t m = 0; m < links.size(); ++m) gather<placesAreSmall>(links[m], from, group, m);
+        group.link.fill(work.nowhere);
+        for (std::size_t m = 0; m < links.size(); ++m) gather<placesAreSmall>(links[m], work, group, m);
     }
 }
 
@@ -155,14 +162,14 @@ template <bool placesAreSmall>
 }
 
 template <bool placesAreSmall>
-[[gnu::always_inline]] inline void run(std::span<Link> links, const Source& from, ForcePoint* points) {
-    Belt belt(*from.nowhere);
+[[gnu::always_inline]] inline void run(std::span<Link> links, const Work& work) {
+    Belt belt(*work.nowhere);
     const std::size_t groups = (links.size() + SpringGroup::size - 1) / SpringGroup::size;
     for (std::size_t n = 0; n < groups + 2 * Belt::distance; ++n) {
         const std::size_t count = std::min(links.size(), SpringGroup::size);
-        gather<placesAreSmall>(links.first(count), from, belt.at(n + 2 * Belt::distance));
+        gather<placesAreSmall>(links.first(count), work, belt.at(n + 2 * Belt::distance));
         solve(belt.at(n + Belt::distance));
-        handOut(belt.at(n), points);
+        handOut(belt.at(n), work.points);
         links = links.subspan(count);
     }
 }
@@ -174,15 +181,18 @@ ZENTRIK_WIDE_LOOP void applySprings(Editor& ed, ForcePoints& points, bool places
     const double phase = wide(ed.DeltaAngle) * ed.AnimationTime;
     const AnimatorClock clock{ed.buttons.animation, phase, std::fabs(real(phase))};
     Link nowhere;
-    const Source from{ed.Nodes.data(), static_cast<std::uint32_t>(lastNode(ed)),
-                      ed.Links.data(), points.data(),
-                      clock,           &nowhere,
-                      &barriers};
+    const Work work{.nodes = ed.Nodes.data(),
+                    .lastNode = static_cast<std::uint32_t>(lastNode(ed)),
+                    .links = ed.Links.data(),
+                    .points = points.data(),
+                    .clock = clock,
+                    .nowhere = &nowhere,
+                    .barriers = &barriers};
     const auto links = std::span(ed.Links).subspan(1);
     if (placesAreSmall)
-        run<true>(links, from, points.data());
+        run<true>(links, work);
     else
-        run<false>(links, from, points.data());
+        run<false>(links, work);
 }
 
 }  // namespace zentrik
