@@ -9,6 +9,7 @@
 #include "model/store.h"
 #include "model/units.h"
 #include "project/library.h"
+#include "project/zoo.h"
 #include "sim/run.h"
 #include "ui/layout.h"
 #include "ui/online.h"
@@ -17,10 +18,8 @@
 #include "ui/sprite_commands.h"
 
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QFileInfo>
 #include <QLabel>
-#include <QLineEdit>
 #include <QScreen>
 #include <QScrollBar>
 #include <QToolBar>
@@ -44,21 +43,23 @@ frmMain::frmMain(const QString& folder)
     : host_(*this),
       client_(new QWidget(this)),
       bars_(*this),
+      undo_(new UndoButtons(this)),
       picS_(new SceneView(ed_, client_)),
       picPhase_(new PhaseView(ed_, client_)),
       Frame1_(new SpriteBrowser(client_)),
       frmPath_(new PathWindow(ed_, this)) {
     setObjectName("frmMain");
-    setWindowTitle("Zentrik");
     setWindowIcon(programIcon());
     buildMenus();
     buildStatusBar();
     buildClient();
     connectBars();
     connectLists();
+    connectUndo();
     connectViews();
     connectTimers();
     Form_Load(folder);
+    startHistory(history_, ed_);
     showRecord();
     picS_->setFocus();
 }
@@ -152,7 +153,10 @@ void frmMain::closeEvent(QCloseEvent* event) {
 
 void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) bars_.drawIcons();
+    if (event->type() == QEvent::PaletteChange) {
+        bars_.drawIcons();
+        undo_->drawIcons();
+    }
 }
 
 void frmMain::placePathWindow(bool visible) {
@@ -171,45 +175,17 @@ void frmMain::placePathWindow(bool visible) {
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    // A wheel turned over a closed list would load another project over the one being drawn, or change
-    // the selected node's sprite.
-    if (event->type() == QEvent::Wheel && (watched == bars_.lstSaved || watched == bars_.lstSprites))
-        return true;
-    const bool typing = watched == bars_.lstSaved || watched == bars_.lstSaved->lineEdit();
-    // While a name is typed, no key is a shortcut of the menus; Alt still opens them.
-    if (typing && event->type() == QEvent::ShortcutOverride) {
-        event->setAccepted(!static_cast<QKeyEvent*>(event)->modifiers().testFlag(Qt::AltModifier));
-        return true;
-    }
-    if (typing && event->type() == QEvent::KeyPress)
-        return typedInList(static_cast<QKeyEvent*>(event)->key());
+    // A wheel turned over the closed list would change the selected node's sprite.
+    if (event->type() == QEvent::Wheel && watched == bars_.lstSprites) return true;
     return QMainWindow::eventFilter(watched, event);
-}
-
-// Keys of the project list that do not edit its text. True for those.
-bool frmMain::typedInList(int key) {
-    switch (key) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            perform([](Editor& ed, Host& host) { lstSaved_Enter(ed, host); });
-            picS_->setFocus();
-            return true;
-        case Qt::Key_Escape:
-            picS_->setFocus();
-            return true;
-        case Qt::Key_Up:
-        case Qt::Key_Down:  // show the names instead of loading the next one over the model
-            bars_.lstSaved->showPopup();
-            return true;
-        default:
-            return false;
-    }
 }
 
 void frmMain::showRecord() {
     assert(brokenRule(ed_).empty());
     for (const MenuEntry& entry : marks_) entry.action->setChecked(ed_.marks.*entry.row->mark);
     bars_.show(ed_);
+    undo_->show(history_);
+    showTitle();
     for (std::size_t i = 0; i < panels_.size(); ++i)
         panels_[i]->setText(QString::fromStdString(ed_.panels[i]));
     showLayout();
@@ -217,6 +193,14 @@ void frmMain::showRecord() {
     if (std::exchange(ed_.sceneStale, false)) picS_->pacer.request();
     if (std::exchange(ed_.phaseStale, false)) picPhase_->pacer.request();
     if (frmPath_->isVisible()) frmPath_->pacer.request();
+}
+
+// A name may be of any length while it is typed.
+void frmMain::showTitle() {
+    QString name = QString::fromStdString(ed_.savedText).simplified().left(100);
+    const bool unnamed = name.isEmpty() || name == noFileFound;
+    setWindowTitle((unnamed ? "Unnamed" : name.replace("[*]", "[*][*]")) + "[*] - Zentrik");
+    setWindowModified(isModified(history_, ed_));
 }
 
 void frmMain::showLayout() {

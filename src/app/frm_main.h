@@ -4,7 +4,9 @@
 #include "app/settings_store.h"
 #include "app/sprite_browser.h"
 #include "app/toolbars.h"
+#include "app/undo_buttons.h"
 #include "app/views.h"
+#include "history/history.h"
 #include "model/editor.h"
 #include "ui/menus.h"
 
@@ -23,13 +25,12 @@ public:
     explicit frmMain(const QString& folder = {});
 
     const Editor& editor() const { return ed_; }
-    // Runs a procedure as an event of the window does: not while a box is open, and followed by showing
-    // the record.
+    const History& history() const { return history_; }
+    // Runs a procedure as an event of the window does: not while a box is open, as a step that can be
+    // undone, which is called `what`, and followed by showing the record.
     template <class Procedure>
-    void perform(Procedure procedure) {
-        if (host_.isAsking()) return;
-        procedure(ed_, host_);
-        showRecord();
+    void perform(const std::string& what, Procedure procedure) {
+        run(Event::command, what, procedure);
     }
 
 protected:
@@ -45,6 +46,7 @@ private:
     };
 
     Editor ed_;
+    History history_;
     DesktopHost host_;
     UserSettings settings_;
     std::vector<MenuEntry> marks_;
@@ -52,6 +54,7 @@ private:
     QTimer Timer1_, timerFireWorks_;
     QWidget* const client_;
     Toolbars bars_;
+    UndoButtons* const undo_;
     SceneView* const picS_;
     PhaseView* const picPhase_;
     SpriteBrowser* const Frame1_;
@@ -62,6 +65,7 @@ private:
     void buildClient();
     void connectBars();
     void connectLists();
+    void connectUndo();
     void connectViews();
     void connectTimers();
 
@@ -69,10 +73,25 @@ private:
     void loadSprites();
     void restorePlacement(const Placement& placement);
     void placePathWindow(bool visible);
-    bool typedInList(int key);
     void layOutWindow();
+    template <class Procedure>
+    void run(Event event, const std::string& what, Procedure procedure) {
+        follow([&](Editor& ed, Host& host) {
+            beginEvent(history_, ed, event);
+            procedure(ed, host);
+            endEvent(history_, ed, event, what);
+        });
+    }
+    // Runs what changes nothing that undo knows.
+    template <class Procedure>
+    void follow(Procedure procedure) {
+        if (host_.isAsking()) return;
+        procedure(ed_, host_);
+        showRecord();
+    }
 
     void showRecord();
+    void showTitle();
     void showLayout();
     void showTimers();
 };

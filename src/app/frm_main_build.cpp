@@ -10,10 +10,10 @@
 #include "ui/online.h"
 #include "ui/phase_manager.h"
 #include "ui/sprite_commands.h"
+#include "ui/undo.h"
 
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QStatusBar>
@@ -26,6 +26,14 @@ namespace {
 // Bars have fixed heights, so that the client area begins where the layout counts on it.
 constexpr int menuBarHeight = 24, statusBarHeight = 22;  // pixels
 constexpr int panelWidths[] = {118, 118, 141, 169};      // of the first four panels, pixels
+
+// A caption as it reads: without the mark of its access key.
+std::string plainCaption(const char* caption) { return QString(caption).remove('&').toStdString(); }
+
+// A label as it reads alone: "Gravity: " is "Gravity".
+std::string plainLabel(const PropertyRow& row) {
+    return QString(row.label != nullptr ? row.label : row.fixedTip).remove(": ").toStdString();
+}
 
 }  // namespace
 
@@ -46,8 +54,9 @@ void frmMain::buildMenus() {
         if (row.shortcut != nullptr) action->setShortcut(QKeySequence(row.shortcut));
         action->setCheckable(row.mark != nullptr);
         if (row.mark != nullptr) marks_.push_back({&row, action});
-        connect(action, &QAction::triggered, this,
-                [this, &row] { perform([&](Editor& ed, Host& host) { chooseMenu(ed, host, row); }); });
+        connect(action, &QAction::triggered, this, [this, &row] {
+            perform(plainCaption(row.caption), [&](Editor& ed, Host& host) { chooseMenu(ed, host, row); });
+        });
     }
 }
 
@@ -82,58 +91,75 @@ void frmMain::buildClient() {
 
 void frmMain::connectBars() {
     bars_.commandPressed = [this](const CommandRow& row) {
-        perform([&](Editor& ed, Host& host) { pressCommand(ed, host, row); });
+        perform(row.tip, [&](Editor& ed, Host& host) { pressCommand(ed, host, row); });
     };
     bars_.propertyPressed = [this](const PropertyRow& row) {
-        perform([&](Editor& ed, Host& host) { pressProperty(ed, host, row); });
+        perform(plainLabel(row), [&](Editor& ed, Host& host) { pressProperty(ed, host, row); });
     };
     bars_.presetChosen = [this](const PropertyRow& row, const std::string& text) {
-        perform([&](Editor& ed, Host& host) { choosePreset(ed, host, row, text); });
+        perform(plainLabel(row) + " " + text,
+                [&](Editor& ed, Host& host) { choosePreset(ed, host, row, text); });
     };
 }
 
 void frmMain::connectLists() {
-    bars_.lstSaved->lineEdit()->installEventFilter(this);
-    bars_.lstSaved->installEventFilter(this);
-    bars_.lstSprites->installEventFilter(this);
-    connect(bars_.lstSaved, &QComboBox::editTextChanged, this,
-            [this](const QString& text) { ed_.savedText = text.toStdString(); });
-    connect(bars_.lstSaved, &QComboBox::activated, this, [this](int entry) {
-        perform([&](Editor& ed, Host& host) { lstSaved_Click(ed, host, entry); });
-        picS_->setFocus();
+    ProjectList& list = *bars_.lstSaved;
+    connect(&list, &QComboBox::editTextChanged, this, [this](const QString& text) {
+        ed_.savedText = text.toStdString();
+        showTitle();
     });
+    list.chosen = [this](int entry) {
+        perform("Project opened", [&](Editor& ed, Host& host) { lstSaved_Click(ed, host, entry); });
+    };
+    list.entered = [this] { perform("Project saved", lstSaved_Enter); };
+    list.left = [this] { picS_->setFocus(); };
+    bars_.lstSprites->installEventFilter(this);
     connect(bars_.lstSprites, &QComboBox::activated, this, [this](int entry) {
-        perform([&](Editor& ed, Host&) {
+        perform("Sprite", [&](Editor& ed, Host&) {
             lstSprites_Click(ed, entry);
             DisplayScene(ed, -1, -1);
         });
     });
     Frame1_->pictureClicked = [this](int index) {
-        perform([&](Editor& ed, Host&) { imgSprite_Click(ed, index); });
+        perform("Sprite", [&](Editor& ed, Host&) { imgSprite_Click(ed, index); });
     };
 }
 
+void frmMain::connectUndo() {
+    menuBar()->setCornerWidget(undo_);
+    undo_->undo = [this] { follow([this](Editor& ed, Host&) { undoLast(ed, history_); }); };
+    undo_->redo = [this] { follow([this](Editor& ed, Host&) { redoNext(ed, history_); }); };
+}
+
 void frmMain::connectViews() {
-    const auto calls = [this](auto press, auto drag, auto release, auto twice) {
+    const auto calls = [this](const char* what, auto press, auto drag, auto release, auto twice) {
         MouseCalls mouse;
-        mouse.down = [this, press](int b, float x, float y) {
-            perform([&](Editor& ed, Host&) { press(ed, b, x, y); });
+        mouse.down = [this, what, press](int b, float x, float y) {
+            run(Event::mouse, what, [&](Editor& ed, Host&) { press(ed, b, x, y); });
         };
-        mouse.move = [this, drag](float x, float y) { perform([&](Editor& ed, Host&) { drag(ed, x, y); }); };
-        mouse.up = [this, release](int b, float x, float y) {
-            perform([&](Editor& ed, Host&) { release(ed, b, x, y); });
+        mouse.move = [this, what, drag](float x, float y) {
+            const auto move = [&](Editor& ed, Host&) { drag(ed, x, y); };
+            if (ed_.MouseIsDown || ed_.PhaseDragging)
+                run(Event::mouse, what, move);
+            else
+                follow(move);  // pointing alone costs nothing
         };
-        mouse.doubleClick = [this, twice] { perform([&](Editor& ed, Host&) { twice(ed); }); };
+        mouse.up = [this, what, release](int b, float x, float y) {
+            run(Event::mouse, what, [&](Editor& ed, Host&) { release(ed, b, x, y); });
+        };
+        mouse.doubleClick = [this, twice] {
+            run(Event::mouse, "Animator switched", [&](Editor& ed, Host&) { twice(ed); });
+        };
         return mouse;
     };
     picS_->mouse = calls(
-        picS_MouseDown, [](Editor& ed, float x, float y) { picS_MouseMove(ed, 0, x, y); }, picS_MouseUp,
-        picS_DblClick);
+        "Node moved", picS_MouseDown, [](Editor& ed, float x, float y) { picS_MouseMove(ed, 0, x, y); },
+        picS_MouseUp, picS_DblClick);
     picPhase_->mouse = calls(
-        picPhase_MouseDown, picPhase_MouseMove, [](Editor& ed, int, float, float) { picPhase_MouseUp(ed); },
-        picPhase_DblClick);
-    frmPath_->clicked = [this] { perform([](Editor& ed, Host&) { clearPath(ed); }); };
-    frmPath_->closed = [this] { perform([](Editor& ed, Host&) { ed.marks.mnuDisplayPath = false; }); };
+        "Phase turned", picPhase_MouseDown, picPhase_MouseMove,
+        [](Editor& ed, int, float, float) { picPhase_MouseUp(ed); }, picPhase_DblClick);
+    frmPath_->clicked = [this] { follow([](Editor& ed, Host&) { clearPath(ed); }); };
+    frmPath_->closed = [this] { follow([](Editor& ed, Host&) { ed.marks.mnuDisplayPath = false; }); };
     host_.placePathWindow = [this](bool visible) { placePathWindow(visible); };
     host_.layOutWindow = [this] { layOutWindow(); };
     host_.messageFetched = [this](const QString& text, const QString& problem) {
@@ -151,11 +177,13 @@ void frmMain::connectTimers() {
     Timer1_.setParent(this);
     Timer1_.setTimerType(Qt::PreciseTimer);
     connect(&Timer1_, &QTimer::timeout, this,
-            [this] { perform([](Editor& ed, Host&) { Timer1_Timer(ed); }); });
+            [this] { run(Event::timer, "", [](Editor& ed, Host&) { Timer1_Timer(ed); }); });
     timerFireWorks_.setObjectName("timerFireWorks");
     timerFireWorks_.setParent(this);
-    connect(&timerFireWorks_, &QTimer::timeout, this,
-            [this] { perform([](Editor& ed, Host&) { timerFireWorks_Timer(ed); }); });
+    connect(&timerFireWorks_, &QTimer::timeout, this, [this] {
+        if (ed_.Timer1.enabled)  // the show is part of the run
+            run(Event::timer, "", [](Editor& ed, Host&) { timerFireWorks_Timer(ed); });
+    });
 }
 
 }  // namespace zentrik

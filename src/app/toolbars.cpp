@@ -44,8 +44,9 @@ QToolBar* makeBar(const char* name, const char* title, QWidget& window) {
     return bar;
 }
 
-QComboBox* makeList(const char* name, const char* title, QWidget& window) {
-    auto* list = new QComboBox(&window);
+template <class List>
+List* makeList(const char* name, const char* title, QWidget& window) {
+    auto* list = new List(&window);
     list->setObjectName(name);
     list->setAccessibleName(title);
     list->setToolTip(title);
@@ -89,12 +90,9 @@ void fill(QComboBox& list, const std::vector<std::string>& names) {
 Toolbars::Toolbars(QWidget& window)
     : Toolbar1(makeBar("Toolbar1", "Commands", window)),
       Toolbar2(makeBar("Toolbar2", "Properties", window)),
-      lstSaved(makeList("lstSaved", "Projects: choose one, or type a name and press Enter to save", window)),
-      lstSprites(makeList("lstSprites", "Sprite of the selected node", window)) {
-    lstSaved->setEditable(true);
-    lstSaved->setInsertPolicy(QComboBox::NoInsert);
-    lstSaved->setCompleter(nullptr);
-    lstSaved->setDuplicatesEnabled(true);  // or Enter on a listed name would choose it instead of saving
+      lstSaved(makeList<ProjectList>("lstSaved",
+                                     "Projects: choose one, or type a name and press Enter to save", window)),
+      lstSprites(makeList<QComboBox>("lstSprites", "Sprite of the selected node", window)) {
     buildCommands();
     buildProperties();
     drawIcons();
@@ -167,7 +165,8 @@ void Toolbars::fit(int width) {
     };
     for (const CommandButton& it : commands_) size(*it.button, false);
     for (const PropertyButton& it : properties_) size(*it.button, it.row->style == ButtonStyle::dropDown);
-    for (QComboBox* list : {lstSaved, lstSprites}) list->setFixedWidth(large ? largeList : smallList);
+    for (QComboBox* list : {static_cast<QComboBox*>(lstSaved), lstSprites})
+        list->setFixedWidth(large ? largeList : smallList);
 }
 
 void Toolbars::show(const Editor& ed) {

@@ -1,4 +1,5 @@
 #pragma once
+#include "app/project_list.h"
 #include "ui/command_toolbar.h"
 #include "ui/property_toolbar.h"
 
@@ -26,7 +27,7 @@ public:
 
     QToolBar* const Toolbar1;
     QToolBar* const Toolbar2;
-    QComboBox* const lstSaved;
+    ProjectList* const lstSaved;
     QComboBox* const lstSprites;
 
     static constexpr int height = 34;  // of each bar, pixels

@@ -2,8 +2,11 @@
 // The two records a model is made of. Slot 0 of both arrays exists and is never used; a record is
 // present while Used is true. Fields stand in the order of the project file's columns.
 
+#include <concepts>
 #include <cstdint>
 #include <string>
+#include <tuple>
+#include <type_traits>
 
 namespace zentrik {
 
@@ -59,5 +62,23 @@ struct alignas(64) Link {
     float Res5 = 0;
     bool Res6 = false;
 };
+
+// All fields of a record in two groups, for whoever keeps or compares whole records: what a project
+// means, and the traces that gestures, object commands and the phase strip leave in it.
+template <class T, class Record>
+concept RecordLike = std::same_as<std::remove_const_t<T>, Record>;
+
+auto meaningOf(RecordLike<Node> auto& n) {
+    return std::tie(n.Used, n.X, n.Y, n.Vx, n.Vy, n.Fx, n.Fy, n.Mass, n.Locked, n.Gravity, n.Vxo, n.Vyo,
+                    n.Rotate, n.Sprite, n.SpriteIndex, n.color, n.Res1, n.Res2, n.Res4, n.Res5, n.Res6,
+                    n.Res7, n.Res8);
+}
+auto tracesOf(RecordLike<Node> auto& n) { return std::tie(n.JustReleased, n.BeingDragged, n.Res3); }
+
+auto meaningOf(RecordLike<Link> auto& l) {
+    return std::tie(l.Used, l.N1, l.N2, l.RestLength, l.CurrentLength, l.k, l.Animator, l.Angle, l.Force,
+                    l.Barrier, l.Res2, l.Res5, l.Res6);
+}
+auto tracesOf(RecordLike<Link> auto& l) { return std::tie(l.Res1, l.Res3, l.Res4); }
 
 }  // namespace zentrik

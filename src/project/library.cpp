@@ -70,6 +70,7 @@ void handOver(Editor& ed, Host& host, Project project) {
     for (Node& node : project.Nodes) node.SpriteIndex = spriteEntryOf(ed, node.Sprite);
     ed.Nodes = std::move(project.Nodes);
     ed.Links = std::move(project.Links);
+    ++ed.filedCount;
 }
 
 void showNewModel(Editor& ed) {
@@ -155,12 +156,15 @@ void lstSaved_Enter(Editor& ed, Host& host) {
     const std::string typed = ed.savedText;
     const std::size_t first = typed.find_first_not_of(' ');
     const std::size_t last = typed.find_last_not_of(' ');
-    SaveFile(ed, host, first == std::string::npos ? "" : typed.substr(first, last - first + 1));
+    if (SaveFile(ed, host, first == std::string::npos ? "" : typed.substr(first, last - first + 1)))
+        ++ed.filedCount;
     LoadListOfFileNames(ed, host, false);
     ed.savedText = typed;
 }
 
-void saveProject(Editor& ed, Host& host) { SaveFile(ed, host, ed.savedText); }
+void saveProject(Editor& ed, Host& host) {
+    if (SaveFile(ed, host, ed.savedText)) ++ed.filedCount;
+}
 
 void reloadProject(Editor& ed, Host& host) {
     // A name mistyped must not cost the person the present model.

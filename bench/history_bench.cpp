@@ -1,0 +1,66 @@
+// What keeping the history adds to an event, and what a step back costs. Argument: nodes.
+
+#include "history/history.h"
+#include "scenes/scenes.h"
+
+#include <benchmark/benchmark.h>
+
+namespace zentrik {
+namespace {
+
+struct Model {
+    Editor ed;
+    History history;
+
+    explicit Model(benchmark::State& state) : ed(scenes::latticeOf(static_cast<int>(state.range(0)))) {
+        startHistory(history, ed);
+    }
+    void moveAll(int distance) {
+        for (Node& node : ed.Nodes) node.X += distance;
+    }
+    void record(int moved) {
+        beginEvent(history, ed, Event::command);
+        moveAll(moved);
+        endEvent(history, ed, Event::command, "Moved");
+    }
+};
+
+void eventWithoutChange(benchmark::State& state) {
+    Model model(state);
+    for (auto _ : state) model.record(0);
+}
+void oneNodeMoved(benchmark::State& state) {
+    Model model(state);
+    for (auto _ : state) {
+        beginEvent(model.history, model.ed, Event::command);
+        ++model.ed.Nodes[1].X;
+        endEvent(model.history, model.ed, Event::command, "Moved");
+    }
+    state.counters["bytes_a_step"] =
+        static_cast<double>(bytesOf(model.history)) / static_cast<double>(model.history.done.size());
+}
+void everyNodeMoved(benchmark::State& state) {
+    Model model(state);
+    for (auto _ : state) model.record(15);
+}
+void everyNodeMovedWithoutHistory(benchmark::State& state) {
+    Model model(state);
+    for (auto _ : state) model.moveAll(15);
+}
+void undoAndRedo(benchmark::State& state) {
+    Model model(state);
+    model.record(15);
+    for (auto _ : state) {
+        stepBack(model.history, model.ed);
+        stepForth(model.history, model.ed);
+    }
+}
+
+BENCHMARK(eventWithoutChange)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(oneNodeMoved)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(everyNodeMoved)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(everyNodeMovedWithoutHistory)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(undoAndRedo)->Arg(10000)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace zentrik

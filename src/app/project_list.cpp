@@ -1,0 +1,77 @@
+#include "app/project_list.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace zentrik {
+
+ProjectList::ProjectList(QWidget* parent) : QComboBox(parent) {
+    setEditable(true);
+    setInsertPolicy(QComboBox::NoInsert);
+    setCompleter(nullptr);
+    setDuplicatesEnabled(true);  // or Enter on a listed name would choose it instead of saving
+    // Leaving the line would choose the entry that has its text, and so load a project over the model.
+    lineEdit()->disconnect(SIGNAL(editingFinished()), this);
+    lineEdit()->installEventFilter(this);
+    installEventFilter(this);
+    connect(this, &QComboBox::activated, this, [this](int entry) {
+        chosen(entry);
+        left();
+    });
+}
+
+// The opened list stands on the entry that the text names.
+void ProjectList::showPopup() {
+    const QString text = currentText();
+    const QSignalBlocker quiet(this);
+    setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    setEditText(text);
+    QComboBox::showPopup();
+}
+
+// A wheel turned over the closed list would load another project over the one being drawn.
+void ProjectList::wheelEvent(QWheelEvent* event) { event->accept(); }
+
+bool ProjectList::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::ShortcutOverride: {
+            // While a name is typed, no key is a shortcut of the menus; Alt still opens them.
+            auto* key = static_cast<QKeyEvent*>(event);
+            const bool menu = key->modifiers().testFlag(Qt::AltModifier) && key->key() != Qt::Key_Backspace;
+            event->setAccepted(!menu);
+            return true;
+        }
+        case QEvent::KeyPress:
+            return keyPressed(static_cast<QKeyEvent*>(event)->key());
+        case QEvent::FocusIn:
+            if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) former_ = currentText();
+            return false;
+        default:
+            return QComboBox::eventFilter(watched, event);
+    }
+}
+
+// Keys that do not edit the text. True for those.
+bool ProjectList::keyPressed(int key) {
+    switch (key) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            entered();
+            left();
+            return true;
+        case Qt::Key_Escape:
+            setEditText(former_);
+            left();
+            return true;
+        case Qt::Key_Up:
+        case Qt::Key_Down:  // show the names instead of loading the next one over the model
+        case Qt::Key_F4:
+            showPopup();
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace zentrik

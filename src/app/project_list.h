@@ -1,0 +1,29 @@
+#pragma once
+#include <QComboBox>
+#include <functional>
+
+namespace zentrik {
+
+// lstSaved: the names of the projects, and a line to type one into. Only an entry chosen in the opened
+// list is a choice; whatever is typed stays typed until it is saved under, or Escape takes it back.
+class ProjectList : public QComboBox {
+public:
+    explicit ProjectList(QWidget* parent);
+
+    std::function<void(int entry)> chosen;
+    std::function<void()> entered;  // Enter in the line
+    std::function<void()> left;     // the keyboard belongs to the scene again
+
+    void showPopup() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    QString former_;  // the text that Escape brings back
+
+    bool keyPressed(int key);
+};
+
+}  // namespace zentrik

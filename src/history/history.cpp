@@ -1,0 +1,183 @@
+#include "history/history.h"
+
+#include "model/store.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace zentrik {
+
+namespace {
+
+using Going = History::Going;
+
+constexpr const char* runName = "Animation run";
+
+Context contextOf(const Editor& ed) {
+    return {ed.SelectedNode, ed.SelectedLink, ed.SelectedAnimatorLink, ed.savedText};
+}
+
+std::size_t bytesOf(const Step& step) {
+    return sizeof step + step.difference.size() + step.what.size() + 2 * step.before.savedText.size();
+}
+
+// Oldest first; what was undone last is the last to go.
+void forgetTheOldest(History& history) {
+    std::size_t bytes = zentrik::bytesOf(history);
+    while (bytes > historyLimit && history.done.size() > 1) {
+        bytes -= bytesOf(history.done.front());
+        history.done.pop_front();
+    }
+}
+
+// Makes whatever changed since the newest step a step. False when nothing did.
+bool record(History& history, const Editor& ed, const std::string& what) {
+    std::optional<Difference> difference = differenceBetween(history.shown, ed);
+    if (!difference) return false;
+    apply(*difference, Way::forth, history.shown);
+    const std::uint64_t from = std::exchange(history.state, ++history.newest);
+    history.done.push_back(
+        {what, history.context, contextOf(ed), *std::move(difference), from, history.state});
+    history.context = contextOf(ed);
+    history.undone.clear();
+    forgetTheOldest(history);
+    return true;
+}
+
+// The newest step is a run that goes on: as if it had not been made one.
+void reopenRun(History& history) {
+    apply(history.done.back().difference, Way::back, history.shown);
+    history.state = history.done.back().from;
+    history.context = history.done.back().before;
+    history.done.pop_back();
+    history.going = Going::run;
+}
+
+// What a mouse gesture did, told from what it left.
+std::string gestureName(const Contents& before, const Editor& ed, const std::string& otherwise) {
+    if (ed.Nodes.size() > before.Nodes.size()) return "Node " + std::to_string(lastNode(ed)) + " added";
+    if (ed.Links.size() > before.Links.size()) return "Link " + std::to_string(lastLink(ed)) + " added";
+    const auto used = [](const Node& node) { return node.Used; };
+    if (UsedNodes(ed) < std::count_if(before.Nodes.begin(), before.Nodes.end(), used)) return "Node removed";
+    return otherwise;
+}
+
+std::string commandName(const History& history, const Editor& ed, const std::string& otherwise) {
+    constexpr std::size_t longest = 80;
+    std::string text = ed.panels[4];
+    if (text.empty() || text == history.said || text.starts_with("H: ") || text.size() > longest)
+        return otherwise;
+    while (text.ends_with('!')) text.pop_back();
+    return text;
+}
+
+void endTick(History& history, const Editor& ed) {
+    if (history.going == Going::drag) return;
+    history.going = Going::run;
+    if (!ed.Timer1.enabled) closeStep(history, ed);
+}
+
+void endGesture(History& history, const Editor& ed, const std::string& what) {
+    const bool held = ed.MouseIsDown || ed.PhaseDragging;
+    if (history.going == Going::drag && held) return;
+    history.going = Going::nothing;
+    if (!held) {
+        record(history, ed, gestureName(history.shown, ed, what));
+    } else if (differenceBetween(history.shown, ed)) {
+        history.going = Going::drag;  // one step, at its release
+    }
+}
+
+}  // namespace
+
+void startHistory(History& history, const Editor& ed) {
+    history = History{};
+    copyContents(history.shown, ed);
+    history.context = contextOf(ed);
+    history.filed[ed.savedText] = history.state;
+    history.filedCount = ed.filedCount;
+}
+
+void beginEvent(History& history, const Editor& ed, Event event) {
+    history.said = ed.panels[4];
+    history.stepped = false;
+    if (event == Event::timer) {
+        if (history.going == Going::nothing) history.context = contextOf(ed);
+        return;
+    }
+    const bool running = history.going == Going::run;
+    if (running || event == Event::command) {
+        const std::uint64_t before = history.state;
+        closeStep(history, ed);
+        history.stepped = running && history.state != before;
+    }
+    if (history.going == Going::nothing) history.context = contextOf(ed);
+}
+
+void endEvent(History& history, const Editor& ed, Event event, const std::string& what) {
+    if (event == Event::timer) return endTick(history, ed);
+    const std::uint64_t before = history.state;
+    if (event == Event::mouse)
+        endGesture(history, ed, what);
+    else
+        record(history, ed, commandName(history, ed, what));
+
+    const bool filed = std::exchange(history.filedCount, ed.filedCount) != ed.filedCount;
+    if (filed) history.filed[ed.savedText] = history.state;
+    const bool changed = history.state != before || history.going != Going::nothing;
+    if (history.stepped && !changed && !filed && ed.Timer1.enabled) reopenRun(history);
+}
+
+void closeStep(History& history, const Editor& ed) {
+    const Going going = std::exchange(history.going, Going::nothing);
+    if (going == Going::nothing) return;
+    record(history, ed, going == Going::run ? runName : gestureName(history.shown, ed, "Node moved"));
+}
+
+namespace {
+
+void showState(History& history, Editor& ed, const Context& context, std::uint64_t state) {
+    copyContents(ed, history.shown);
+    ed.SelectedNode = context.SelectedNode;
+    ed.SelectedLink = context.SelectedLink;
+    ed.SelectedAnimatorLink = context.SelectedAnimatorLink;
+    ed.HoverNode = ed.HoverLink = none;
+    ed.savedText = context.savedText;
+    history.context = context;
+    history.state = state;
+}
+
+}  // namespace
+
+void stepBack(History& history, Editor& ed) {
+    if (history.done.empty()) return;
+    Step step = std::move(history.done.back());
+    history.done.pop_back();
+    apply(step.difference, Way::back, history.shown);
+    showState(history, ed, step.before, step.from);
+    history.undone.push_back(std::move(step));
+}
+
+void stepForth(History& history, Editor& ed) {
+    if (history.undone.empty()) return;
+    Step step = std::move(history.undone.back());
+    history.undone.pop_back();
+    apply(step.difference, Way::forth, history.shown);
+    showState(history, ed, step.after, step.to);
+    history.done.push_back(std::move(step));
+}
+
+bool isModified(const History& history, const Editor& ed) {
+    if (history.going != Going::nothing) return true;
+    const auto file = history.filed.find(ed.savedText);
+    return file == history.filed.end() || file->second != history.state;
+}
+
+std::size_t bytesOf(const History& history) {
+    std::size_t bytes = 0;
+    for (const std::deque<Step>* steps : {&history.done, &history.undone})
+        for (const Step& step : *steps) bytes += bytesOf(step);
+    return bytes;
+}
+
+}  // namespace zentrik

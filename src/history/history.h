@@ -1,0 +1,70 @@
+#pragma once
+// Undo and redo: a record of steps, and the procedures that keep it. A step is what one event changed;
+// a drag from press to release is one, and so is what a run moved. Saving is none.
+//
+// The window calls beginEvent before and endEvent after everything a person or a timer starts.
+
+#include "history/difference.h"
+
+#include <cstdint>
+#include <deque>
+#include <map>
+
+namespace zentrik {
+
+inline constexpr std::size_t historyLimit = 64U << 20;  // bytes of all steps; the newest always stays
+
+// What comes back beside the model.
+struct Context {
+    std::int32_t SelectedNode = none, SelectedLink = none, SelectedAnimatorLink = none;
+    std::string savedText;  // the project list's text
+};
+
+struct Step {
+    std::string what;  // for a person: "All nodes removed"
+    Context before, after;
+    Difference difference;
+    std::uint64_t from = 0, to = 0;  // the states it leads between, see History::state
+};
+
+enum class Event {
+    command,  // a menu entry, a button, a choice in a list
+    mouse,    // a press, a drag, a release, a double click
+    timer,
+};
+
+struct History {
+    std::deque<Step> done, undone;  // the next one to undo or redo is the last
+    Contents shown;                 // the model as the newest step left it
+    std::uint64_t state = 0;        // number of that state; no two states share one
+    std::uint64_t newest = 0;       // the highest number given
+
+    // The state that each project's file holds, by the project's name.
+    std::map<std::string, std::uint64_t> filed;
+    std::int32_t filedCount = 0;
+
+    // What has changed since then and goes on changing.
+    enum class Going { nothing, run, drag } going = Going::nothing;
+    bool stepped = false;  // a run that goes on was made a step for the event at hand
+    Context context;       // as it was when nothing was going on
+    std::string said;      // status panel 5 before the event
+};
+
+// Forgets all steps; the model as it stands is the first state, and counts as filed.
+void startHistory(History& history, const Editor& ed);
+
+void beginEvent(History& history, const Editor& ed, Event event);
+// what: names the step where the event itself did not say in status panel 5 what it did.
+void endEvent(History& history, const Editor& ed, Event event, const std::string& what);
+
+// Makes what is going on a step, so that it can be undone.
+void closeStep(History& history, const Editor& ed);
+// Both take the model to another state and do nothing where there is none. Nothing may be going on.
+void stepBack(History& history, Editor& ed);
+void stepForth(History& history, Editor& ed);
+
+// Whether the model is another than that in the file of the project the list names.
+bool isModified(const History& history, const Editor& ed);
+std::size_t bytesOf(const History& history);
+
+}  // namespace zentrik

@@ -1,0 +1,18 @@
+#pragma once
+// A random walk of commands, gestures, ticks, loads, undo and redo through a model, and the proof that
+// undoing everything gives the first model bit for bit and redoing everything the last.
+
+#include <cstdint>
+#include <string>
+
+namespace zentrik {
+
+// programFolder holds projects to load; nothing in it is changed. Gives what went wrong in words, or the
+// empty text. The same seed gives the same walk.
+std::string undoWalk(std::uint32_t seed, int events, const std::string& programFolder);
+
+// Every field of the model and of the settings a project carries, as bytes.
+struct Editor;
+std::string imageOf(const Editor& ed);
+
+}  // namespace zentrik
