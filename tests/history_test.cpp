@@ -202,15 +202,20 @@ TEST_F(Undo, KeepsDifferencesWithinItsLimit) {
     startHistory(history_, ed_);
     drag(static_cast<float>(ed_.Nodes[500].X), static_cast<float>(ed_.Nodes[500].Y), 9000, 9000);
     ASSERT_EQ(history_.done.size(), 1U);
-    EXPECT_LT(bytesOf(history_), 1000U);
+    EXPECT_LT(history_.bytes, 1000U);
     for (int i = 0; i < 400; ++i) press(i % 2 == 0 ? "up" : "increase");
-    EXPECT_LE(bytesOf(history_), historyLimit);
+    EXPECT_LE(history_.bytes, historyLimit);
     EXPECT_LT(history_.done.size(), 400U) << "the oldest are gone";
     const std::size_t kept = history_.done.size();
     EXPECT_GT(kept, 20U);
     while (!history_.done.empty()) stepBack(history_, ed_);
     while (!history_.undone.empty()) stepForth(history_, ed_);
     EXPECT_EQ(history_.done.size(), kept);
+    undo();
+    choose("mnuLockAll");
+    while (history_.done.size() > 1) stepBack(history_, ed_);
+    choose("mnuLockAll");
+    EXPECT_LT(history_.bytes, historyLimit / 10) << "what cannot be redone any more takes no room";
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#include <utility>
 
 namespace zentrik {
 
@@ -25,13 +26,21 @@ bool same(const T& a, const T& b) {
     return a == b;
 }
 
-// Calls visit(bit, a, b) for every pair of fields of two alike tuples of references.
+// Calls visit(bit, a, b) for every pair of fields of two alike tuples of references, until it gives false.
 template <class A, class B, class Visit>
 void forEachPair(const A& a, const B& b, Visit visit) {
     Number bit = 1;
-    const auto step = [&](auto& x, auto& y) { visit(bit, x, y), bit <<= 1; };
-    [&]<std::size_t... i>(std::index_sequence<i...>) { (step(std::get<i>(a), std::get<i>(b)), ...); }
+    const auto step = [&](auto& x, auto& y) { return visit(std::exchange(bit, bit << 1), x, y); };
+    [&]<std::size_t... i>(std::index_sequence<i...>) { (step(std::get<i>(a), std::get<i>(b)) && ...); }
     (std::make_index_sequence<std::tuple_size_v<A>>());
+}
+// The same for the fields that a mask names, and no further than the last of them.
+template <class A, class B, class Visit>
+void forEachPairOf(Number mask, const A& a, const B& b, Visit visit) {
+    forEachPair(a, b, [&](Number bit, auto& x, auto& y) {
+        if ((mask & bit) != 0) visit(x, y);
+        return mask >= bit << 1;
+    });
 }
 
 template <class T>
@@ -75,24 +84,34 @@ private:
 template <class Fields>
 Number putFields(Difference& out, Number slot, const Fields& from, const Fields& to) {
     Number changed = 0;
-    forEachPair(from, to, [&](Number bit, auto& a, auto& b) { changed |= same(a, b) ? 0 : bit; });
+    forEachPair(from, to, [&](Number bit, auto& a, auto& b) {
+        changed |= same(a, b) ? 0 : bit;
+        return true;
+    });
     if (changed == 0) return 0;
     put(out, slot);
     put(out, changed);
-    forEachPair(from, to, [&](Number bit, auto& a, auto& b) {
-        if ((changed & bit) != 0) put(out, a), put(out, b);
-    });
+    forEachPairOf(changed, from, to, [&](auto& a, auto& b) { put(out, a), put(out, b); });
     return changed;
 }
 
 template <class Fields>
 void takeFields(Taker& in, Way way, const Fields& fields) {
     const auto changed = in.taken<Number>();
-    forEachPair(fields, fields, [&](Number bit, auto& field, auto&) {
-        if ((changed & bit) == 0) return;
+    forEachPairOf(changed, fields, fields, [&](auto& field, auto&) {
         auto other = field;
         way == Way::back ? (in.take(field), in.take(other)) : (in.take(other), in.take(field));
     });
+}
+
+// A quick look that spares most records the comparison of their fields. Padding may differ where no field
+// does.
+template <class Record>
+bool sameBytes(const Record& a, const Record& b) {
+    if constexpr (std::is_trivially_copyable_v<Record>)
+        return std::memcmp(&a, &b, sizeof a) == 0;
+    else
+        return false;
 }
 
 // Appends what differs between two arrays. True when it is more than traces.
@@ -106,8 +125,9 @@ bool putRecords(Difference& out, const std::vector<Record>& from, const std::vec
         return i < records.size() ? records[i] : empty;
     };
     for (std::size_t i = 0; i < std::max(from.size(), to.size()); ++i) {
-        const Number changed =
-            putFields(out, static_cast<Number>(i), fieldsOf(at(from, i)), fieldsOf(at(to, i)));
+        const Record &a = at(from, i), &b = at(to, i);
+        if (sameBytes(a, b)) continue;
+        const Number changed = putFields(out, static_cast<Number>(i), fieldsOf(a), fieldsOf(b));
         meant |= (changed & meaningMask<const Record>) != 0;
     }
     put(out, endOfRecords);

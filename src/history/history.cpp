@@ -21,13 +21,13 @@ std::size_t bytesOf(const Step& step) {
     return sizeof step + step.difference.size() + step.what.size() + 2 * step.before.savedText.size();
 }
 
-// Oldest first; what was undone last is the last to go.
+void forget(History& history, std::deque<Step>& steps) {
+    for (; !steps.empty(); steps.pop_back()) history.bytes -= bytesOf(steps.back());
+}
+
 void forgetTheOldest(History& history) {
-    std::size_t bytes = zentrik::bytesOf(history);
-    while (bytes > historyLimit && history.done.size() > 1) {
-        bytes -= bytesOf(history.done.front());
-        history.done.pop_front();
-    }
+    for (; history.bytes > historyLimit && history.done.size() > 1; history.done.pop_front())
+        history.bytes -= bytesOf(history.done.front());
 }
 
 // Makes whatever changed since the newest step a step. False when nothing did.
@@ -38,8 +38,9 @@ bool record(History& history, const Editor& ed, const std::string& what) {
     const std::uint64_t from = std::exchange(history.state, ++history.newest);
     history.done.push_back(
         {what, history.context, contextOf(ed), *std::move(difference), from, history.state});
+    history.bytes += bytesOf(history.done.back());
     history.context = contextOf(ed);
-    history.undone.clear();
+    forget(history, history.undone);
     forgetTheOldest(history);
     return true;
 }
@@ -49,6 +50,7 @@ void reopenRun(History& history) {
     apply(history.done.back().difference, Way::back, history.shown);
     history.state = history.done.back().from;
     history.context = history.done.back().before;
+    history.bytes -= bytesOf(history.done.back());
     history.done.pop_back();
     history.going = Going::run;
 }
@@ -171,13 +173,6 @@ bool isModified(const History& history, const Editor& ed) {
     if (history.going != Going::nothing) return true;
     const auto file = history.filed.find(ed.savedText);
     return file == history.filed.end() || file->second != history.state;
-}
-
-std::size_t bytesOf(const History& history) {
-    std::size_t bytes = 0;
-    for (const std::deque<Step>* steps : {&history.done, &history.undone})
-        for (const Step& step : *steps) bytes += bytesOf(step);
-    return bytes;
 }
 
 }  // namespace zentrik

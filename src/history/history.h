@@ -35,6 +35,7 @@ enum class Event {
 
 struct History {
     std::deque<Step> done, undone;  // the next one to undo or redo is the last
+    std::size_t bytes = 0;          // of both
     Contents shown;                 // the model as the newest step left it
     std::uint64_t state = 0;        // number of that state; no two states share one
     std::uint64_t newest = 0;       // the highest number given
@@ -65,6 +66,5 @@ void stepForth(History& history, Editor& ed);
 
 // Whether the model is another than that in the file of the project the list names.
 bool isModified(const History& history, const Editor& ed);
-std::size_t bytesOf(const History& history);
 
 }  // namespace zentrik
