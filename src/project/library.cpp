@@ -2,12 +2,10 @@
 
 #include "model/addresses.h"
 #include "model/host.h"
-#include "model/numbers.h"
-#include "model/rate.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
-#include "project/reader.h"
+#include "project/open.h"
 #include "project/write_file.h"
 #include "project/writer.h"
 #include "project/zoo.h"
@@ -42,34 +40,18 @@ std::string storeProject(Editor& ed, const std::string& name) {
     return {};
 }
 
-void applyGlobal(Editor& ed, Host& host, const GlobalSettings& global) {
-    ed.Gravity = global.Gravity;
-    ed.Friction = global.Friction;
-    ed.Viscosity = global.Viscosity;
-    ed.LeftWind = global.LeftWind;
-    ed.Bounce = global.Bounce;
-    ed.TimeInterval = global.TimeInterval;
-    // A period the timer cannot take leaves its period unchanged, as everywhere.
-    setRate(ed, global.timerPeriod);
-    ed.DeltaAngle = global.DeltaAngle;
-    if (ed.marks.mnuAutoWindowSize) {
-        const double width = global.sceneWidth, height = global.sceneHeight;
-        const bool wider = ed.sceneWidth < width, higher = ed.sceneHeight < height;
-        if (wider || higher)
-            host.resizeWindow(wider ? toInt(width + 100) : -1, higher ? toInt(height + 2000) : -1);
-    }
-    ed.AnimationTime = global.AnimationTime;
+ProjectFile readNamed(const Editor& ed, const std::string& name) {
+    return readProject(projectPath(ed.programFolder, name), fileText(name));
 }
 
-// The window is resized while the arrays are empty, so that laying it out touches no loaded record.
-void handOver(Editor& ed, Host& host, Project project) {
-    ed.ProjectTitle = std::move(project.title);
-    ed.Nodes.assign(1, Node{});
-    ed.Links.assign(1, Link{});
-    if (project.global) applyGlobal(ed, host, *project.global);
-    for (Node& node : project.Nodes) node.SpriteIndex = spriteEntryOf(ed, node.Sprite);
-    ed.Nodes = std::move(project.Nodes);
-    ed.Links = std::move(project.Links);
+// What is no project at all leaves an empty scene.
+void takePlace(Editor& ed, Host& host, ProjectFile file) {
+    ClearAnimation(ed);
+    if (file.project)
+        handOver(ed, host, std::move(*file.project));
+    else
+        tellProblem(host, file);
+    showCounts(ed);
 }
 
 void showNewModel(Editor& ed) {
@@ -116,16 +98,11 @@ bool SaveFile(Editor& ed, Host& host, const std::string& name) {
 
 void OpenFile(Editor& ed, Host& host, const std::string& name) {
     if (const std::string problem = nameProblem(name); !problem.empty()) return tell(host, problem);
-    const FileBytes file = readProjectFile(projectPath(ed.programFolder, name));
-    if (!file.problem.empty()) return tell(host, fileText(name) + " could not be read.\n" + file.problem);
-
-    Reading reading = parseProject(file.bytes);
-    const auto& problem = reading.problem;
-    if (problem && problem->line == 0) return tell(host, problem->text, BoxIcon::plain);
-    if (reading.project) handOver(ed, host, std::move(*reading.project));
-    if (problem)
-        tell(host, fileText(name) + ", line " + std::to_string(problem->line) + ": " + problem->text +
-                       (reading.project ? "\nThe lines before it were loaded." : ""));
+    ProjectFile file = readNamed(ed, name);
+    if (file.project)
+        handOver(ed, host, std::move(*file.project));
+    else
+        tellProblem(host, file);
 }
 
 void LoadListOfFileNames(Editor& ed, Host& host, bool UseResume) {
@@ -141,13 +118,15 @@ void LoadListOfFileNames(Editor& ed, Host& host, bool UseResume) {
 }
 
 void lstSaved_Click(Editor& ed, Host& host, std::int32_t entry) {
-    const bool selected = entry >= 0 && std::cmp_less(entry, ed.savedNames.size());
-    if (selected) ed.savedText = ed.savedNames[static_cast<std::size_t>(entry)];
-    ClearAnimation(ed);
-    if (selected) {
-        OpenFile(ed, host, ed.savedText);
-        showCounts(ed);
+    if (entry < 0 || !std::cmp_less(entry, ed.savedNames.size())) {
+        ClearAnimation(ed);
+        return showNewModel(ed);
     }
+    const std::string name = ed.savedNames[static_cast<std::size_t>(entry)];
+    ProjectFile file = readNamed(ed, name);
+    if (!file.project && !file.foreign) return tellProblem(host, file);
+    ed.savedText = name;
+    takePlace(ed, host, std::move(file));
     showNewModel(ed);
 }
 
@@ -163,14 +142,10 @@ void lstSaved_Enter(Editor& ed, Host& host) {
 void saveProject(Editor& ed, Host& host) { SaveFile(ed, host, ed.savedText); }
 
 void reloadProject(Editor& ed, Host& host) {
-    // A name mistyped must not cost the person the present model.
-    std::error_code error;
-    const bool there =
-        nameProblem(ed.savedText).empty() && fs::exists(projectPath(ed.programFolder, ed.savedText), error);
-    if (!there) return OpenFile(ed, host, ed.savedText);
-    ClearAnimation(ed);
-    OpenFile(ed, host, ed.savedText);
-    showCounts(ed);
+    if (const std::string problem = nameProblem(ed.savedText); !problem.empty()) return tell(host, problem);
+    ProjectFile file = readNamed(ed, ed.savedText);
+    if (!file.project && !file.foreign) return tellProblem(host, file);
+    takePlace(ed, host, std::move(file));
     showClock(ed);
     showNewModel(ed);
 }
