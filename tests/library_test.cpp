@@ -168,17 +168,27 @@ TEST_F(Library, LoadsSettingsSpritesAndWindowSize) {
     EXPECT_EQ(lastNode(ed), 0);
 }
 
-TEST_F(Library, SavingListsANewNameOnce) {
+TEST_F(Library, SavingListsANewNameOnceAndSaysWhichWasUsed) {
     ed.savedText = " new ";
     saveProject(ed, host);
+    EXPECT_EQ(ed.panels[4], "Project \" new \" saved, with the blanks around its name!");
     saveProject(ed, host);
     EXPECT_EQ(ed.savedNames, std::vector<std::string>{" new "});
+    EXPECT_EQ(host.transcript, "");
     scenes::addNode(ed, 1, 1);
-    lstSaved_Enter(ed, host);
-    EXPECT_EQ(ed.savedText, " new ");
+    const std::string twins =
+        "message: The project was saved as \"new\".\n"
+        "\" new \", which differs in blanks only, is another project.|Zentrik\n";
+    for (int i = 0; i < 2; ++i) {
+        lstSaved_Enter(ed, host);
+        EXPECT_EQ(ed.savedText, " new ");
+        EXPECT_EQ(ed.panels[4], "Project \"new\" saved, without the blanks around what was typed!");
+        EXPECT_EQ(host.transcript, twins) << "said once, when the second comes to be";
+    }
     EXPECT_EQ(ed.savedNames, (std::vector<std::string>{" new ", "new"}));
     EXPECT_EQ(contentOf(file("new")), projectBytes(ed));
-    EXPECT_EQ(host.transcript, "");
+    EXPECT_TRUE(SaveFile(ed, host, "new"));
+    EXPECT_EQ(ed.panels[4], "Project new saved!");
 }
 
 TEST_F(Library, RefusesNamesThatAreNoProjects) {

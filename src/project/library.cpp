@@ -5,8 +5,10 @@
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
+#include "project/backups.h"
 #include "project/open.h"
 #include "project/write_file.h"
+#include "project/write_target.h"
 #include "project/writer.h"
 #include "project/zoo.h"
 
@@ -26,18 +28,34 @@ void tell(Host& host, const std::string& text, BoxIcon icon = BoxIcon::exclamati
 
 std::string fileText(const std::string& name) { return "zoo/" + name + ".bot"; }
 
-// Writes the project's file and lists a new name. Gives the problem in words, or the empty text.
-std::string storeProject(Editor& ed, const std::string& name) {
-    if (std::string problem = nameProblem(name); !problem.empty()) return problem;
-    const fs::path path = projectPath(ed.programFolder, name);
+struct Stored {
+    bool done = false, isNew = false;
+    std::string problem;  // in words, unless the person has been asked about it
+};
+
+// The former file of the project is kept before it is replaced, or the person knows that it is not.
+bool formerIsSafe(const Editor& ed, Host& host, const std::string& name, const std::string& bytes) {
+    const std::string problem = keepFormer(ed.programFolder, name, bytes);
+    return problem.empty() || host.confirm("The former version of " + fileText(name) +
+                                               " could not be kept.\n" + problem + "\nSave all the same?",
+                                           "Zentrik");
+}
+
+// Writes the project's file and lists a new name.
+Stored storeProject(Editor& ed, Host& host, const std::string& name) {
+    if (std::string problem = nameProblem(name); !problem.empty()) return {false, false, std::move(problem)};
+    const std::string path = pathText(projectPath(ed.programFolder, name));
     std::error_code error;
-    const bool existed = fs::exists(path, error);
     fs::create_directory(zooFolder(ed.programFolder), error);  // one that is missing for good fails the write
-    if (std::string problem = writeFile(pathText(path), projectBytes(ed)); !problem.empty())
-        return fileText(name) + " could not be saved.\n" + problem;
+    const WriteTarget target = writeTarget(path, ed.programFolder);
+    std::string problem = target.problem;
+    const std::string bytes = projectBytes(ed);
+    if (problem.empty() && !formerIsSafe(ed, host, name, bytes)) return {};
+    if (problem.empty()) problem = writeFile(path, bytes, ed.programFolder);
+    if (!problem.empty()) return {false, false, fileText(name) + " could not be saved.\n" + problem};
     const bool listed = std::find(ed.savedNames.begin(), ed.savedNames.end(), name) != ed.savedNames.end();
-    if (!existed && !listed) ed.savedNames.push_back(name);
-    return {};
+    if (!target.exists && !listed) ed.savedNames.push_back(name);
+    return {true, !target.exists, ""};
 }
 
 ProjectFile readNamed(const Editor& ed, const std::string& name) {
@@ -75,7 +93,7 @@ std::string percentEncoded(const std::string& text) {
 }
 
 bool exportMail(Editor& ed, Host& host) {
-    if (!storeProject(ed, "email").empty()) return false;
+    if (!storeProject(ed, host, "email").done) return false;
     const FileBytes file = readProjectFile(projectPath(ed.programFolder, "email"));
     if (!file.problem.empty() || !host.setClipboard(file.bytes)) return false;
     const std::string body =
@@ -85,15 +103,30 @@ bool exportMail(Editor& ed, Host& host) {
                             "?subject=Zentrik&body=" + percentEncoded(body));
 }
 
+std::string withoutOuterBlanks(const std::string& text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+// Blanks around a name are hardly seen, but make another file.
+void saySaved(Editor& ed, Host& host, const std::string& name, bool isNew) {
+    const std::string core = withoutOuterBlanks(name);
+    panel(ed, 5) = core == name ? "Project " + name + " saved!"
+                                : "Project \"" + name + "\" saved, with the blanks around its name!";
+    if (!isNew) return;
+    for (const std::string& other : ed.savedNames)
+        if (other != name && withoutOuterBlanks(other) == core)
+            return tell(host, "The project was saved as \"" + name + "\".\n\"" + other +
+                                  "\", which differs in blanks only, is another project.");
+}
+
 }  // namespace
 
 bool SaveFile(Editor& ed, Host& host, const std::string& name) {
-    const std::string problem = storeProject(ed, name);
-    if (problem.empty())
-        panel(ed, 5) = "Project " + name + " saved!";
-    else
-        tell(host, problem);
-    return problem.empty();
+    const Stored stored = storeProject(ed, host, name);
+    if (stored.done) saySaved(ed, host, name, stored.isNew);
+    if (!stored.problem.empty()) tell(host, stored.problem);
+    return stored.done;
 }
 
 void OpenFile(Editor& ed, Host& host, const std::string& name) {
@@ -132,9 +165,10 @@ void lstSaved_Click(Editor& ed, Host& host, std::int32_t entry) {
 
 void lstSaved_Enter(Editor& ed, Host& host) {
     const std::string typed = ed.savedText;
-    const std::size_t first = typed.find_first_not_of(' ');
-    const std::size_t last = typed.find_last_not_of(' ');
-    SaveFile(ed, host, first == std::string::npos ? "" : typed.substr(first, last - first + 1));
+    const std::string name = withoutOuterBlanks(typed);
+    const bool saved = SaveFile(ed, host, name);
+    if (saved && name != typed)
+        panel(ed, 5) = "Project \"" + name + "\" saved, without the blanks around what was typed!";
     LoadListOfFileNames(ed, host, false);
     ed.savedText = typed;
 }

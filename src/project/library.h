@@ -7,8 +7,9 @@ namespace zentrik {
 
 class Host;
 
-// Saves the model under a name and lists a new name. A message box tells of a name that is refused and
-// of a save that failed; the old file is then whole, and the answer false.
+// Saves the model under a name and lists a new name; what the file held before is kept among the former
+// versions (project/backups.h), or else the person is asked. A message box tells of a name that is refused
+// and of a save that failed; the old file is then whole, and the answer false.
 bool SaveFile(Editor& ed, Host& host, const std::string& name);
 
 // Loads a project in place of the model. One that cannot be read to its end is not loaded: a message box
