@@ -72,7 +72,10 @@ TEST_F(Library, SelectsResumeAtTheStartOrElseTheFirst) {
 TEST_F(Library, WhatCannotBeReadIsSaidAndLeavesTheModelUntouchedUnlessChosen) {
     put("cut", "Zentrik\r\n");
     put("foreign", "something else");
-    put("malformed", project(3) + "4 : True : left\r\n");
+    Editor other;
+    other.Gravity = 7;
+    scenes::addNode(other, 1, 1);
+    put("malformed", projectBytes(other) + "4 : True : left\r\n");
     // Garbage without end, and places from which no bytes come, are refused at once.
     for (const char* name : {"garbage", "Zentrik"}) {
         put(name, name);
@@ -82,33 +85,50 @@ TEST_F(Library, WhatCannotBeReadIsSaidAndLeavesTheModelUntouchedUnlessChosen) {
     ASSERT_EQ(mkfifo(file("pipe").c_str(), 0600), 0);
     scenes::addLattice(ed, 2, 2, 100, 0, 0);
     ed.ProjectTitle = "kept";
+    ed.savedText = "former";
+    ed.SelectedLink = 2;
     const std::string before = projectBytes(ed);
     const std::pair<const char*, std::string> cases[] = {
         {"foreign", "Input file not recognized!"},
         {"garbage", "Input file not recognized!"},
-        {"cut", "zoo/cut.bot, line 2: the file ends before the project title."},
+        {"cut", "zoo/cut.bot, line 2: the file ends before the project title.\nNothing was loaded."},
+        {"malformed",
+         "zoo/malformed.bot, line 10: field 3 (X) is not a whole number: left\nNothing was loaded."},
         {"missing", "zoo/missing.bot could not be read.\nThere is no such file."},
         {"Zentrik", "zoo/Zentrik.bot could not be read.\nIt is too large."},
         {"folder", "zoo/folder.bot could not be read.\nIt is not an ordinary file."},
         {"pipe", "zoo/pipe.bot could not be read.\nIt is not an ordinary file."}};
-    for (const auto& [name, message] : cases) {
-        host.transcript.clear();
-        OpenFile(ed, host, name);
-        EXPECT_EQ(host.transcript, "message: " + message + "|Zentrik\n");
-        EXPECT_EQ(projectBytes(ed), before) << name;
-    }
-    ed.savedNames = {"foreign"};
-    lstSaved_Click(ed, host, 0);
-    EXPECT_EQ(lastNode(ed) + lastLink(ed), 0);
-    EXPECT_EQ(ed.ProjectTitle, "kept");
+    const Editor untouched = ed;
+    const auto open = [](Editor& e, Host& h, const std::string& name) { OpenFile(e, h, name); };
+    const auto choose = [](Editor& e, Host& h, const std::string& name) {
+        e.savedNames = {name};
+        lstSaved_Click(e, h, 0);
+    };
+    const auto reload = [](Editor& e, Host& h, const std::string& name) {
+        e.savedText = name;
+        reloadProject(e, h);
+    };
+    using Way = void (*)(Editor&, Host&, const std::string&);
+    for (const auto& [name, message] : cases)
+        for (const Way way : {Way(open), Way(choose), Way(reload)}) {
+            ed = untouched;
+            host.transcript.clear();
+            way(ed, host, name);
+            EXPECT_EQ(host.transcript, "message: " + message + "|Zentrik\n");
+            const bool isForeign = message == "Input file not recognized!";
+            if (isForeign && way != Way(open)) {
+                EXPECT_EQ(lastNode(ed) + lastLink(ed), 0) << name;
+                EXPECT_EQ(ed.ProjectTitle + ed.savedText, "kept" + std::string(name));
+                continue;
+            }
+            EXPECT_EQ(projectBytes(ed), before) << name;
+            EXPECT_EQ(selections(ed), selections(untouched));
+            if (way == Way(choose)) {
+                EXPECT_EQ(ed.savedText, "former");
+            }
+        }
     for (const std::int32_t entry : {-1, 5, -7}) lstSaved_Click(ed, host, entry);
-    EXPECT_EQ(ed.savedText, "foreign");
-    host.transcript.clear();
-    OpenFile(ed, host, "malformed");
-    EXPECT_EQ(lastNode(ed), 3);
-    EXPECT_EQ(host.transcript,
-              "message: zoo/malformed.bot, line 12: field 3 (X) is not a whole number: left\n"
-              "The lines before it were loaded.|Zentrik\n");
+    EXPECT_EQ(lastNode(ed), 0);
 }
 
 TEST_F(Library, LoadsSettingsSpritesAndWindowSize) {
@@ -148,17 +168,27 @@ TEST_F(Library, LoadsSettingsSpritesAndWindowSize) {
     EXPECT_EQ(lastNode(ed), 0);
 }
 
-TEST_F(Library, SavingListsANewNameOnce) {
+TEST_F(Library, SavingListsANewNameOnceAndSaysWhichWasUsed) {
     ed.savedText = " new ";
     saveProject(ed, host);
+    EXPECT_EQ(ed.panels[4], "Project \" new \" saved, with the blanks around its name!");
     saveProject(ed, host);
     EXPECT_EQ(ed.savedNames, std::vector<std::string>{" new "});
+    EXPECT_EQ(host.transcript, "");
     scenes::addNode(ed, 1, 1);
-    lstSaved_Enter(ed, host);
-    EXPECT_EQ(ed.savedText, " new ");
+    const std::string twins =
+        "message: The project was saved as \"new\".\n"
+        "\" new \", which differs in blanks only, is another project.|Zentrik\n";
+    for (int i = 0; i < 2; ++i) {
+        lstSaved_Enter(ed, host);
+        EXPECT_EQ(ed.savedText, " new ");
+        EXPECT_EQ(ed.panels[4], "Project \"new\" saved, without the blanks around what was typed!");
+        EXPECT_EQ(host.transcript, twins) << "said once, when the second comes to be";
+    }
     EXPECT_EQ(ed.savedNames, (std::vector<std::string>{" new ", "new"}));
     EXPECT_EQ(contentOf(file("new")), projectBytes(ed));
-    EXPECT_EQ(host.transcript, "");
+    EXPECT_TRUE(SaveFile(ed, host, "new"));
+    EXPECT_EQ(ed.panels[4], "Project new saved!");
 }
 
 TEST_F(Library, RefusesNamesThatAreNoProjects) {

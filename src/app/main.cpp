@@ -2,7 +2,10 @@
 
 #include <QApplication>
 
+#include <csignal>
+
 int main(int argc, char** argv) {
+    std::signal(SIGXFSZ, SIG_IGN);  // a save beyond a limit of the file size fails instead of ending us
     QApplication app(argc, argv);
     QApplication::setApplicationName("Zentrik");
     QApplication::setApplicationVersion(ZENTRIK_VERSION);

@@ -2,13 +2,13 @@
 
 #include "model/addresses.h"
 #include "model/host.h"
-#include "model/numbers.h"
-#include "model/rate.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
-#include "project/reader.h"
+#include "project/backups.h"
+#include "project/open.h"
 #include "project/write_file.h"
+#include "project/write_target.h"
 #include "project/writer.h"
 #include "project/zoo.h"
 
@@ -28,49 +28,48 @@ void tell(Host& host, const std::string& text, BoxIcon icon = BoxIcon::exclamati
 
 std::string fileText(const std::string& name) { return "zoo/" + name + ".bot"; }
 
-// Writes the project's file and lists a new name. Gives the problem in words, or the empty text.
-std::string storeProject(Editor& ed, const std::string& name) {
-    if (std::string problem = nameProblem(name); !problem.empty()) return problem;
-    const fs::path path = projectPath(ed.programFolder, name);
+struct Stored {
+    bool done = false, isNew = false;
+    std::string problem;  // in words, unless the person has been asked about it
+};
+
+// The former file of the project is kept before it is replaced, or the person knows that it is not.
+bool formerIsSafe(const Editor& ed, Host& host, const std::string& name, const std::string& bytes) {
+    const std::string problem = keepFormer(ed.programFolder, name, bytes);
+    return problem.empty() || host.confirm("The former version of " + fileText(name) +
+                                               " could not be kept.\n" + problem + "\nSave all the same?",
+                                           "Zentrik");
+}
+
+// Writes the project's file and lists a new name.
+Stored storeProject(Editor& ed, Host& host, const std::string& name) {
+    if (std::string problem = nameProblem(name); !problem.empty()) return {false, false, std::move(problem)};
+    const std::string path = pathText(projectPath(ed.programFolder, name));
     std::error_code error;
-    const bool existed = fs::exists(path, error);
     fs::create_directory(zooFolder(ed.programFolder), error);  // one that is missing for good fails the write
-    if (std::string problem = writeFile(pathText(path), projectBytes(ed)); !problem.empty())
-        return fileText(name) + " could not be saved.\n" + problem;
+    const WriteTarget target = writeTarget(path, ed.programFolder);
+    std::string problem = target.problem;
+    const std::string bytes = projectBytes(ed);
+    if (problem.empty() && !formerIsSafe(ed, host, name, bytes)) return {};
+    if (problem.empty()) problem = writeFile(path, bytes, ed.programFolder);
+    if (!problem.empty()) return {false, false, fileText(name) + " could not be saved.\n" + problem};
     const bool listed = std::find(ed.savedNames.begin(), ed.savedNames.end(), name) != ed.savedNames.end();
-    if (!existed && !listed) ed.savedNames.push_back(name);
-    return {};
+    if (!target.exists && !listed) ed.savedNames.push_back(name);
+    return {true, !target.exists, ""};
 }
 
-void applyGlobal(Editor& ed, Host& host, const GlobalSettings& global) {
-    ed.Gravity = global.Gravity;
-    ed.Friction = global.Friction;
-    ed.Viscosity = global.Viscosity;
-    ed.LeftWind = global.LeftWind;
-    ed.Bounce = global.Bounce;
-    ed.TimeInterval = global.TimeInterval;
-    // A period the timer cannot take leaves its period unchanged, as everywhere.
-    setRate(ed, global.timerPeriod);
-    ed.DeltaAngle = global.DeltaAngle;
-    if (ed.marks.mnuAutoWindowSize) {
-        const double width = global.sceneWidth, height = global.sceneHeight;
-        const bool wider = ed.sceneWidth < width, higher = ed.sceneHeight < height;
-        if (wider || higher)
-            host.resizeWindow(wider ? toInt(width + 100) : -1, higher ? toInt(height + 2000) : -1);
-    }
-    ed.AnimationTime = global.AnimationTime;
+ProjectFile readNamed(const Editor& ed, const std::string& name) {
+    return readProject(projectPath(ed.programFolder, name), fileText(name));
 }
 
-// The window is resized while the arrays are empty, so that laying it out touches no loaded record.
-void handOver(Editor& ed, Host& host, Project project) {
-    ed.ProjectTitle = std::move(project.title);
-    ed.Nodes.assign(1, Node{});
-    ed.Links.assign(1, Link{});
-    if (project.global) applyGlobal(ed, host, *project.global);
-    for (Node& node : project.Nodes) node.SpriteIndex = spriteEntryOf(ed, node.Sprite);
-    ed.Nodes = std::move(project.Nodes);
-    ed.Links = std::move(project.Links);
-    ++ed.filedCount;
+// What is no project at all leaves an empty scene.
+void takePlace(Editor& ed, Host& host, ProjectFile file) {
+    ClearAnimation(ed);
+    if (file.project)
+        handOver(ed, host, std::move(*file.project)), ++ed.filedCount;
+    else
+        tellProblem(host, file);
+    showCounts(ed);
 }
 
 void showNewModel(Editor& ed) {
@@ -94,7 +93,7 @@ std::string percentEncoded(const std::string& text) {
 }
 
 bool exportMail(Editor& ed, Host& host) {
-    if (!storeProject(ed, "email").empty()) return false;
+    if (!storeProject(ed, host, "email").done) return false;
     const FileBytes file = readProjectFile(projectPath(ed.programFolder, "email"));
     if (!file.problem.empty() || !host.setClipboard(file.bytes)) return false;
     const std::string body =
@@ -104,29 +103,39 @@ bool exportMail(Editor& ed, Host& host) {
                             "?subject=Zentrik&body=" + percentEncoded(body));
 }
 
+std::string withoutOuterBlanks(const std::string& text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+// Blanks around a name are hardly seen, but make another file.
+void saySaved(Editor& ed, Host& host, const std::string& name, bool isNew) {
+    const std::string core = withoutOuterBlanks(name);
+    panel(ed, 5) = core == name ? "Project " + name + " saved!"
+                                : "Project \"" + name + "\" saved, with the blanks around its name!";
+    if (!isNew) return;
+    for (const std::string& other : ed.savedNames)
+        if (other != name && withoutOuterBlanks(other) == core)
+            return tell(host, "The project was saved as \"" + name + "\".\n\"" + other +
+                                  "\", which differs in blanks only, is another project.");
+}
+
 }  // namespace
 
 bool SaveFile(Editor& ed, Host& host, const std::string& name) {
-    const std::string problem = storeProject(ed, name);
-    if (problem.empty())
-        panel(ed, 5) = "Project " + name + " saved!";
-    else
-        tell(host, problem);
-    return problem.empty();
+    const Stored stored = storeProject(ed, host, name);
+    if (stored.done) saySaved(ed, host, name, stored.isNew);
+    if (!stored.problem.empty()) tell(host, stored.problem);
+    return stored.done;
 }
 
 void OpenFile(Editor& ed, Host& host, const std::string& name) {
     if (const std::string problem = nameProblem(name); !problem.empty()) return tell(host, problem);
-    const FileBytes file = readProjectFile(projectPath(ed.programFolder, name));
-    if (!file.problem.empty()) return tell(host, fileText(name) + " could not be read.\n" + file.problem);
-
-    Reading reading = parseProject(file.bytes);
-    const auto& problem = reading.problem;
-    if (problem && problem->line == 0) return tell(host, problem->text, BoxIcon::plain);
-    if (reading.project) handOver(ed, host, std::move(*reading.project));
-    if (problem)
-        tell(host, fileText(name) + ", line " + std::to_string(problem->line) + ": " + problem->text +
-                       (reading.project ? "\nThe lines before it were loaded." : ""));
+    ProjectFile file = readNamed(ed, name);
+    if (file.project)
+        handOver(ed, host, std::move(*file.project)), ++ed.filedCount;
+    else
+        tellProblem(host, file);
 }
 
 void LoadListOfFileNames(Editor& ed, Host& host, bool UseResume) {
@@ -142,22 +151,25 @@ void LoadListOfFileNames(Editor& ed, Host& host, bool UseResume) {
 }
 
 void lstSaved_Click(Editor& ed, Host& host, std::int32_t entry) {
-    const bool selected = entry >= 0 && std::cmp_less(entry, ed.savedNames.size());
-    if (selected) ed.savedText = ed.savedNames[static_cast<std::size_t>(entry)];
-    ClearAnimation(ed);
-    if (selected) {
-        OpenFile(ed, host, ed.savedText);
-        showCounts(ed);
+    if (entry < 0 || !std::cmp_less(entry, ed.savedNames.size())) {
+        ClearAnimation(ed);
+        return showNewModel(ed);
     }
+    const std::string name = ed.savedNames[static_cast<std::size_t>(entry)];
+    ProjectFile file = readNamed(ed, name);
+    if (!file.project && !file.foreign) return tellProblem(host, file);
+    ed.savedText = name;
+    takePlace(ed, host, std::move(file));
     showNewModel(ed);
 }
 
 void lstSaved_Enter(Editor& ed, Host& host) {
     const std::string typed = ed.savedText;
-    const std::size_t first = typed.find_first_not_of(' ');
-    const std::size_t last = typed.find_last_not_of(' ');
-    if (SaveFile(ed, host, first == std::string::npos ? "" : typed.substr(first, last - first + 1)))
-        ++ed.filedCount;
+    const std::string name = withoutOuterBlanks(typed);
+    const bool saved = SaveFile(ed, host, name);
+    if (saved) ++ed.filedCount;
+    if (saved && name != typed)
+        panel(ed, 5) = "Project \"" + name + "\" saved, without the blanks around what was typed!";
     LoadListOfFileNames(ed, host, false);
     ed.savedText = typed;
 }
@@ -167,14 +179,10 @@ void saveProject(Editor& ed, Host& host) {
 }
 
 void reloadProject(Editor& ed, Host& host) {
-    // A name mistyped must not cost the person the present model.
-    std::error_code error;
-    const bool there =
-        nameProblem(ed.savedText).empty() && fs::exists(projectPath(ed.programFolder, ed.savedText), error);
-    if (!there) return OpenFile(ed, host, ed.savedText);
-    ClearAnimation(ed);
-    OpenFile(ed, host, ed.savedText);
-    showCounts(ed);
+    if (const std::string problem = nameProblem(ed.savedText); !problem.empty()) return tell(host, problem);
+    ProjectFile file = readNamed(ed, ed.savedText);
+    if (!file.project && !file.foreign) return tellProblem(host, file);
+    takePlace(ed, host, std::move(file));
     showClock(ed);
     showNewModel(ed);
 }

@@ -83,7 +83,11 @@ std::string readRecord(std::string_view line, const Column<Record> (&columns)[co
                        std::vector<Record>& records) {
     records.emplace_back();
     std::string problem = readColumns(line, columns, records.back());
-    if (!problem.empty()) records.pop_back();
+    // Editors trim the blank behind the last separator when the last field is empty.
+    if (!problem.empty() && line.ends_with(" :")) {
+        records.back() = {};
+        if (readColumns(std::string(line) + " ", columns, records.back()).empty()) return {};
+    }
     return problem;
 }
 
@@ -126,8 +130,7 @@ Reading parseProject(std::string_view bytes) {
     while (lines.next(line)) {
         std::string problem = readLine(line, section, project);
         if (problem.empty()) continue;
-        reading.problem = ReadProblem{lines.number, std::move(problem)};
-        break;
+        return {{}, ReadProblem{lines.number, std::move(problem)}};
     }
     return reading;
 }

@@ -24,13 +24,13 @@ struct ReadProblem {
 };
 
 struct Reading {
-    std::optional<Project> project;  // none when there was not even a title
+    std::optional<Project> project;  // none with a problem
     std::optional<ReadProblem> problem;
 };
 
 // Takes any bytes whatever. Records are numbered 1, 2, 3 ... in the order of their lines; links keep
-// their ends as they stand, whether such nodes exist or not. Lines end in CR LF or LF. The first
-// malformed line ends the reading with a problem and leaves what was read before it.
+// their ends as they stand, whether such nodes exist or not. Lines end in CR LF or LF; a
+// last blank that an editor has trimmed does not matter. A malformed line spoils the whole.
 Reading parseProject(std::string_view bytes);
 
 }  // namespace zentrik

@@ -35,6 +35,33 @@ bool isDeviceName(const std::string& name) {
 
 fs::path pathOf(const std::string& utf8) { return fs::path(std::u8string(utf8.begin(), utf8.end())); }
 
+// The bytes of an ordinary file, or only its first few when it does not begin with a word.
+FileBytes readFrom(const fs::path& path, std::string_view word) {
+    // Only an ordinary file has a size and an end; a device or pipe might keep us waiting for ever.
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (status.type() == fs::file_type::not_found) return {"", "There is no such file."};
+    if (!fs::exists(status)) return {"", "It cannot be looked at: " + error.message() + "."};
+    if (!fs::is_regular_file(status)) return {"", "It is not an ordinary file."};
+    const std::uintmax_t size = fs::file_size(path, error);
+    std::ifstream file(path, std::ios::binary);
+    if (error || !file) return {"", "It cannot be opened."};
+
+    std::string bytes(word.size(), '\0');
+    const auto readTo = [&](std::size_t from) {
+        file.read(bytes.data() + from, static_cast<std::streamsize>(bytes.size() - from));
+        bytes.resize(from + static_cast<std::size_t>(file.gcount()));
+    };
+    readTo(0);
+    if (bytes == word && size > largestFile) return {"", "It is too large."};
+    if (bytes == word && size > bytes.size()) {
+        bytes.resize(static_cast<std::size_t>(size));
+        readTo(word.size());
+    }
+    if (file.bad()) return {"", "It cannot be read."};
+    return {std::move(bytes), ""};
+}
+
 }  // namespace
 
 std::string nameProblem(const std::string& name) {
@@ -79,30 +106,7 @@ std::vector<std::string> projectNames(const std::string& programFolder) {
     return names;
 }
 
-FileBytes readProjectFile(const fs::path& path) {
-    // Only a regular file has a size and an end; a device or pipe might keep us waiting for ever.
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
-    if (status.type() == fs::file_type::not_found) return {"", "There is no such file."};
-    if (!fs::exists(status)) return {"", "It cannot be looked at: " + error.message() + "."};
-    if (!fs::is_regular_file(status)) return {"", "It is not an ordinary file."};
-    const std::uintmax_t size = fs::file_size(path, error);
-    std::ifstream file(path, std::ios::binary);
-    if (error || !file) return {"", "It cannot be opened."};
-
-    std::string bytes(magicWord.size(), '\0');
-    const auto readTo = [&](std::size_t from) {
-        file.read(bytes.data() + from, static_cast<std::streamsize>(bytes.size() - from));
-        bytes.resize(from + static_cast<std::size_t>(file.gcount()));
-    };
-    readTo(0);
-    if (bytes == magicWord && size > largestFile) return {"", "It is too large."};
-    if (bytes == magicWord && size > bytes.size()) {
-        bytes.resize(static_cast<std::size_t>(size));
-        readTo(magicWord.size());
-    }
-    if (file.bad()) return {"", "It cannot be read."};
-    return {std::move(bytes), ""};
-}
+FileBytes readProjectFile(const fs::path& path) { return readFrom(path, magicWord); }
+FileBytes readWholeFile(const fs::path& path) { return readFrom(path, ""); }
 
 }  // namespace zentrik

@@ -22,11 +22,13 @@ std::string pathText(const std::filesystem::path& path);
 // Names of the projects in the folder, sorted without regard to case.
 std::vector<std::string> projectNames(const std::string& programFolder);
 
-// The bytes of a project file. Of a file that is no project only its first few, which say so.
 struct FileBytes {
     std::string bytes;
     std::string problem;  // in words; empty when it was read
 };
+// The bytes of a project file. Of a file that is no project only its first few, which say so.
 FileBytes readProjectFile(const std::filesystem::path& path);
+// The bytes of any ordinary file up to 256 MiB.
+FileBytes readWholeFile(const std::filesystem::path& path);
 
 }  // namespace zentrik

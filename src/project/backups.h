@@ -1,0 +1,39 @@
+#pragma once
+// Former versions of the projects: files NAME.STAMP.bot in the folder "backups" beside zoo, stamped with
+// the moment they were replaced. At most 20 of a project and 256 MiB in all; the oldest go first, never
+// the one just kept, and a version that is larger than all may be together does not drive out others.
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zentrik {
+
+inline constexpr std::size_t versionsOfAProject = 20;
+inline constexpr std::uintmax_t bytesOfAllVersions = 256ULL << 20;
+
+struct FormerVersion {
+    std::filesystem::path path;
+    std::string project;
+    std::int64_t replaced = 0;  // milliseconds since 1970
+    std::uintmax_t size = 0;    // bytes
+};
+
+std::filesystem::path backupsFolder(const std::string& programFolder);
+
+// Newest first.
+std::vector<FormerVersion> formerVersions(const std::string& programFolder, const std::string& project);
+
+// Keeps the present file of a project, if there is one, before it is replaced by these bytes or removed.
+// What equals the replacement is not kept; what equals a version kept before takes that one's place as
+// the newest. Gives the problem in words, or the empty text.
+std::string keepFormer(const std::string& programFolder, const std::string& project,
+                       std::optional<std::string_view> replacement);
+
+// Makes the versions of one project those of another. Gives the problem in words, or the empty text.
+std::string renameVersions(const std::string& programFolder, const std::string& from, const std::string& to);
+
+}  // namespace zentrik
