@@ -26,7 +26,7 @@ protected:
 
     void SetUp() override {
         const QString path = QString::fromStdString(folder_.path.string());
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path + "/settings");
+        qputenv("XDG_CONFIG_HOME", path.toUtf8() + "/settings");
         std::filesystem::create_directory(folder_.path / "sprites");
         std::filesystem::create_directory(folder_.path / "zoo");
         for (const char* name : {"ant.svg", "bee.svg"})

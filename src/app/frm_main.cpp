@@ -9,6 +9,7 @@
 #include "model/store.h"
 #include "model/units.h"
 #include "project/library.h"
+#include "project/write_file.h"
 #include "project/zoo.h"
 #include "sim/run.h"
 #include "ui/layout.h"
@@ -66,13 +67,14 @@ frmMain::frmMain(const QString& folder)
 
 void frmMain::Form_Load(const QString& folder) {
     ed_.programFolder = (folder.isEmpty() ? programFolder() : folder).toStdString();
+    for (const char* kept : {"/zoo", "/backups"}) sweepLeftovers(ed_.programFolder + kept);
     ed_.chance.reseed();
     loadSprites();
     if (!QFileInfo::exists(QString::fromStdString(ed_.programFolder) + "/zoo"))
         panel(ed_, 5) = "The sample projects could not be copied to " + ed_.programFolder;
     const std::string toSay = panel(ed_, 5);
     Placement placement;
-    getSettings(ed_, placement, settings_);
+    const std::string settingsProblem = settings_.load(ed_, placement);
     restorePlacement(placement);
     layOutWindow();
     showGlobalValues(ed_);
@@ -83,8 +85,8 @@ void frmMain::Form_Load(const QString& folder) {
     DisplayScene(ed_, -1, -1);
     redrawPhaseManager(ed_, 0);
     if (!toSay.empty()) panel(ed_, 5) = toSay;
-    if (const std::string problem = settings_.problem(); !problem.empty())
-        host_.messageBox(problem + "\nThe program goes on with what it could read.", "Zentrik",
+    if (!settingsProblem.empty())
+        host_.messageBox(settingsProblem + "\nThe program goes on with what it could read.", "Zentrik",
                          BoxIcon::exclamation);
 }
 
@@ -138,8 +140,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
         const auto twips = [](int extent) { return static_cast<float>(extent * twipsPerPixel); };
         placement = Placement{twips(pos().x()), twips(pos().y()), twips(width()), twips(height())};
     }
-    saveSettings(ed_, placement, settings_);
-    if (const std::string problem = settings_.problem(); !problem.empty())
+    if (const std::string problem = settings_.store(ed_, placement); !problem.empty())
         host_.messageBox(problem, "Zentrik", BoxIcon::exclamation);
     if (!SaveFile(ed_, host_, "resume") &&
         !host_.confirm("The project could not be saved. Close the program and lose it?", "Zentrik"))

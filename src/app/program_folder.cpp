@@ -1,5 +1,7 @@
 #include "app/program_folder.h"
 
+#include "project/write_file.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -14,16 +16,18 @@ namespace {
 bool fill(const QString& folder, const QString& name) {
     const QString target = folder + "/" + name, half = target + ".new";
     if (QFileInfo::exists(target)) return true;
+    // Emptying a link would empty the folder it leads to.
+    if (QFileInfo(half).isSymLink()) QFile::remove(half);
     QDir(half).removeRecursively();
     if (!QDir().mkpath(half)) return false;
     const QDir shipped(":/" + name);
     for (const QString& file : shipped.entryList(QDir::Files)) {
-        const QString copy = half + "/" + file;
-        if (!QFile::copy(shipped.filePath(file), copy)) return false;
-        QFile::setPermissions(copy,
-                              QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+        QFile original(shipped.filePath(file));
+        if (!original.open(QIODevice::ReadOnly)) return false;
+        const QByteArray bytes = original.readAll();
+        if (!writeFile((half + "/" + file).toStdString(), bytes.toStdString()).empty()) return false;
     }
-    return QDir().rename(half, target);
+    return QDir().rename(half, target) && syncFolder(folder.toStdString()).empty();
 }
 
 }  // namespace

@@ -16,6 +16,7 @@ ProjectList::ProjectList(QWidget* parent) : QComboBox(parent) {
     lineEdit()->installEventFilter(this);
     installEventFilter(this);
     connect(this, &QComboBox::activated, this, [this](int entry) {
+        setEditText(opened_);  // the name is the project's once it is loaded
         chosen(entry);
         left();
     });
@@ -27,6 +28,7 @@ void ProjectList::showPopup() {
     const QSignalBlocker quiet(this);
     setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
     setEditText(text);
+    opened_ = text;
     QComboBox::showPopup();
 }
 

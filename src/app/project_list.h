@@ -22,6 +22,7 @@ protected:
 
 private:
     QString former_;  // the text that Escape brings back
+    QString opened_;  // the text when the list was opened
 
     bool keyPressed(int key);
 };

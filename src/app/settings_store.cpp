@@ -1,38 +1,83 @@
 #include "app/settings_store.h"
 
-#include <QStringList>
+#include "project/write_file.h"
+#include "project/zoo.h"
+
+#include <QLockFile>
+#include <QStandardPaths>
+#include <filesystem>
 
 namespace zentrik {
 
+namespace fs = std::filesystem;
+
 namespace {
 
-QString place(const std::string& key) { return "Settings/" + QString::fromStdString(key); }
+constexpr int patience = 500;  // milliseconds to wait for another program that stores its settings
+
+bool isThere(const std::string& file) {
+    std::error_code error;
+    return fs::symlink_status(file, error).type() != fs::file_type::not_found;
+}
+
+// No file is no problem.
+FileBytes readSettings(const std::string& file) { return isThere(file) ? readWholeFile(file) : FileBytes{}; }
+
+std::string folderOf(const std::string& file) { return fs::path(file).parent_path().string(); }
+
+std::string takeLock(QLockFile& lock) {
+    std::error_code error;
+    const fs::file_status status = fs::symlink_status(lock.fileName().toStdString(), error);
+    const bool strange = fs::exists(status) && !fs::is_regular_file(status);
+    if (strange) return "Its lock is no ordinary file.";
+    if (lock.tryLock(patience)) return {};
+    // It made the file, but could not fill it: nobody must wait for that one.
+    if (lock.error() == QLockFile::UnknownError) fs::remove(lock.fileName().toStdString(), error);
+    return lock.error() == QLockFile::LockFailedError ? "Another program is storing its settings."
+                                                      : "Its folder cannot be written to.";
+}
 
 }  // namespace
 
-UserSettings::UserSettings() : settings_("Zentrik", "Zentrik") {}
+UserSettings::UserSettings()
+    : file_(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation).toStdString() +
+            "/Zentrik/Zentrik.conf") {}
 
-std::optional<std::string> UserSettings::read(const std::string& key) {
-    if (!settings_.contains(place(key))) return std::nullopt;
-    // A text with commas in a file written by hand arrives as a list.
-    return settings_.value(place(key)).toStringList().join(",").toStdString();
+std::string UserSettings::load(Editor& ed, Placement& placement) {
+    sweepLeftovers(folderOf(file_));
+    const FileBytes file = readSettings(file_);
+    read_ = SettingsText(file.bytes);
+    getSettings(ed, placement, read_);
+    saveSettings(ed, placement, known_);
+    if (!file.problem.empty()) return "The settings in " + file_ + " cannot be read.\n" + file.problem;
+    return read_.isDamaged() ? "The settings in " + file_ + " are damaged." : "";
 }
 
-void UserSettings::write(const std::string& key, const std::string& text) {
-    settings_.setValue(place(key), QString::fromStdString(text));
+std::string UserSettings::store(const Editor& ed, const std::optional<Placement>& placement) {
+    SettingsText ours;
+    saveSettings(ed, placement, ours);
+    const std::string problem = merge(std::move(ours));
+    return problem.empty() ? "" : "The settings in " + file_ + " cannot be written.\n" + problem;
 }
 
-std::string UserSettings::problem() {
-    settings_.sync();
-    const std::string file = settings_.fileName().toStdString();
-    switch (settings_.status()) {
-        case QSettings::AccessError:
-            return "The settings in " + file + " cannot be read or written.";
-        case QSettings::FormatError:
-            return "The settings in " + file + " are damaged.";
-        case QSettings::NoError:
-            break;
+std::string UserSettings::merge(SettingsText ours) {
+    std::error_code error;
+    fs::create_directories(folderOf(file_), error);  // one that is missing for good fails the lock
+    QLockFile lock(QString::fromStdString(file_ + ".lock"));
+    if (std::string problem = takeLock(lock); !problem.empty()) return problem;
+    const FileBytes file = readSettings(file_);
+    if (!file.problem.empty()) return file.problem;
+    SettingsText merged(file.bytes);
+    if (merged.isDamaged())
+        if (std::string problem = writeFile(file_ + ".damaged", file.bytes); !problem.empty()) return problem;
+    for (const std::string& key : ours.keys()) {
+        const bool changedHere = ours.read(key) != known_.read(key);
+        const bool changedElsewhere = merged.read(key) && merged.read(key) != read_.read(key);
+        if (changedHere || !changedElsewhere) merged.write(key, *ours.read(key));
     }
+    if (std::string problem = writeFile(file_, merged.bytes()); !problem.empty()) return problem;
+    read_ = std::move(merged);
+    for (const std::string& key : ours.keys()) known_.write(key, *ours.read(key));
     return {};
 }
 
