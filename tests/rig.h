@@ -8,6 +8,7 @@
 
 #include <array>
 #include <deque>
+#include <optional>
 #include <string>
 
 namespace zentrik {
@@ -16,6 +17,7 @@ class ScriptedHost : public Host {
 public:
     std::deque<std::string> answers;  // to input boxes, in order; none left = cancelled
     bool confirms = true;
+    std::optional<std::size_t> chosen;  // none = Escape
     std::int32_t colour = none;
     bool desktopWorks = true;
     int beeps = 0;
@@ -35,6 +37,13 @@ public:
     bool confirm(const std::string& text, const std::string& title) override {
         note("confirm", text + "|" + title);
         return confirms;
+    }
+    std::size_t choose(const std::string& text, const std::string& title,
+                       const std::vector<std::string>& choices, std::size_t otherwise) override {
+        std::string names;
+        for (const std::string& choice : choices) names += "|" + choice;
+        note("choose", text + "|" + title + names);
+        return chosen.value_or(otherwise);
     }
     std::int32_t SelectColor() override {
         note("colour", "");

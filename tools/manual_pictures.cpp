@@ -200,7 +200,7 @@ int main(int argc, char** argv) {
     }
     // The user's own projects and options are left alone.
     const QTemporaryDir home;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
+    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     zentrik::fillProgramFolder(home.path());
     Photographer camera(home.path(), QString::fromLocal8Bit(argv[1]));
     takeOverview(camera);

@@ -10,6 +10,7 @@
 #include <QDesktopServices>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QUrl>
 #include <algorithm>
 
@@ -79,6 +80,20 @@ bool DesktopHost::confirm(const std::string& question, const std::string& title)
     box.setObjectName("MessageBox");
     box.setTextFormat(Qt::PlainText);
     return run(box, open_) == QMessageBox::Ok;
+}
+
+std::size_t DesktopHost::choose(const std::string& question, const std::string& title,
+                                const std::vector<std::string>& choices, std::size_t otherwise) {
+    QMessageBox box(QMessageBox::Question, caption(title), text(question), QMessageBox::NoButton, &window_);
+    box.setObjectName("MessageBox");
+    box.setTextFormat(Qt::PlainText);
+    for (const std::string& choice : choices) box.addButton(text(choice), QMessageBox::ActionRole);
+    const QList<QAbstractButton*> buttons = box.buttons();
+    box.setDefaultButton(static_cast<QPushButton*>(buttons.first()));
+    box.setEscapeButton(buttons.at(static_cast<qsizetype>(otherwise)));
+    run(box, open_);
+    const qsizetype chosen = buttons.indexOf(box.clickedButton());
+    return chosen < 0 ? otherwise : static_cast<std::size_t>(chosen);
 }
 
 std::int32_t DesktopHost::SelectColor() {

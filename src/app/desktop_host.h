@@ -26,6 +26,8 @@ public:
                          const std::string& preset) override;
     void messageBox(const std::string& text, const std::string& title, BoxIcon icon) override;
     bool confirm(const std::string& text, const std::string& title) override;
+    std::size_t choose(const std::string& text, const std::string& title,
+                       const std::vector<std::string>& choices, std::size_t otherwise) override;
     std::int32_t SelectColor() override;
     void beep() override;
     bool setClipboard(const std::string& text) override;

@@ -1,7 +1,9 @@
 #include "app/frm_main.h"
 
 #include "app/icons.h"
+#include "app/left_copies.h"
 #include "app/program_folder.h"
+#include "app/quiet_host.h"
 #include "edit/mouse.h"
 #include "effects/fireworks.h"
 #include "model/invariants.h"
@@ -61,6 +63,7 @@ frmMain::frmMain(const QString& folder)
     connectTimers();
     Form_Load(folder);
     startHistory(history_, ed_);
+    connectRecovery();
     showRecord();
     picS_->setFocus();
 }
@@ -133,23 +136,57 @@ void frmMain::resizeEvent(QResizeEvent* event) {
     showRecord();
 }
 
-void frmMain::closeEvent(QCloseEvent* event) {
-    if (host_.isAsking()) return event->ignore();
+// The settings and the project "resume". False when the latter could not be saved.
+bool frmMain::storeWork(Host& host) {
     std::optional<Placement> placement;
     if (!isMaximized() && !isMinimized() && !isFullScreen()) {
         const auto twips = [](int extent) { return static_cast<float>(extent * twipsPerPixel); };
         placement = Placement{twips(pos().x()), twips(pos().y()), twips(width()), twips(height())};
     }
     if (const std::string problem = settings_.store(ed_, placement); !problem.empty())
-        host_.messageBox(problem, "Zentrik", BoxIcon::exclamation);
-    if (!SaveFile(ed_, host_, "resume") &&
-        !host_.confirm("The project could not be saved. Close the program and lose it?", "Zentrik"))
+        host.messageBox(problem, "Zentrik", BoxIcon::exclamation);
+    return SaveFile(ed_, host, "resume");
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    if (host_.isAsking()) return event->ignore();
+    const bool filed = storeWork(host_);
+    if (!filed && !host_.confirm("The project could not be saved. Close the program and lose it?", "Zentrik"))
         return event->ignore();
+    if (filed) recovery_->endFiled();
+    ended_ = true;
     ed_.Timer1.enabled = false;
     showTimers();
     host_.closeAbout();
     frmPath_->hide();
     event->accept();
+}
+
+bool frmMain::keepWork() {
+    QuietHost nobody;
+    if (storeWork(nobody)) return true;
+    if (const std::string problem = recovery_->endUnfiled(ed_); !problem.empty())
+        nobody.messageBox(problem, "Zentrik", BoxIcon::exclamation);
+    return false;
+}
+
+void frmMain::keepWorkAndEnd() {
+    if (!std::exchange(ended_, true) && keepWork()) recovery_->endFiled();
+}
+
+void frmMain::offerLeftCopies() {
+    for (LeftCopy& left : leftCopies(ed_.programFolder)) {
+        enum Answer { restoreIt, keepIt, discardIt };
+        const auto answer =
+            host_.choose(describe(left), "Recover", {"Restore", "Keep for Later", "Discard"}, keepIt);
+        if (answer == keepIt) continue;
+        putAway(ed_.programFolder, left);
+        if (answer != restoreIt) continue;
+        perform("Project recovered", [&](Editor& ed, Host& host) {
+            stopAnimation(ed);
+            restore(ed, host, std::move(left.copy));
+        });
+    }
 }
 
 void frmMain::changeEvent(QEvent* event) {
@@ -187,6 +224,7 @@ void frmMain::showRecord() {
     bars_.show(ed_);
     undo_->show(history_);
     showTitle();
+    recovery_->follow(ed_, history_);
     for (std::size_t i = 0; i < panels_.size(); ++i)
         panels_[i]->setText(QString::fromStdString(ed_.panels[i]));
     showLayout();

@@ -1,6 +1,7 @@
 #pragma once
 #include "app/desktop_host.h"
 #include "app/path_window.h"
+#include "app/recovery_keeper.h"
 #include "app/settings_store.h"
 #include "app/sprite_browser.h"
 #include "app/toolbars.h"
@@ -33,6 +34,14 @@ public:
         run(Event::command, what, procedure);
     }
 
+    // Offers what programs that are gone had not saved, one box for each.
+    void offerLeftCopies();
+    // What closing the window does to the work, without a question and whatever box is open. False when it
+    // could not be filed; then a recovery copy holds it.
+    bool keepWork();
+    // The same as the last thing the program does. A window that was closed has done it.
+    void keepWorkAndEnd();
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -49,6 +58,8 @@ private:
     History history_;
     DesktopHost host_;
     UserSettings settings_;
+    RecoveryKeeper* recovery_ = nullptr;
+    bool ended_ = false;
     std::vector<MenuEntry> marks_;
     std::array<QLabel*, 5> panels_{};
     QTimer Timer1_, timerFireWorks_;
@@ -68,9 +79,11 @@ private:
     void connectUndo();
     void connectViews();
     void connectTimers();
+    void connectRecovery();
 
     void Form_Load(const QString& folder);
     void loadSprites();
+    bool storeWork(Host& host);
     void restorePlacement(const Placement& placement);
     void placePathWindow(bool visible);
     void layOutWindow();

@@ -131,6 +131,14 @@ void frmMain::connectUndo() {
     undo_->redo = [this] { follow([this](Editor& ed, Host&) { redoNext(ed, history_); }); };
 }
 
+void frmMain::connectRecovery() {
+    recovery_ = new RecoveryKeeper(ed_.programFolder, this);
+    recovery_->failed = [this](const std::string& problem) {
+        panel(ed_, 5) = "What is not saved could not be kept safe: " + problem;
+        showRecord();
+    };
+}
+
 void frmMain::connectViews() {
     const auto calls = [this](const char* what, auto press, auto drag, auto release, auto twice) {
         MouseCalls mouse;

@@ -1,16 +1,17 @@
 #include "app/frm_main.h"
+#include "app/program_ends.h"
 
 #include <QApplication>
-
-#include <csignal>
+#include <QTimer>
 
 int main(int argc, char** argv) {
-    std::signal(SIGXFSZ, SIG_IGN);  // a save beyond a limit of the file size fails instead of ending us
     QApplication app(argc, argv);
     QApplication::setApplicationName("Zentrik");
     QApplication::setApplicationVersion(ZENTRIK_VERSION);
     QApplication::setStyle("Fusion");
     zentrik::frmMain window;
     window.show();
+    const zentrik::ProgramEnds ends(app, window);
+    QTimer::singleShot(0, &window, [&] { window.offerLeftCopies(); });
     return QApplication::exec();
 }

@@ -30,14 +30,30 @@ void forgetTheOldest(History& history) {
         history.bytes -= bytesOf(history.done.front());
 }
 
+// Whether a change leaves little of a model that no file holds: another took its place, most of it was
+// removed, or a run moved it that no run has moved before.
+bool losesWork(History& history, const Editor& ed, bool isRun) {
+    const bool replaced = std::exchange(history.replacedCount, ed.replacedCount) != ed.replacedCount;
+    for (const auto& [name, state] : history.filed)
+        if (state == history.state) return false;
+    const auto used = [](const auto& records) {
+        return std::count_if(records.begin(), records.end(), [](const auto& record) { return record.Used; });
+    };
+    const auto nodes = used(history.shown.Nodes), links = used(history.shown.Links);
+    if (nodes == 0) return false;
+    const bool fromRun = !history.done.empty() && history.done.back().run;
+    return replaced || (isRun && !fromRun) || used(ed.Nodes) * 2 < nodes || used(ed.Links) * 2 < links;
+}
+
 // Makes whatever changed since the newest step a step. False when nothing did.
-bool record(History& history, const Editor& ed, const std::string& what) {
+bool record(History& history, const Editor& ed, const std::string& what, bool isRun = false) {
     std::optional<Difference> difference = differenceBetween(history.shown, ed);
     if (!difference) return false;
+    const bool loses = losesWork(history, ed, isRun);
     apply(*difference, Way::forth, history.shown);
     const std::uint64_t from = std::exchange(history.state, ++history.newest);
     history.done.push_back(
-        {what, history.context, contextOf(ed), *std::move(difference), from, history.state});
+        {what, history.context, contextOf(ed), *std::move(difference), from, history.state, isRun, loses});
     history.bytes += bytesOf(history.done.back());
     history.context = contextOf(ed);
     forget(history, history.undone);
@@ -98,6 +114,7 @@ void startHistory(History& history, const Editor& ed) {
     history.context = contextOf(ed);
     history.filed[ed.savedText] = history.state;
     history.filedCount = ed.filedCount;
+    history.replacedCount = ed.replacedCount;
 }
 
 void beginEvent(History& history, const Editor& ed, Event event) {
@@ -133,7 +150,8 @@ void endEvent(History& history, const Editor& ed, Event event, const std::string
 void closeStep(History& history, const Editor& ed) {
     const Going going = std::exchange(history.going, Going::nothing);
     if (going == Going::nothing) return;
-    record(history, ed, going == Going::run ? runName : gestureName(history.shown, ed, "Node moved"));
+    const bool isRun = going == Going::run;
+    record(history, ed, isRun ? runName : gestureName(history.shown, ed, "Node moved"), isRun);
 }
 
 namespace {

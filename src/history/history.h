@@ -24,7 +24,8 @@ struct Step {
     std::string what;  // for a person: "All nodes removed"
     Context before, after;
     Difference difference;
-    std::uint64_t from = 0, to = 0;  // the states it leads between, see History::state
+    std::uint64_t from = 0, to = 0;   // the states it leads between, see History::state
+    bool run = false, loses = false;  // loses: threw away what no file holds
 };
 
 enum class Event {
@@ -42,7 +43,7 @@ struct History {
 
     // The state that each project's file holds, by the project's name.
     std::map<std::string, std::uint64_t> filed;
-    std::int32_t filedCount = 0;
+    std::int32_t filedCount = 0, replacedCount = 0;
 
     // What has changed since then and goes on changing.
     enum class Going { nothing, run, drag } going = Going::nothing;

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace zentrik {
 
@@ -20,6 +21,10 @@ public:
     virtual void messageBox(const std::string& text, const std::string& title, BoxIcon icon) = 0;
     // Modal question with OK and Cancel and the information icon; true for OK.
     virtual bool confirm(const std::string& text, const std::string& title) = 0;
+    // Modal question with a button for each choice; gives the number of the chosen one, from 0. Escape
+    // chooses `otherwise`.
+    virtual std::size_t choose(const std::string& text, const std::string& title,
+                               const std::vector<std::string>& choices, std::size_t otherwise) = 0;
     // The system's colour chooser; -1 when cancelled.
     virtual std::int32_t SelectColor() = 0;
     virtual void beep() = 0;

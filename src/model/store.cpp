@@ -106,6 +106,7 @@ void showCounts(Editor& ed) {
 }
 
 void ClearAnimation(Editor& ed) {
+    ++ed.replacedCount;
     ed.Nodes.assign(1, Node{});
     ed.Links.assign(1, Link{});
     NoSelections(ed);

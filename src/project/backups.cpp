@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <mutex>
 #include <system_error>
 
 namespace zentrik {
@@ -95,6 +96,32 @@ void dropOldest(const fs::path& folder, const std::string& project, const fs::pa
     }
 }
 
+// Keeps something as the newest version: put makes its file, unless it equals a version kept before, which
+// then takes that place.
+template <class Equals, class Put>
+std::string keep(const std::string& programFolder, const std::string& project, Equals equals, Put put) {
+    static std::mutex oneAtATime;
+    const std::lock_guard guard(oneAtATime);
+    const fs::path folder = backupsFolder(programFolder);
+    std::error_code error;
+    fs::create_directory(folder, error);
+    const std::vector<FormerVersion> versions = formerVersions(programFolder, project);
+    // A clock put back must not make the newest version the oldest.
+    const std::int64_t least = versions.empty() ? 0 : versions.front().replaced + 1;
+    const fs::path version = versionPath(folder, project, std::max(millisecondsNow(), least));
+    const auto kept = std::find_if(versions.begin(), versions.end(),
+                                   [&](const FormerVersion& v) { return equals(v.path); });
+    if (kept != versions.end()) {
+        fs::rename(kept->path, version, error);
+        if (error) return error.message() + ".";
+    } else if (std::string problem = put(version); !problem.empty()) {
+        return problem;
+    }
+    if (std::string problem = syncFolder(folder.string()); !problem.empty()) return problem;
+    dropOldest(folder, project, version);
+    return {};
+}
+
 }  // namespace
 
 fs::path backupsFolder(const std::string& programFolder) {
@@ -113,24 +140,16 @@ std::string keepFormer(const std::string& programFolder, const std::string& proj
     const WriteTarget file = writeTarget(projectPath(programFolder, project).string(), programFolder);
     if (!file.problem.empty()) return file.problem;
     if (!file.exists || (replacement && holds(file.path, *replacement))) return {};
-    const fs::path folder = backupsFolder(programFolder);
-    std::error_code error;
-    fs::create_directory(folder, error);
-    const std::vector<FormerVersion> versions = formerVersions(programFolder, project);
-    // A clock put back must not make the newest version the oldest.
-    const std::int64_t least = versions.empty() ? 0 : versions.front().replaced + 1;
-    const fs::path version = versionPath(folder, project, std::max(millisecondsNow(), least));
-    const auto kept = std::find_if(versions.begin(), versions.end(),
-                                   [&](const FormerVersion& v) { return sameContents(v.path, file.path); });
-    if (kept != versions.end()) {
-        fs::rename(kept->path, version, error);
-        if (error) return error.message() + ".";
-    } else if (std::string problem = putVersion(file.path, version); !problem.empty()) {
-        return problem;
-    }
-    if (std::string problem = syncFolder(folder.string()); !problem.empty()) return problem;
-    dropOldest(folder, project, version);
-    return {};
+    return keep(
+        programFolder, project, [&](const fs::path& version) { return sameContents(version, file.path); },
+        [&](const fs::path& version) { return putVersion(file.path, version); });
+}
+
+std::string keepVersion(const std::string& programFolder, const std::string& project,
+                        std::string_view bytes) {
+    return keep(
+        programFolder, project, [&](const fs::path& version) { return holds(version, bytes); },
+        [&](const fs::path& version) { return writeFile(version.string(), bytes); });
 }
 
 std::string renameVersions(const std::string& programFolder, const std::string& from, const std::string& to) {

@@ -33,6 +33,8 @@ std::vector<FormerVersion> formerVersions(const std::string& programFolder, cons
 std::string keepFormer(const std::string& programFolder, const std::string& project,
                        std::optional<std::string_view> replacement);
 
+// The same for a model that never was a file. Any thread may call both.
+std::string keepVersion(const std::string& programFolder, const std::string& project, std::string_view bytes);
 // Makes the versions of one project those of another. Gives the problem in words, or the empty text.
 std::string renameVersions(const std::string& programFolder, const std::string& from, const std::string& to);
 

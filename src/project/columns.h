@@ -13,14 +13,14 @@
 namespace zentrik {
 
 inline constexpr std::string_view magicWord = "Zentrik";  // every project file begins with it
-inline constexpr std::string_view separator = " : ";
+inline constexpr std::string_view fieldSeparator = " : ";
 inline constexpr std::string_view lineEnd = "\r\n";
 
 template <class Record>
 struct Column {
     std::string_view name;
     std::variant<bool Record::*, std::int32_t Record::*, float Record::*, std::string Record::*> member;
-    std::string_view afterName = separator;  // in the comment line
+    std::string_view afterName = fieldSeparator;  // in the comment line
 };
 
 // What is wrong with a field, in the order of the variant above.

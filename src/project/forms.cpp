@@ -41,7 +41,7 @@ bool readSlowly(std::string_view text, double& value) {
 }
 
 bool fitsItsField(const std::string& text) {
-    return text.find_first_of("\r\n") == std::string::npos && (text + " : ").find(separator) == text.size();
+    return text.find_first_of("\r\n") == std::string::npos && (text + " : ").find(fieldSeparator) == text.size();
 }
 
 }  // namespace
@@ -115,9 +115,9 @@ void appendForm(std::string& out, const std::string& value) {
     }
     std::string text = oneLine(value);
     // The separator behind the field counts too: with it, a text ending in " :" ends early.
-    text += separator;
-    const std::size_t end = text.size() - separator.size();
-    for (std::size_t at = 0; (at = text.find(separator, at)) < end; ++at) text[at + 1] = ';';
+    text += fieldSeparator;
+    const std::size_t end = text.size() - fieldSeparator.size();
+    for (std::size_t at = 0; (at = text.find(fieldSeparator, at)) < end; ++at) text[at + 1] = ';';
     out.append(text, 0, end);
 }
 

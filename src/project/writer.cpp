@@ -11,7 +11,7 @@ namespace {
 template <class Record, std::size_t count>
 void appendFields(std::string& out, const Column<Record> (&columns)[count], const Record& record) {
     for (const auto& column : columns) {
-        out += separator;
+        out += fieldSeparator;
         std::visit([&](auto member) { appendForm(out, record.*member); }, column.member);
     }
     out += lineEnd;

@@ -59,6 +59,7 @@ void SaveState(Editor& ed) {
 }
 
 void RestoreState(Editor& ed) {
+    ++ed.replacedCount;
     NoSelections(ed);
     ed.Nodes = ed.SavedNodes;
     ed.Links = ed.SavedLinks;
