@@ -1,9 +1,13 @@
 // What keeping the history adds to an event, and what a step back costs. Argument: nodes.
 
 #include "history/history.h"
+#include "history/timeline.h"
 #include "scenes/scenes.h"
+#include "sim/run.h"
 
 #include <benchmark/benchmark.h>
+
+#include <memory>
 
 namespace zentrik {
 namespace {
@@ -56,6 +60,45 @@ void undoAndRedo(benchmark::State& state) {
     }
 }
 
+// What a recovery copy takes of the event loop; a worker writes it.
+void copyOfTheModel(benchmark::State& state) {
+    const Editor ed = scenes::latticeOf(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        auto copy = std::make_unique<Editor>();
+        copyContents(*copy, ed);
+        benchmark::DoNotOptimize(copy);
+    }
+    state.counters["links"] = static_cast<double>(ed.Links.size());
+}
+
+// After a run of a thousand steps, step by step back.
+void stepBackInTime(benchmark::State& state) {
+    Editor ed = scenes::latticeOf(static_cast<int>(state.range(0)));
+    Timeline timeline;
+    ed.Timer1.enabled = true;
+    const int steps = 1000;
+    for (int i = 0; i < steps; ++i) tick(timeline, ed);
+    for (auto _ : state) {
+        travel(timeline, ed, -1);
+        if (timeline.at <= 1) travel(timeline, ed, steps);
+    }
+    state.counters["moments"] = static_cast<double>(timeline.moments.size());
+}
+void tickWithTimeline(benchmark::State& state) {
+    Editor ed = scenes::latticeOf(static_cast<int>(state.range(0)));
+    Timeline timeline;
+    ed.Timer1.enabled = true;
+    for (auto _ : state) tick(timeline, ed);
+}
+void tickWithoutTimeline(benchmark::State& state) {
+    Editor ed = scenes::latticeOf(static_cast<int>(state.range(0)));
+    for (auto _ : state) Timer1_Timer(ed);
+}
+
+BENCHMARK(stepBackInTime)->Arg(100)->Arg(10000)->Unit(benchmark::kMillisecond);
+BENCHMARK(tickWithTimeline)->Arg(100)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(tickWithoutTimeline)->Arg(100)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(copyOfTheModel)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(eventWithoutChange)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(oneNodeMoved)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(everyNodeMoved)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);

@@ -24,7 +24,7 @@ allow effects none model effects
 allow project none model project
 allow display 'Q(Painter|PainterPath|Image|ImageReader|Pixmap|Font|FontMetricsF?|Color|PointF?|LineF?|RectF?|Size|SizeF|Pen|Brush|String|StringList|Hash|List|SvgRenderer|Buffer|ByteArray|Dir|File|FileInfo|Transform|StaticText|Vector|TextStream|RawFont|GlyphRun|TextLayout|Polygon|PolygonF)' model display
 allow edit none model sim effects edit
-allow history none model history
+allow history none model sim history
 allow ui none model sim effects project display edit history ui
 allow app '.*' model sim effects project display edit history ui app
 

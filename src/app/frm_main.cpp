@@ -59,6 +59,7 @@ frmMain::frmMain(const QString& folder)
     connectBars();
     connectLists();
     connectUndo();
+    connectTime();
     connectViews();
     connectTimers();
     Form_Load(folder);
@@ -215,6 +216,10 @@ void frmMain::placePathWindow(bool visible) {
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     // A wheel turned over the closed list would change the selected node's sprite.
     if (event->type() == QEvent::Wheel && watched == bars_.lstSprites) return true;
+    if (event->type() == QEvent::Wheel && watched == panels_[3]) {
+        turnTime(*static_cast<QWheelEvent*>(event));
+        return true;
+    }
     return QMainWindow::eventFilter(watched, event);
 }
 

@@ -8,8 +8,10 @@
 #include "app/undo_buttons.h"
 #include "app/views.h"
 #include "history/history.h"
+#include "history/timeline.h"
 #include "model/editor.h"
 #include "ui/menus.h"
+#include "ui/time_travel.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -56,10 +58,12 @@ private:
 
     Editor ed_;
     History history_;
+    Timeline timeline_;
     DesktopHost host_;
     UserSettings settings_;
     RecoveryKeeper* recovery_ = nullptr;
     bool ended_ = false;
+    int wheelTurn_ = 0;  // over the clock, eighths of a degree
     std::vector<MenuEntry> marks_;
     std::array<QLabel*, 5> panels_{};
     QTimer Timer1_, timerFireWorks_;
@@ -77,6 +81,7 @@ private:
     void connectBars();
     void connectLists();
     void connectUndo();
+    void connectTime();
     void connectViews();
     void connectTimers();
     void connectRecovery();
@@ -87,12 +92,15 @@ private:
     void restorePlacement(const Placement& placement);
     void placePathWindow(bool visible);
     void layOutWindow();
+    void goThroughTime(int steps);
+    void turnTime(const QWheelEvent& event);
     template <class Procedure>
     void run(Event event, const std::string& what, Procedure procedure) {
         follow([&](Editor& ed, Host& host) {
             beginEvent(history_, ed, event);
             procedure(ed, host);
             endEvent(history_, ed, event, what);
+            followEvent(timeline_, ed, history_, event);
         });
     }
     // Runs what changes nothing that undo knows.

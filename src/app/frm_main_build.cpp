@@ -10,14 +10,17 @@
 #include "ui/online.h"
 #include "ui/phase_manager.h"
 #include "ui/sprite_commands.h"
+#include "ui/time_travel.h"
 #include "ui/undo.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QWheelEvent>
 
 namespace zentrik {
 
@@ -127,8 +130,39 @@ void frmMain::connectLists() {
 
 void frmMain::connectUndo() {
     menuBar()->setCornerWidget(undo_);
-    undo_->undo = [this] { follow([this](Editor& ed, Host&) { undoLast(ed, history_); }); };
-    undo_->redo = [this] { follow([this](Editor& ed, Host&) { redoNext(ed, history_); }); };
+    const auto take = [this](void (*way)(Editor&, History&)) {
+        follow([&](Editor& ed, Host&) { way(ed, history_); });
+        forgetRun(timeline_);
+    };
+    undo_->undo = [take] { take(undoLast); };
+    undo_->redo = [take] { take(redoNext); };
+}
+
+void frmMain::connectTime() {
+    struct Key {
+        const char* key;
+        int steps;
+    };
+    for (const Key& it :
+         {Key{"Ctrl+Left", -1}, {"Ctrl+Right", 1}, {"Ctrl+Shift+Left", -100}, {"Ctrl+Shift+Right", 100}})
+        connect(new QShortcut(QKeySequence(it.key), this), &QShortcut::activated, this,
+                [this, steps = it.steps] { goThroughTime(steps); });
+    panels_[3]->installEventFilter(this);
+    panels_[3]->setToolTip(
+        "Turn the wheel here, or press Ctrl+Left and Ctrl+Right, to go through the run step by step; with "
+        "Shift a hundred steps");
+}
+
+void frmMain::goThroughTime(int steps) {
+    follow([&](Editor& ed, Host&) { travelBy(ed, history_, timeline_, steps); });
+}
+
+// A notch of the wheel is a step; away from the person is on.
+void frmMain::turnTime(const QWheelEvent& event) {
+    wheelTurn_ += event.angleDelta().y() + event.angleDelta().x();
+    const int notches = wheelTurn_ / QWheelEvent::DefaultDeltasPerStep;
+    wheelTurn_ %= QWheelEvent::DefaultDeltasPerStep;
+    if (notches != 0) goThroughTime(notches * (event.modifiers().testFlag(Qt::ShiftModifier) ? 100 : 1));
 }
 
 void frmMain::connectRecovery() {
@@ -190,7 +224,10 @@ void frmMain::connectTimers() {
     timerFireWorks_.setParent(this);
     connect(&timerFireWorks_, &QTimer::timeout, this, [this] {
         if (ed_.Timer1.enabled)  // the show is part of the run
-            run(Event::timer, "", [](Editor& ed, Host&) { timerFireWorks_Timer(ed); });
+            run(Event::timer, "", [this](Editor& ed, Host&) {
+                timerFireWorks_Timer(ed);
+                noteEdit(timeline_);
+            });
     });
 }
 

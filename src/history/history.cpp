@@ -12,6 +12,7 @@ namespace {
 using Going = History::Going;
 
 constexpr const char* runName = "Animation run";
+constexpr const char* travelName = "Other moment of the run";
 
 Context contextOf(const Editor& ed) {
     return {ed.SelectedNode, ed.SelectedLink, ed.SelectedAnimatorLink, ed.savedText};
@@ -61,14 +62,14 @@ bool record(History& history, const Editor& ed, const std::string& what, bool is
     return true;
 }
 
-// The newest step is a run that goes on: as if it had not been made one.
-void reopenRun(History& history) {
+// The newest step goes on: as if it had not been made one.
+void reopen(History& history, Going going) {
     apply(history.done.back().difference, Way::back, history.shown);
     history.state = history.done.back().from;
     history.context = history.done.back().before;
     history.bytes -= bytesOf(history.done.back());
     history.done.pop_back();
-    history.going = Going::run;
+    history.going = going;
 }
 
 // What a mouse gesture did, told from what it left.
@@ -119,21 +120,23 @@ void startHistory(History& history, const Editor& ed) {
 
 void beginEvent(History& history, const Editor& ed, Event event) {
     history.said = ed.panels[4];
-    history.stepped = false;
+    history.stepped = Going::nothing;
     if (event == Event::timer) {
         if (history.going == Going::nothing) history.context = contextOf(ed);
         return;
     }
-    const bool running = history.going == Going::run;
-    if (running || event == Event::command) {
+    const Going going = history.going;
+    const bool ofTime = going == Going::run || going == Going::travel;
+    if (ofTime || event == Event::command) {
         const std::uint64_t before = history.state;
         closeStep(history, ed);
-        history.stepped = running && history.state != before;
+        if (ofTime && history.state != before) history.stepped = going;
     }
     if (history.going == Going::nothing) history.context = contextOf(ed);
 }
 
 void endEvent(History& history, const Editor& ed, Event event, const std::string& what) {
+    history.changed = false;
     if (event == Event::timer) return endTick(history, ed);
     const std::uint64_t before = history.state;
     if (event == Event::mouse)
@@ -143,15 +146,26 @@ void endEvent(History& history, const Editor& ed, Event event, const std::string
 
     const bool filed = std::exchange(history.filedCount, ed.filedCount) != ed.filedCount;
     if (filed) history.filed[ed.savedText] = history.state;
-    const bool changed = history.state != before || history.going != Going::nothing;
-    if (history.stepped && !changed && !filed && ed.Timer1.enabled) reopenRun(history);
+    history.changed = history.state != before || history.going != Going::nothing;
+    const bool goesOn = history.stepped == Going::travel || ed.Timer1.enabled;
+    if (history.stepped != Going::nothing && goesOn && !history.changed && !filed)
+        reopen(history, history.stepped);
+}
+
+void beginTravel(History& history, const Editor& ed) {
+    if (history.going == Going::travel) return;
+    closeStep(history, ed);
+    history.context = contextOf(ed);
+    history.going = Going::travel;
 }
 
 void closeStep(History& history, const Editor& ed) {
     const Going going = std::exchange(history.going, Going::nothing);
     if (going == Going::nothing) return;
-    const bool isRun = going == Going::run;
-    record(history, ed, isRun ? runName : gestureName(history.shown, ed, "Node moved"), isRun);
+    if (going == Going::drag)
+        record(history, ed, gestureName(history.shown, ed, "Node moved"));
+    else
+        record(history, ed, going == Going::run ? runName : travelName, true);
 }
 
 namespace {

@@ -46,10 +46,11 @@ struct History {
     std::int32_t filedCount = 0, replacedCount = 0;
 
     // What has changed since then and goes on changing.
-    enum class Going { nothing, run, drag } going = Going::nothing;
-    bool stepped = false;  // a run that goes on was made a step for the event at hand
-    Context context;       // as it was when nothing was going on
-    std::string said;      // status panel 5 before the event
+    enum class Going { nothing, run, drag, travel } going = Going::nothing;
+    Going stepped = Going::nothing;  // what goes on and was made a step for the event at hand
+    bool changed = false;            // the last event changed the model
+    Context context;                 // as it was when nothing was going on
+    std::string said;                // status panel 5 before the event
 };
 
 // Forgets all steps; the model as it stands is the first state, and counts as filed.
@@ -58,6 +59,9 @@ void startHistory(History& history, const Editor& ed);
 void beginEvent(History& history, const Editor& ed, Event event);
 // what: names the step where the event itself did not say in status panel 5 what it did.
 void endEvent(History& history, const Editor& ed, Event event, const std::string& what);
+
+// The model is taken to another moment of its run; where it stays is a step.
+void beginTravel(History& history, const Editor& ed);
 
 // Makes what is going on a step, so that it can be undone.
 void closeStep(History& history, const Editor& ed);

@@ -1,0 +1,38 @@
+#include "ui/time_travel.h"
+
+#include "model/redraw.h"
+#include "model/store.h"
+
+#include <utility>
+
+namespace zentrik {
+
+void travelBy(Editor& ed, History& history, Timeline& timeline, int steps) {
+    if (ed.Timer1.enabled) return;
+    if (timeline.moments.empty()) {
+        panel(ed, 5) = "Start the animation first: there is no run to go through.";
+        return;
+    }
+    beginTravel(history, ed);
+    travel(timeline, ed, steps);
+    if (!nodeExists(ed, ed.SelectedNode) || !nodeAt(ed, ed.SelectedNode).Used) ed.SelectedNode = none;
+    if (!linkExists(ed, ed.SelectedLink) || !linkAt(ed, ed.SelectedLink).Used) ed.SelectedLink = none;
+    ed.HoverNode = ed.HoverLink = none;
+    ed.DrawMode = ed.DrawMode && ed.SelectedNode != none;
+    showCounts(ed);
+    redrawPhaseManager(ed, ed.AnimationTime);
+    DisplayScene(ed, -1, -1);
+    panel(ed, 5) = "Step " + std::to_string(timeline.at) + " of " + std::to_string(timeline.last);
+}
+
+void followEvent(Timeline& timeline, const Editor& ed, const History& history, Event event) {
+    const bool replaced = std::exchange(timeline.replacedCount, ed.replacedCount) != ed.replacedCount;
+    if (!ed.Timer1.enabled) timeline.running = false;
+    if (event == Event::timer) return;
+    if (replaced)
+        forgetRun(timeline);
+    else if (history.changed)
+        noteEdit(timeline);
+}
+
+}  // namespace zentrik

@@ -1,0 +1,163 @@
+// Going back and forth through a run gives the bits that the run gave.
+
+#include "history/timeline.h"
+
+#include "edit/mouse.h"
+#include "effects/fireworks.h"
+#include "random_model.h"
+#include "rig.h"
+#include "scenes/scenes.h"
+#include "sim/run.h"
+#include "ui/menus.h"
+#include "ui/time_travel.h"
+#include "ui/undo.h"
+#include "undo_walk.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace zentrik {
+namespace {
+
+class TimeTravel : public testing::Test {
+protected:
+    Editor ed_;
+    Timeline timeline_;
+    History history_;
+    ScriptedHost host_;
+    std::vector<std::string> images_;  // of every step of the run
+
+    void begin(Editor ed) {
+        ed_ = std::move(ed);
+        ed_.Timer1.enabled = ed_.buttons.start = false;
+        startHistory(history_, ed_);
+        timeline_ = Timeline{};
+        timeline_.replacedCount = ed_.replacedCount;
+        images_.clear();
+        command([&] { ed_.buttons.start = true, startClicked(ed_, host_); });
+    }
+    void perform(Event event, auto act) {
+        beginEvent(history_, ed_, event);
+        act();
+        endEvent(history_, ed_, event, "Change");
+        followEvent(timeline_, ed_, history_, event);
+    }
+    void command(auto act) { perform(Event::command, act); }
+    void run(int steps) {
+        if (images_.empty()) images_.push_back(imageOf(ed_));
+        for (; steps > 0 && ed_.Timer1.enabled; --steps) {
+            perform(Event::timer, [&] { tick(timeline_, ed_); });
+            images_.push_back(imageOf(ed_));
+        }
+    }
+    void edit(auto act) {
+        command(act);
+        images_.back() = imageOf(ed_);
+    }
+    void stop() {
+        command([&] { stopAnimation(ed_); });
+    }
+    void go(int steps) { travelBy(ed_, history_, timeline_, steps); }
+    bool asItWas() const { return imageOf(ed_) == images_.at(static_cast<std::size_t>(timeline_.at)); }
+    void wander(std::uint32_t seed, int ways) {
+        std::mt19937 random(seed);
+        for (; ways > 0; --ways) {
+            const int far = random() % 3 == 0 ? 400 : 3;
+            go(static_cast<int>(random() % static_cast<unsigned>(2 * far + 1)) - far);
+            ASSERT_TRUE(asItWas()) << "step " << timeline_.at << " of " << timeline_.last << ", seed "
+                                   << seed;
+        }
+    }
+};
+
+// A redraw after a journey may leave traces of its own.
+Editor quiet(Editor ed) {
+    ed.buttons.ball = ed.marks.mnuDisplayAngleManager = false;
+    return ed;
+}
+
+TEST_F(TimeTravel, GivesTheSameBitsWhateverHappenedInTheRun) {
+    for (std::uint32_t seed = 1; seed <= 40; ++seed) {
+        begin(quiet(randomModel(seed)));
+        ed_.marks.mnuRandom = seed % 2 == 0;
+        ed_.marks.mnuDisplayFireWorks = seed % 3 == 0;
+        timeline_.limit = seed % 4 == 0 ? 40000 : 64U << 20;
+        run(70);
+        if (!ed_.Timer1.enabled) continue;
+        edit([&] { ed_.marks.mnuWalls = !ed_.marks.mnuWalls; });
+        run(30);
+        perform(Event::timer, [&] { timerFireWorks_Timer(ed_), noteEdit(timeline_); });
+        images_.back() = imageOf(ed_);
+        run(50);
+        edit([&] { ed_.Gravity += 1, ed_.buttons.slow = true; });
+        run(60);
+        stop();
+        wander(seed, 60);
+        EXPECT_LE(timeline_.bytes, timeline_.limit + 200000);
+    }
+}
+
+TEST_F(TimeTravel, AChangeAtAnEarlierTimeMakesThatThePresent) {
+    Editor ed = scenes::fullScreen();
+    scenes::addNodes(ed, {{3000, 1000}, {4000, 1000}});
+    scenes::addLinks(ed, {{1, 2}});
+    begin(ed);
+    run(50);
+    stop();
+    const std::string end = imageOf(ed_);
+    go(-20);
+    EXPECT_EQ(panel(ed_, 5), "Step 30 of 50");
+    EXPECT_TRUE(asItWas());
+    go(-1000);
+    EXPECT_EQ(timeline_.at, 0);
+    go(1000);
+    EXPECT_TRUE(imageOf(ed_) == end);
+    EXPECT_EQ(history_.done.size(), 1U) << "a journey there and back is no step";
+    go(-20);
+    command([&] { ed_.buttons.grid = !ed_.buttons.grid; });
+    go(5);
+    EXPECT_EQ(panel(ed_, 5), "Step 35 of 50") << "an option that no step reads drops nothing";
+    go(-5);
+    command([&] { ed_.Nodes[1].Mass = 3; });
+    go(5);
+    EXPECT_EQ(panel(ed_, 5), "Step 30 of 30");
+    EXPECT_EQ(ed_.Nodes[1].Mass, 3);
+    go(-1);
+    EXPECT_EQ(ed_.Nodes[1].Mass, 1);
+    go(1);
+    EXPECT_EQ(ed_.Nodes[1].Mass, 3);
+    undoLast(ed_, history_);
+    undoLast(ed_, history_);
+    EXPECT_TRUE(imageOf(ed_) == end) << "what was dropped comes back by undo";
+}
+
+TEST_F(TimeTravel, StartingGoesOnFromThere) {
+    Editor ed = scenes::fullScreen();
+    scenes::addNodes(ed, {{3000, 1000}});
+    begin(ed);
+    run(40);
+    const std::string fortieth = images_.back();
+    stop();
+    go(-15);
+    for (int i = 0; i < 3; ++i) {
+        command([&] { singleClicked(ed_, host_); });
+        perform(Event::timer, [&] { tick(timeline_, ed_); });
+    }
+    EXPECT_EQ(timeline_.last, 28);
+    EXPECT_TRUE(imageOf(ed_) == images_[28]);
+    command([&] { ed_.buttons.start = true, startClicked(ed_, host_); });
+    go(-1);
+    EXPECT_EQ(timeline_.at, 28) << "only while it stands";
+    for (int i = 0; i < 12; ++i) perform(Event::timer, [&] { tick(timeline_, ed_); });
+    EXPECT_TRUE(imageOf(ed_) == fortieth);
+    stop();
+    go(-100);
+    EXPECT_TRUE(imageOf(ed_) == images_[28]) << "the run begins at its last start";
+    command([&] { ClearAnimation(ed_); });
+    go(-1);
+    EXPECT_EQ(panel(ed_, 5), "Start the animation first: there is no run to go through.");
+}
+
+}  // namespace
+}  // namespace zentrik
