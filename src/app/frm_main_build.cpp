@@ -114,7 +114,10 @@ void frmMain::connectLists() {
     };
     list.entered = [this] { perform("Project saved", lstSaved_Enter); };
     list.left = [this] { picS_->setFocus(); };
-    attachProjectMenu(list, [this](const ProjectMenuRow& row) { perform(row.what, row.command); });
+    attachProjectMenu(list, [this](const ProjectMenuRow& row) {
+        perform(row.what, row.command);
+        picS_->setFocus();
+    });
     bars_.lstSprites->installEventFilter(this);
     connect(bars_.lstSprites, &QComboBox::activated, this, [this](int entry) {
         perform("Sprite", [&](Editor& ed, Host&) {

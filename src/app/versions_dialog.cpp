@@ -82,6 +82,7 @@ VersionsDialog::VersionsDialog(const std::string& project, const std::vector<std
     setObjectName("VersionsBox");
     setWindowTitle("Earlier versions of " + QString::fromStdString(project).left(longestTitle));
     rows_->setHeaderLabels({"Picture", "Saved", "Nodes", "Links", "Title"});
+    for (const int column : {nodes, links}) rows_->headerItem()->setTextAlignment(column, Qt::AlignRight);
     rows_->setRootIsDecorated(false);
     rows_->setIconSize(pictureSize());
     for (const std::string& file : files_) {
