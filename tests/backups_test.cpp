@@ -104,6 +104,11 @@ TEST_F(Backups, TheOldestGoFirstAndNeverTheOneJustKept) {
               2U);
     EXPECT_EQ(formerVersions(ed.programFolder, "a").size(), 20U) << "small ones stay";
     EXPECT_EQ(entriesIn(folder.path / "backups"), 20U + 3 + 1);
+    const int ahead = 2000000000;  // another project's, kept while the clock was wrong
+    putVersion("ahead", ahead, 256ULL << 20);
+    putFile(file("d"), std::string(10U << 20, 'e'));
+    EXPECT_EQ(keep("d"), "");
+    EXPECT_EQ(formerVersions(ed.programFolder, "d").size(), 1U) << "the newest of it";
 }
 
 TEST_F(Backups, AClockPutBackKeepsTheOrder) {

@@ -155,6 +155,20 @@ TEST_F(Recovery, ASignalEndsTheProgramAsItsCloseButtonDoes) {
     EXPECT_TRUE(fs::exists(folder_.path / "Zentrik" / "zoo" / "resume.bot"));
 }
 
+TEST_F(Recovery, ALimitOfTheFileSizeEndsNothingAndSpoilsNothing) {
+    click({100, 100});
+    ASSERT_TRUE(window_->close());
+    const fs::path files[] = {folder_.path / "zoo/resume.bot",
+                              folder_.path / "settings/Zentrik/Zentrik.conf"};
+    const std::string before = contentOf(files[0]) + contentOf(files[1]);
+    const QStringList limited{"-c", "ulimit -f 1; exec \"$0\" \"$1\"", ZENTRIK_SUBJECT,
+                              QString::fromStdString(folder_.path.string())};
+    Program program("/bin/sh", folder_.path, limited);
+    ASSERT_EQ(program.line(), "drawn\n");
+    EXPECT_TRUE(program.end(SIGTERM));
+    EXPECT_EQ(contentOf(files[0]) + contentOf(files[1]), before);
+}
+
 TEST_F(Recovery, WhatCannotBeFiledAtTheEndIsLeftAsACopy) {
     click({100, 100});
     fs::remove_all(folder_.path / "zoo");

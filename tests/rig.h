@@ -8,8 +8,10 @@
 
 #include <array>
 #include <deque>
+#include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace zentrik {
 
@@ -19,6 +21,8 @@ public:
     bool confirms = true;
     std::optional<std::size_t> chosen;  // none = Escape
     std::int32_t colour = none;
+    std::int32_t version = none;  // chosen
+    bool hasTrash = false;
     bool desktopWorks = true;
     int beeps = 0;
     std::string transcript;
@@ -45,6 +49,10 @@ public:
         note("choose", text + "|" + title + names);
         return chosen.value_or(otherwise);
     }
+    std::int32_t chooseVersion(const std::string& project, const std::vector<std::string>& files) override {
+        note("version", project + "|" + std::to_string(files.size()));
+        return version;
+    }
     std::int32_t SelectColor() override {
         note("colour", "");
         return colour;
@@ -57,6 +65,10 @@ public:
     bool openAddress(const std::string& address) override {
         note("open", address);
         return desktopWorks;
+    }
+    bool moveToTrash(const std::string& file) override {
+        note("trash", file.substr(file.find_last_of('/') + 1));
+        return hasTrash && std::filesystem::remove(file);
     }
     void fetchMessage(const std::string& address) override { note("fetch", address); }
     void showAbout() override { note("about", ""); }

@@ -4,13 +4,11 @@
 #include "temporary_folder.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <QLockFile>
 #include <QSettings>
 
 #include <chrono>
-#include <csignal>
 #include <random>
 
 namespace zentrik {
@@ -116,14 +114,11 @@ TEST_F(SettingsFile, AFullDiskKeepsTheFormerSettingsAndIsSaid) {
                 EXPECT_EQ(contentOf(file), former);
         }
     EXPECT_EQ(entriesIn(file.parent_path()), 1U) << "no lock stays to be waited for";
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{4096, before.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    EXPECT_NE(program.store(), "");
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
+    {
+        const FileSizeLimit limit(4096);
+        ASSERT_TRUE(limit.works);
+        EXPECT_NE(program.store(), "");
+    }
     EXPECT_EQ(contentOf(file), former);
     EXPECT_EQ(entriesIn(file.parent_path()), 1U);
 }

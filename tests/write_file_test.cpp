@@ -5,12 +5,9 @@
 
 #include <gtest/gtest.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <chrono>
-
-#include <csignal>
 
 namespace zentrik {
 
@@ -123,14 +120,11 @@ TEST(WriteFile, SweepsOnlyOldOrdinaryFilesOfItsOwnNaming) {
 TEST(WriteFile, KeepsTheOldFileAtTheFileSizeLimit) {
     const TemporaryFolder folder;
     putFile(folder.path / "a.bot", "old");
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{4096, before.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    for (const std::size_t size : tooLarge) expectRefused(folder.path / "a.bot", size);
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
+    {
+        const FileSizeLimit limit(4096);
+        ASSERT_TRUE(limit.works);
+        for (const std::size_t size : tooLarge) expectRefused(folder.path / "a.bot", size);
+    }
     EXPECT_EQ(writeFile((folder.path / "a.bot").string(), std::string(5000, 'x')), "");
 }
 

@@ -3,6 +3,8 @@
 
 #include "app/frm_main.h"
 #include "app/program_folder.h"
+#include "app/versions_dialog.h"
+#include "project/backups.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -144,6 +146,24 @@ void takeEditing(Photographer& camera) {
     camera.takeMenu("mnuSettings", "settings");
 }
 
+// What three more saves leave behind.
+void takeVersions(Photographer& camera, const std::string& folder) {
+    camera.open("walker");
+    for (int i = 0; i < 3; ++i) {
+        camera.click({150 + 60 * i, 60});
+        camera.press("rotate");
+        camera.press("save");
+        QTest::qWait(1100);  // the times differ
+    }
+    std::vector<std::string> files;
+    for (const auto& version : zentrik::formerVersions(folder, "walker"))
+        files.push_back(version.path.string());
+    zentrik::VersionsDialog dialog("walker", files, nullptr);
+    dialog.show();
+    QTest::qWait(300);
+    camera.take(&dialog, "versions");
+}
+
 void takeStrips(Photographer& camera) {
     camera.resize(1200, 500);
     camera.open("wheel");
@@ -205,6 +225,7 @@ int main(int argc, char** argv) {
     Photographer camera(home.path(), QString::fromLocal8Bit(argv[1]));
     takeOverview(camera);
     takeEditing(camera);
+    takeVersions(camera, home.path().toStdString());
     takeStrips(camera);
     takeShows(camera);
     return 0;

@@ -1,6 +1,7 @@
 #include "app/desktop_host.h"
 
 #include "app/about_box.h"
+#include "app/versions_dialog.h"
 #include "model/records.h"
 #include "model/units.h"
 
@@ -8,6 +9,7 @@
 #include <QClipboard>
 #include <QColorDialog>
 #include <QDesktopServices>
+#include <QFile>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -96,6 +98,11 @@ std::size_t DesktopHost::choose(const std::string& question, const std::string& 
     return chosen < 0 ? otherwise : static_cast<std::size_t>(chosen);
 }
 
+std::int32_t DesktopHost::chooseVersion(const std::string& project, const std::vector<std::string>& files) {
+    VersionsDialog dialog(project, files, &window_);
+    return run(dialog, open_) == QDialog::Accepted ? dialog.chosen() : none;
+}
+
 std::int32_t DesktopHost::SelectColor() {
     QColorDialog dialog(&window_);
     dialog.setObjectName("ColorBox");
@@ -115,6 +122,8 @@ bool DesktopHost::setClipboard(const std::string& content) {
 bool DesktopHost::openAddress(const std::string& address) {
     return QDesktopServices::openUrl(QUrl::fromEncoded(QByteArray::fromStdString(address)));
 }
+
+bool DesktopHost::moveToTrash(const std::string& file) { return QFile::moveToTrash(text(file)); }
 
 void DesktopHost::fetchMessage(const std::string& address) { fetcher_.fetch(QUrl(text(address))); }
 

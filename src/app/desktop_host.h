@@ -28,10 +28,12 @@ public:
     bool confirm(const std::string& text, const std::string& title) override;
     std::size_t choose(const std::string& text, const std::string& title,
                        const std::vector<std::string>& choices, std::size_t otherwise) override;
+    std::int32_t chooseVersion(const std::string& project, const std::vector<std::string>& files) override;
     std::int32_t SelectColor() override;
     void beep() override;
     bool setClipboard(const std::string& text) override;
     bool openAddress(const std::string& address) override;
+    bool moveToTrash(const std::string& file) override;
     void fetchMessage(const std::string& address) override;
     void showAbout() override;
     void resizeWindow(int width, int height) override;

@@ -32,6 +32,7 @@ void handle(void (*handler)(int)) {
 }  // namespace
 
 EndSignals::EndSignals() {
+    std::signal(SIGXFSZ, SIG_IGN);  // a save beyond the limit of a file's size fails instead of ending us
     if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0) return;
     auto* notifier = new QSocketNotifier(ends[0], QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {

@@ -1,6 +1,7 @@
 // How the main window is put together: its bars, its areas and what their events start.
 
 #include "app/frm_main.h"
+#include "app/project_menu.h"
 #include "edit/mouse.h"
 #include "effects/fireworks.h"
 #include "model/redraw.h"
@@ -116,6 +117,10 @@ void frmMain::connectLists() {
     };
     list.entered = [this] { perform("Project saved", lstSaved_Enter); };
     list.left = [this] { picS_->setFocus(); };
+    attachProjectMenu(list, [this](const ProjectMenuRow& row) {
+        perform(row.what, row.command);
+        picS_->setFocus();
+    });
     bars_.lstSprites->installEventFilter(this);
     connect(bars_.lstSprites, &QComboBox::activated, this, [this](int entry) {
         perform("Sprite", [&](Editor& ed, Host&) {

@@ -17,10 +17,12 @@ public:
                        std::size_t otherwise) override {
         return otherwise;
     }
+    std::int32_t chooseVersion(const std::string&, const std::vector<std::string>&) override { return -1; }
     std::int32_t SelectColor() override { return -1; }
     void beep() override {}
     bool setClipboard(const std::string&) override { return false; }
     bool openAddress(const std::string&) override { return false; }
+    bool moveToTrash(const std::string&) override { return false; }
     void fetchMessage(const std::string&) override {}
     void showAbout() override {}
     void resizeWindow(int, int) override {}

@@ -31,8 +31,6 @@ std::string takeLock(QLockFile& lock) {
     const bool strange = fs::exists(status) && !fs::is_regular_file(status);
     if (strange) return "Its lock is no ordinary file.";
     if (lock.tryLock(patience)) return {};
-    // It made the file, but could not fill it: nobody must wait for that one.
-    if (lock.error() == QLockFile::UnknownError) fs::remove(lock.fileName().toStdString(), error);
     return lock.error() == QLockFile::LockFailedError ? "Another program is storing its settings."
                                                       : "Its folder cannot be written to.";
 }

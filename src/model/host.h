@@ -25,12 +25,17 @@ public:
     // chooses `otherwise`.
     virtual std::size_t choose(const std::string& text, const std::string& title,
                                const std::vector<std::string>& choices, std::size_t otherwise) = 0;
+    // Modal list of a project's former versions, given by their files, newest first. The place of the
+    // chosen one; -1 when cancelled.
+    virtual std::int32_t chooseVersion(const std::string& project, const std::vector<std::string>& files) = 0;
     // The system's colour chooser; -1 when cancelled.
     virtual std::int32_t SelectColor() = 0;
     virtual void beep() = 0;
     virtual bool setClipboard(const std::string& text) = 0;
     // Hands an address (web page, mailto:) to the desktop; false when nothing takes it.
     virtual bool openAddress(const std::string& address) = 0;
+    // False when the desktop has no trash that takes the file; it is then where it was.
+    virtual bool moveToTrash(const std::string& file) = 0;
     // Starts fetching the maker's message; the answer arrives later in status panel 5.
     virtual void fetchMessage(const std::string& address) = 0;
     virtual void showAbout() = 0;

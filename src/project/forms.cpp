@@ -41,7 +41,8 @@ bool readSlowly(std::string_view text, double& value) {
 }
 
 bool fitsItsField(const std::string& text) {
-    return text.find_first_of("\r\n") == std::string::npos && (text + " : ").find(fieldSeparator) == text.size();
+    return text.find_first_of("\r\n") == std::string::npos &&
+           (text + " : ").find(fieldSeparator) == text.size();
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "model/store.h"
 #include "project/backups.h"
 #include "project/open.h"
+#include "project/percent.h"
 #include "project/write_file.h"
 #include "project/write_target.h"
 #include "project/writer.h"
@@ -77,21 +78,6 @@ void showNewModel(Editor& ed) {
     DisplayScene(ed, -1, -1);
 }
 
-// What an address may hold as it stands; every other byte is written %XX.
-std::string percentEncoded(const std::string& text) {
-    constexpr std::string_view plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~";
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string encoded;
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (plain.find(c) != std::string_view::npos)
-            encoded += c;
-        else
-            encoded.append({'%', digits[byte / 16], digits[byte % 16]});
-    }
-    return encoded;
-}
-
 bool exportMail(Editor& ed, Host& host) {
     if (!storeProject(ed, host, "email").done) return false;
     const FileBytes file = readProjectFile(projectPath(ed.programFolder, "email"));
@@ -101,11 +87,6 @@ bool exportMail(Editor& ed, Host& host) {
         "It is ready to paste into this message!";
     return host.openAddress("mailto:" + std::string(makerMail) +
                             "?subject=Zentrik&body=" + percentEncoded(body));
-}
-
-std::string withoutOuterBlanks(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 // Blanks around a name are hardly seen, but make another file.

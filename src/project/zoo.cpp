@@ -77,6 +77,11 @@ std::string nameProblem(const std::string& name) {
     return {};
 }
 
+std::string withoutOuterBlanks(const std::string& text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
 fs::path zooFolder(const std::string& programFolder) { return pathOf(programFolder) / "zoo"; }
 
 fs::path projectPath(const std::string& programFolder, const std::string& name) {

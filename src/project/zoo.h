@@ -13,6 +13,7 @@ inline constexpr const char* noFileFound = "no file found";
 // Why a name cannot be a project's, in words; the empty text when it can. A name must stay within the
 // folder and mean the same file on every system.
 std::string nameProblem(const std::string& name);
+std::string withoutOuterBlanks(const std::string& text);
 
 std::filesystem::path zooFolder(const std::string& programFolder);
 std::filesystem::path projectPath(const std::string& programFolder, const std::string& name);

@@ -1,0 +1,30 @@
+#include "ui/project_menu.h"
+
+#include "project/manage.h"
+#include "sim/run.h"
+
+#include <utility>
+
+namespace zentrik {
+
+namespace {
+
+void earlierVersions(Editor& ed, Host& host) {
+    std::optional<Project> version = chooseEarlierVersion(ed, host);
+    if (!version) return;
+    stopAnimation(ed);
+    showEarlierVersion(ed, host, std::move(*version));
+}
+
+constexpr ProjectMenuRow rows[] = {
+    {"earlierVersions", "&Earlier Versions…", "Earlier version opened", earlierVersions},
+    {"renameProject", "&Rename…", "Project renamed", renameProject},
+    {"deleteProject", "&Delete…", "Project deleted", deleteProject},
+    {"showFolder", "&Show in Folder", "Folder shown", showFolder},
+};
+
+}  // namespace
+
+std::span<const ProjectMenuRow> projectMenuRows() { return rows; }
+
+}  // namespace zentrik
