@@ -192,6 +192,10 @@ TEST_F(Undo, TellsWhetherTheFileHoldsTheModel) {
     ed_.savedText = "another";
     EXPECT_TRUE(modified());
     ed_.savedText = "mine";
+    perform([&] { ed_.goneName = "mine", ++ed_.goneCount, ed_.savedText = "renamed"; });
+    EXPECT_FALSE(modified());
+    perform([&] { ed_.goneName = "renamed", ++ed_.goneCount; });
+    EXPECT_TRUE(modified()) << "its file is gone";
     press("start");
     ticks(1);
     EXPECT_TRUE(modified());

@@ -1,9 +1,7 @@
 #include "app/frm_main.h"
 
 #include "app/icons.h"
-#include "app/left_copies.h"
 #include "app/program_folder.h"
-#include "app/quiet_host.h"
 #include "edit/mouse.h"
 #include "effects/fireworks.h"
 #include "model/invariants.h"
@@ -20,7 +18,6 @@
 #include "ui/property_toolbar.h"
 #include "ui/sprite_commands.h"
 
-#include <QCloseEvent>
 #include <QFileInfo>
 #include <QLabel>
 #include <QScreen>
@@ -71,7 +68,7 @@ frmMain::frmMain(const QString& folder)
 
 void frmMain::Form_Load(const QString& folder) {
     ed_.programFolder = (folder.isEmpty() ? programFolder() : folder).toStdString();
-    for (const char* kept : {"/zoo", "/backups"}) sweepLeftovers(ed_.programFolder + kept);
+    for (const char* kept : {"/zoo", "/backups", "/recovery"}) sweepLeftovers(ed_.programFolder + kept);
     ed_.chance.reseed();
     loadSprites();
     if (!QFileInfo::exists(QString::fromStdString(ed_.programFolder) + "/zoo"))
@@ -135,59 +132,6 @@ void frmMain::resizeEvent(QResizeEvent* event) {
     if (isMinimized() || known) return;
     layOutWindow();
     showRecord();
-}
-
-// The settings and the project "resume". False when the latter could not be saved.
-bool frmMain::storeWork(Host& host) {
-    std::optional<Placement> placement;
-    if (!isMaximized() && !isMinimized() && !isFullScreen()) {
-        const auto twips = [](int extent) { return static_cast<float>(extent * twipsPerPixel); };
-        placement = Placement{twips(pos().x()), twips(pos().y()), twips(width()), twips(height())};
-    }
-    if (const std::string problem = settings_.store(ed_, placement); !problem.empty())
-        host.messageBox(problem, "Zentrik", BoxIcon::exclamation);
-    return SaveFile(ed_, host, "resume");
-}
-
-void frmMain::closeEvent(QCloseEvent* event) {
-    if (host_.isAsking()) return event->ignore();
-    const bool filed = storeWork(host_);
-    if (!filed && !host_.confirm("The project could not be saved. Close the program and lose it?", "Zentrik"))
-        return event->ignore();
-    if (filed) recovery_->endFiled();
-    ended_ = true;
-    ed_.Timer1.enabled = false;
-    showTimers();
-    host_.closeAbout();
-    frmPath_->hide();
-    event->accept();
-}
-
-bool frmMain::keepWork() {
-    QuietHost nobody;
-    if (storeWork(nobody)) return true;
-    if (const std::string problem = recovery_->endUnfiled(ed_); !problem.empty())
-        nobody.messageBox(problem, "Zentrik", BoxIcon::exclamation);
-    return false;
-}
-
-void frmMain::keepWorkAndEnd() {
-    if (!std::exchange(ended_, true) && keepWork()) recovery_->endFiled();
-}
-
-void frmMain::offerLeftCopies() {
-    for (LeftCopy& left : leftCopies(ed_.programFolder)) {
-        enum Answer { restoreIt, keepIt, discardIt };
-        const auto answer =
-            host_.choose(describe(left), "Recover", {"Restore", "Keep for Later", "Discard"}, keepIt);
-        if (answer == keepIt) continue;
-        putAway(ed_.programFolder, left);
-        if (answer != restoreIt) continue;
-        perform("Project recovered", [&](Editor& ed, Host& host) {
-            stopAnimation(ed);
-            restore(ed, host, std::move(left.copy));
-        });
-    }
 }
 
 void frmMain::changeEvent(QEvent* event) {

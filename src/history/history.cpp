@@ -90,6 +90,14 @@ std::string commandName(const History& history, const Editor& ed, const std::str
     return text;
 }
 
+// What a renamed file holds the new one holds; a deleted one holds nothing.
+void followFiles(History& history, const Editor& ed) {
+    if (std::exchange(history.goneCount, ed.goneCount) == ed.goneCount) return;
+    auto file = history.filed.extract(ed.goneName);
+    if (file.empty() || ed.savedText == ed.goneName) return;
+    history.filed[ed.savedText] = file.mapped();
+}
+
 void endTick(History& history, const Editor& ed) {
     if (history.going == Going::drag) return;
     history.going = Going::run;
@@ -116,6 +124,7 @@ void startHistory(History& history, const Editor& ed) {
     history.filed[ed.savedText] = history.state;
     history.filedCount = ed.filedCount;
     history.replacedCount = ed.replacedCount;
+    history.goneCount = ed.goneCount;
 }
 
 void beginEvent(History& history, const Editor& ed, Event event) {
@@ -146,6 +155,7 @@ void endEvent(History& history, const Editor& ed, Event event, const std::string
 
     const bool filed = std::exchange(history.filedCount, ed.filedCount) != ed.filedCount;
     if (filed) history.filed[ed.savedText] = history.state;
+    followFiles(history, ed);
     history.changed = history.state != before || history.going != Going::nothing;
     const bool goesOn = history.stepped == Going::travel || ed.Timer1.enabled;
     if (history.stepped != Going::nothing && goesOn && !history.changed && !filed)

@@ -43,7 +43,7 @@ struct History {
 
     // The state that each project's file holds, by the project's name.
     std::map<std::string, std::uint64_t> filed;
-    std::int32_t filedCount = 0, replacedCount = 0;
+    std::int32_t filedCount = 0, replacedCount = 0, goneCount = 0;
 
     // What has changed since then and goes on changing.
     enum class Going { nothing, run, drag, travel } going = Going::nothing;

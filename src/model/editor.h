@@ -112,6 +112,8 @@ struct Editor {
     std::vector<std::string> savedNames;              // entries of lstSaved
     std::string savedText;                            // its text: the current project's name
     std::int32_t filedCount = 0;     // counts loads and saves after which model and file are the same
+    std::int32_t goneCount = 0;      // counts the files of projects that were renamed or deleted,
+    std::string goneName;            // and the last one's name
     std::int32_t replacedCount = 0;  // counts the times another model took the place of the model
     std::int32_t windowWidth = 0, windowHeight = 0;  // inside of the main window, twips
     Layout layout;

@@ -105,6 +105,7 @@ void renameProject(Editor& ed, Host& host) {
         tell(host, "Earlier versions of " + quoted(name) + " keep that name.\n" + problem);
     ed.savedNames = projectNames(ed.programFolder);
     ed.savedText = answer;
+    ed.goneName = name, ++ed.goneCount;
     panel(ed, 5) = "Project " + name + " is now " + answer;
 }
 
@@ -121,6 +122,7 @@ void deleteProject(Editor& ed, Host& host) {
     }
     if (!problem.empty()) return tell(host, quoted(name) + " could not be deleted.\n" + problem);
     ed.savedNames = projectNames(ed.programFolder);
+    ed.goneName = name, ++ed.goneCount;
     panel(ed, 5) = "Project " + name +
                    (inTrash ? " is in the trash" : " deleted; it is the latest of its earlier versions");
 }
