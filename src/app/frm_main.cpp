@@ -18,6 +18,7 @@
 #include "ui/property_toolbar.h"
 #include "ui/sprite_commands.h"
 
+#include <QEvent>
 #include <QFileInfo>
 #include <QLabel>
 #include <QScreen>
