@@ -18,12 +18,12 @@
 #include "ui/property_toolbar.h"
 #include "ui/sprite_commands.h"
 
-#include <QEvent>
 #include <QFileInfo>
 #include <QLabel>
 #include <QScreen>
 #include <QScrollBar>
 #include <QToolBar>
+#include <QWheelEvent>
 #include <cassert>
 #include <cmath>
 
