@@ -65,7 +65,7 @@ TEST(Settings, RoundTripInOrderAndForm) {
 
 TEST(Settings, WhatIsMissingOrDoesNotConvertGivesTheDefault) {
     MemoryStore spoilt;
-    spoilt.texts = {{"Walls", "perhaps"}, {"Gravity", "inf"},   {"NodeRadius", "wide"},
+    spoilt.texts = {{"Walls", "perhaps"}, {"Gravity", "inf"},   {"NodeRadius", "-100"},
                     {"Speed", "0"},       {"GridSize", "0"},    {"Line", "on"},
                     {"BackColor", ""},    {"MainLeft", "1e99"}, {"DeltaAngle", "2x"}};
     const auto reread = [](MemoryStore store) {

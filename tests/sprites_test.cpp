@@ -81,7 +81,7 @@ TEST_F(Sprites, StandCentredOnTheirNodesAtTheirOwnSize) {
             };
             const auto draw = [&](bool allowed, bool running, bool button) {
                 ed.marks.mnuAllowSprites = allowed;
-                ed.Timer1.enabled = running;
+                ed.drawnRunning = running;
                 ed.buttons.sprite = button;
                 QPainter painter(&image);
                 drawScene(painter, ed, sprites);

@@ -170,6 +170,7 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
 
 void frmMain::showRecord() {
     assert(brokenRule(ed_).empty());
+    renewGlobalValues(ed_);
     for (const MenuEntry& entry : marks_) entry.action->setChecked(ed_.marks.*entry.row->mark);
     bars_.show(ed_);
     undo_->show(history_);

@@ -43,7 +43,11 @@ void launch(const Editor& ed, const Node& shooter, Node& ball) {
 
 void mnuFire_Click(Editor& ed, Host&) {
     // The last shooter may be gone by now, or its number may have passed to another node.
-    if (!isShooter(ed, ed.SelectedNode) && isShooter(ed, ed.LastShooter)) ed.SelectedNode = ed.LastShooter;
+    if (!isShooter(ed, ed.SelectedNode) && isShooter(ed, ed.LastShooter)) {
+        ed.SelectedNode = ed.LastShooter;
+        DisplayNodeData(ed, ed.SelectedNode);
+        DisplayScene(ed, -1, -1);
+    }
     if (!ed.Timer1.enabled || !isShooter(ed, ed.SelectedNode)) return;
 
     ed.LastShooter = ed.SelectedNode;

@@ -122,6 +122,7 @@ struct Editor {
 
     // What waits to be painted.
     bool sceneStale = true, phaseStale = true;
+    bool drawnRunning = false;         // the last redraw was one of the running animation
     bool sceneBlank = false;           // cleared to the background until the next redraw
     bool instructionsShown = false;    // likewise, on top of the scene
     std::optional<PointF> rubberBand;  // free end of the link being drawn

@@ -75,6 +75,7 @@ void takePlace(Editor& ed, Host& host, ProjectFile file) {
 
 void showNewModel(Editor& ed) {
     NoSelections(ed);
+    redrawPhaseManager(ed, ed.AnimationTime);
     DisplayScene(ed, -1, -1);
 }
 

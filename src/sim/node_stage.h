@@ -22,6 +22,7 @@ public:
     // dt: time units. lastFree: the last node that will move. Gives what went wrong, or the empty text.
     std::string run(float dt, std::int32_t lastFree);
     bool wallTouched() const { return contacts_.touched; }
+    bool anyRemoved() const { return removed_; }
 
 private:
     Editor& ed;
@@ -32,6 +33,7 @@ private:
     WallContacts contacts_;
     std::int32_t lastFree_ = 0;
     bool attracts_, testBarriers_, recolour_;
+    bool removed_ = false;  // the floor took a node out of the model
     NodeRun run_;
     Arrivals arrivals_;  // where the run's nodes go, if nothing comes in between
 

@@ -114,8 +114,7 @@ void applyInitialVelocities(Editor& ed) {
 void advanceClock(Editor& ed, float dt) {
     ed.AnimationTime = real(ed.AnimationTime + wide(dt) * ed.TimeDirection);
     // Left out once in a hundred steps.
-    if (toInt(wide(ed.AnimationTime) / dt) % 100 != 0)
-        redrawPhaseManager(ed, real(wide(ed.DeltaAngle) * ed.AnimationTime));
+    if (toInt(wide(ed.AnimationTime) / dt) % 100 != 0) redrawPhaseManager(ed, ed.AnimationTime);
     showClock(ed);
 }
 
@@ -158,6 +157,7 @@ void CalculatePositions(Editor& ed) {
         ed.SelectedNode = selected;
         return stopWith(ed, problem);
     }
+    if (nodes.anyRemoved()) showCounts(ed);
     DisplayScene(ed, -1, -1, found.anyTakesAim);
     if (nodes.wallTouched()) ed.TimeDirection = -ed.TimeDirection;
 }

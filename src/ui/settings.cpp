@@ -104,8 +104,12 @@ bool convert(const SettingRow& row, const std::string& text, Editor& ed, Placeme
 
 bool isAcceptable(const SettingRow& row, const Editor& ed) {
     if (std::holds_alternative<TimerPeriod>(row.slot)) return isPeriod(ed.Timer1.interval);
-    const auto* real = std::get_if<float Editor::*>(&row.slot);
-    return real == nullptr || *real != &Editor::GridSize || ed.GridSize > 49;
+    if (const auto* real = std::get_if<float Editor::*>(&row.slot); real && *real == &Editor::GridSize)
+        return ed.GridSize > 49;
+    if (const auto* whole = std::get_if<std::int32_t Editor::*>(&row.slot);
+        whole && *whole == &Editor::NodeRadius)
+        return ed.NodeRadius >= smallestRadius;
+    return true;
 }
 
 std::string textOf(const SettingRow& row, const Editor& ed, const Placement& placement) {
