@@ -56,6 +56,52 @@ TEST_F(Window, NoButtonIsHiddenAtAnySize) {
     expectEveryButtonVisible();
 }
 
+// Sets the desktop's font for a test.
+struct DesktopFont {
+    const QFont before = QApplication::font();
+    void set(const char* family, double points) const {
+        QFont font{QString(family)};
+        font.setPointSizeF(points);
+        QApplication::setFont(font);
+        QTest::qWait(20);
+    }
+    ~DesktopFont() { QApplication::setFont(before); }
+};
+
+TEST_F(Window, BarsTakeTheRoomTheirFontNeeds) {
+    const DesktopFont desktop;
+    window_->resize(window_->minimumSize());
+    const int designed = find("picS")->height();
+    for (const char* family : {"DejaVu Sans", "Nimbus Sans"})
+        for (const double points : {6.0, 9.0, 11.0, 13.75, 14.0, 18.0, 24.0}) {
+            SCOPED_TRACE(testing::Message() << family << " " << points);
+            desktop.set(family, points);
+            window_->perform([](Editor& ed, Host&) {
+                ed.panels[0] = "Nodes: 123456";
+                ed.panels[3] = "Time:  12345.678";
+                ed.panels[4] = std::string(400, 'm');
+            });
+            QTest::qWait(20);
+            int shown = 0;
+            for (const QAction* menu : window_->menuBar()->actions()) {
+                const QRect place = window_->menuBar()->actionGeometry(const_cast<QAction*>(menu));
+                shown += !place.isEmpty() && window_->menuBar()->rect().contains(place);
+            }
+            EXPECT_GE(shown, points <= 14 ? 11 : 6);
+            for (const char* name : {"Panel1", "Panel2", "Panel3", "Panel4"}) {
+                const auto* panel = find<QLabel>(name);
+                EXPECT_GE(panel->contentsRect().width(),
+                          panel->fontMetrics().horizontalAdvance(panel->text()));
+                EXPECT_GE(panel->height(), panel->fontMetrics().height());
+                EXPECT_EQ(panel->toolTip(), "");
+            }
+            EXPECT_EQ(find("Panel5")->toolTip(), panelText(5));
+            const QWidget *scene = find("picS"), *status = find("StatusBar1");
+            EXPECT_LE(scene->mapTo(window_.get(), QPoint(0, scene->height())).y(), status->y());
+            EXPECT_GE(scene->height(), designed - (points <= 9 ? 0 : 60));
+        }
+}
+
 TEST_F(Window, BuildsACreatureFromNothing) {
     click({100, 100});
     click({200, 100});

@@ -20,9 +20,10 @@
 
 #include <QEvent>
 #include <QFileInfo>
-#include <QLabel>
+#include <QMenuBar>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QToolBar>
 #include <cassert>
 #include <cmath>
@@ -30,6 +31,9 @@
 namespace zentrik {
 
 namespace {
+
+// Bars are this high where their font allows, so that the client area begins where the layout counts on it.
+constexpr int menuBarHeight = 24;  // pixels
 
 int pixels(double twips) { return static_cast<int>(std::lround(twips / twipsPerPixel)); }
 
@@ -42,6 +46,7 @@ QRect pixelRect(const Rect& r) {
 
 frmMain::frmMain(const QString& folder)
     : host_(*this),
+      panels_(*statusBar()),
       client_(new QWidget(this)),
       bars_(*this),
       undo_(new UndoButtons(this)),
@@ -52,7 +57,7 @@ frmMain::frmMain(const QString& folder)
     setObjectName("frmMain");
     setWindowIcon(programIcon());
     buildMenus();
-    buildStatusBar();
+    statusBar()->setObjectName("StatusBar1");
     buildClient();
     connectBars();
     connectLists();
@@ -77,6 +82,7 @@ void frmMain::Form_Load(const QString& folder) {
     const std::string toSay = panel(ed_, 5);
     Placement placement;
     const std::string settingsProblem = settings_.load(ed_, placement);
+    fitBars();
     restorePlacement(placement);
     layOutWindow();
     showGlobalValues(ed_);
@@ -120,16 +126,27 @@ void frmMain::restorePlacement(const Placement& placement) {
     move(screen()->availableGeometry().topLeft());
 }
 
+// Menu and status bar take the room that their font needs.
+void frmMain::fitBars() {
+    menuBar()->setFixedHeight(std::max(menuBarHeight, menuBar()->sizeHint().height()));
+    panels_.fit();
+}
+
+// What the bars take of the height that the layout leaves them room in, beyond their design, pixels.
+int frmMain::roomTaken() const {
+    return menuBar()->height() - menuBarHeight + statusBar()->height() - StatusPanels::designHeight;
+}
+
 void frmMain::layOutWindow() {
     bars_.fit(width());
-    Form_Resize(ed_, width() * twipsPerPixel, height() * twipsPerPixel);
+    Form_Resize(ed_, width() * twipsPerPixel, (height() - roomTaken()) * twipsPerPixel);
 }
 
 void frmMain::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     // Shown at the size it was laid out for, the window keeps what its start said in status panel 5.
-    const bool known =
-        width() * twipsPerPixel == ed_.windowWidth && height() * twipsPerPixel == ed_.windowHeight;
+    const bool known = width() * twipsPerPixel == ed_.windowWidth &&
+                       (height() - roomTaken()) * twipsPerPixel == ed_.windowHeight;
     if (isMinimized() || known) return;
     layOutWindow();
     showRecord();
@@ -140,6 +157,11 @@ void frmMain::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
         bars_.drawIcons();
         undo_->drawIcons();
+    }
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        fitBars();
+        layOutWindow();
+        showRecord();
     }
 }
 
@@ -176,8 +198,7 @@ void frmMain::showRecord() {
     undo_->show(history_);
     showTitle();
     recovery_->follow(ed_, history_);
-    for (std::size_t i = 0; i < panels_.size(); ++i)
-        panels_[i]->setText(QString::fromStdString(ed_.panels[i]));
+    panels_.show(ed_.panels);
     showLayout();
     showTimers();
     if (std::exchange(ed_.sceneStale, false)) picS_->pacer.request();

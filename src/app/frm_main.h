@@ -4,6 +4,7 @@
 #include "app/recovery_keeper.h"
 #include "app/settings_store.h"
 #include "app/sprite_browser.h"
+#include "app/status_panels.h"
 #include "app/toolbars.h"
 #include "app/undo_buttons.h"
 #include "app/views.h"
@@ -15,9 +16,6 @@
 
 #include <QMainWindow>
 #include <QTimer>
-#include <array>
-
-class QLabel;
 
 namespace zentrik {
 
@@ -65,7 +63,7 @@ private:
     bool ended_ = false;
     int wheelTurn_ = 0;  // over the clock, eighths of a degree
     std::vector<MenuEntry> marks_;
-    std::array<QLabel*, 5> panels_{};
+    StatusPanels panels_;
     QTimer Timer1_, timerFireWorks_;
     QWidget* const client_;
     Toolbars bars_;
@@ -76,7 +74,6 @@ private:
     PathWindow* const frmPath_;
 
     void buildMenus();
-    void buildStatusBar();
     void buildClient();
     void connectBars();
     void connectLists();
@@ -91,6 +88,8 @@ private:
     bool storeWork(Host& host);
     void restorePlacement(const Placement& placement);
     void placePathWindow(bool visible);
+    void fitBars();
+    int roomTaken() const;
     void layOutWindow();
     void goThroughTime(int steps);
     void turnTime(const QWheelEvent& event);

@@ -15,21 +15,15 @@
 #include "ui/undo.h"
 
 #include <QComboBox>
-#include <QLabel>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QStatusBar>
 #include <QToolBar>
 #include <QWheelEvent>
 
 namespace zentrik {
 
 namespace {
-
-// Bars have fixed heights, so that the client area begins where the layout counts on it.
-constexpr int menuBarHeight = 24, statusBarHeight = 22;  // pixels
-constexpr int panelWidths[] = {118, 118, 141, 169};      // of the first four panels, pixels
 
 // A caption as it reads: without the mark of its access key.
 std::string plainCaption(const char* caption) { return QString(caption).remove('&').toStdString(); }
@@ -42,7 +36,6 @@ std::string plainLabel(const PropertyRow& row) {
 }  // namespace
 
 void frmMain::buildMenus() {
-    menuBar()->setFixedHeight(menuBarHeight);
     menuBar()->setNativeMenuBar(false);
     QMenu* menu = nullptr;
     for (const MenuRow& row : menuRows()) {
@@ -61,24 +54,6 @@ void frmMain::buildMenus() {
         connect(action, &QAction::triggered, this, [this, &row] {
             perform(plainCaption(row.caption), [&](Editor& ed, Host& host) { chooseMenu(ed, host, row); });
         });
-    }
-}
-
-void frmMain::buildStatusBar() {
-    statusBar()->setObjectName("StatusBar1");
-    statusBar()->setFixedHeight(statusBarHeight);
-    statusBar()->setStyleSheet("QStatusBar::item { border: none; }");
-    for (std::size_t i = 0; i < panels_.size(); ++i) {
-        auto* label = new QLabel(this);
-        label->setObjectName(QString("Panel%1").arg(i + 1));
-        label->setTextFormat(Qt::PlainText);
-        label->setContentsMargins(6, 0, 6, 0);
-        const bool wide = i >= std::size(panelWidths);
-        if (!wide) label->setFixedWidth(panelWidths[i]);
-        // The wide panel's text may be longer than the window; it must not widen it.
-        if (wide) label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        statusBar()->addWidget(label, wide ? 1 : 0);
-        panels_[i] = label;
     }
 }
 
