@@ -1,9 +1,11 @@
 // The real window, driven by real mouse and key events, offscreen.
 
+#include "app/placement.h"
 #include "window_rig.h"
 
 #include <QDesktopServices>
 #include <QMenuBar>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -100,6 +102,32 @@ TEST_F(Window, BarsTakeTheRoomTheirFontNeeds) {
             EXPECT_LE(scene->mapTo(window_.get(), QPoint(0, scene->height())).y(), status->y());
             EXPECT_GE(scene->height(), designed - (points <= 9 ? 0 : 60));
         }
+}
+
+TEST_F(Window, ItsSizeFollowsTheScreenItIsOn) {
+    EXPECT_EQ(window_->maximumSize(), QSize(1600, 1000));
+    window_->move(1700, 50);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window_->maximumSize() == QSize(2400, 1400); }, 1000));
+    EXPECT_EQ(boundedSize({16000, 16000}, {960, 334}, {800, 300}), QSize(960, 334));
+
+    // A project from a larger scene.
+    window_->perform([](Editor&, Host& host) { host.resizeWindow(90000, 90000); });
+    EXPECT_TRUE(window_->screen()->availableGeometry().contains(window_->frameGeometry()));
+    EXPECT_EQ(window_->frameGeometry().size(), QSize(2400, 1400));
+    window_->resize(1000, 600);
+    window_->showMaximized();
+    QTest::qWait(20);
+    const QSize filled = window_->size();
+    window_->perform([](Editor&, Host& host) { host.resizeWindow(19500, -1); });
+    EXPECT_TRUE(window_->isMaximized());
+    EXPECT_EQ(window_->size(), filled);
+    ASSERT_TRUE(window_->close());
+    window_ = makeWindow();
+    window_->show();
+    EXPECT_TRUE(window_->isMaximized()) << "remembered";
+    window_->showNormal();
+    restart();
+    EXPECT_FALSE(window_->isMaximized());
 }
 
 TEST_F(Window, BuildsACreatureFromNothing) {
@@ -312,6 +340,11 @@ TEST_F(Window, StripsAndPathOpenBelow) {
 
     choose("mnuDisplayPath");
     auto* path = find("frmPath");
+    EXPECT_TRUE(window_->screen()->availableGeometry().contains(path->frameGeometry()));
+    EXPECT_TRUE(window_->isActiveWindow()) << "the keys stay with the main window";
+    choose("mnuDisplayPath");
+    window_->resize(1200, 500);
+    choose("mnuDisplayPath");
     EXPECT_EQ(path->frameGeometry().top(), window_->frameGeometry().bottom() + 1 + 7);
     press("start");
     QTest::qWait(100);

@@ -1,6 +1,7 @@
 #include "app/desktop_host.h"
 
 #include "app/about_box.h"
+#include "app/placement.h"
 #include "app/versions_dialog.h"
 #include "model/records.h"
 #include "model/units.h"
@@ -13,8 +14,8 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QUrl>
-#include <algorithm>
 
 namespace zentrik {
 
@@ -137,16 +138,21 @@ void DesktopHost::closeAbout() {
     if (about_) about_->close();
 }
 
+// A window that fills the screen stays as it is; any other ends inside the screen's available area.
 void DesktopHost::resizeWindow(int width, int height) {
-    const QSize border = window_.frameGeometry().size() - window_.size();
-    const auto extent = [](int twips, int frame, int smallest, int largest) {
-        return std::clamp(twips / twipsPerPixel - frame, smallest, std::min(largest, 16384));
-    };
-    const QSize least = window_.minimumSize(), most = window_.maximumSize();
-    QSize size = window_.size();
-    if (width >= 0) size.setWidth(extent(width, border.width(), least.width(), most.width()));
-    if (height >= 0) size.setHeight(extent(height, border.height(), least.height(), most.height()));
-    window_.resize(size);
+    if (!window_.isMaximized() && !window_.isFullScreen()) {
+        const QRect frame = window_.frameGeometry();
+        const QSize border = frame.size() - window_.size();
+        QSize outer = frame.size();
+        if (width >= 0) outer.setWidth(width / twipsPerPixel);
+        if (height >= 0) outer.setHeight(height / twipsPerPixel);
+        const QSize known = border.expandedTo({0, window_.isVisible() ? 0 : usualTitleBar});
+        const QSize size = boundedSize(outer - border, window_.minimumSize(), window_.maximumSize());
+        const QRect place =
+            insideArea({frame.topLeft(), size + known}, window_.screen()->availableGeometry());
+        window_.resize((place.size() - known).expandedTo(window_.minimumSize()));
+        if (place.topLeft() != frame.topLeft()) window_.move(place.topLeft());
+    }
     if (layOutWindow) layOutWindow();
 }
 

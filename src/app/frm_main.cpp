@@ -21,12 +21,10 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QMenuBar>
-#include <QScreen>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QToolBar>
 #include <cassert>
-#include <cmath>
 
 namespace zentrik {
 
@@ -34,8 +32,6 @@ namespace {
 
 // Bars are this high where their font allows, so that the client area begins where the layout counts on it.
 constexpr int menuBarHeight = 24;  // pixels
-
-int pixels(double twips) { return static_cast<int>(std::lround(twips / twipsPerPixel)); }
 
 QRect pixelRect(const Rect& r) {
     const int left = pixels(r.left), top = pixels(r.top);
@@ -106,26 +102,6 @@ void frmMain::loadSprites() {
         panel(ed_, 5) += (panel(ed_, 5).empty() ? "No usable picture: " : ", ") + name;
 }
 
-void frmMain::restorePlacement(const Placement& placement) {
-    setMinimumSize((smallestWidth + twipsPerPixel - 1) / twipsPerPixel,
-                   (smallestHeight + twipsPerPixel - 1) / twipsPerPixel);
-    const QSize whole = screen()->size();
-    if (whole.width() >= minimumWidth() && whole.height() >= minimumHeight()) setMaximumSize(whole);
-    const auto extent = [](float twips) {
-        return pixels(std::clamp(static_cast<double>(twips), 0.0, 240000.0));
-    };
-    resize(QSize(extent(placement.width), extent(placement.height)).expandedTo(minimumSize()));
-    const auto edge = [](float twips) { return pixels(std::clamp(static_cast<double>(twips), -1e6, 1e6)); };
-    const QPoint corner(edge(placement.left), edge(placement.top));
-    // Enough of the title bar to take hold of must be on some screen.
-    const QRect handle(corner, QSize(width(), 40));
-    for (const QScreen* candidate : screen()->virtualSiblings()) {
-        const QRect visible = candidate->availableGeometry().intersected(handle);
-        if (visible.width() >= 100 && visible.height() >= 20) return move(corner);
-    }
-    move(screen()->availableGeometry().topLeft());
-}
-
 // Menu and status bar take the room that their font needs.
 void frmMain::fitBars() {
     menuBar()->setFixedHeight(std::max(menuBarHeight, menuBar()->sizeHint().height()));
@@ -163,21 +139,6 @@ void frmMain::changeEvent(QEvent* event) {
         layOutWindow();
         showRecord();
     }
-}
-
-void frmMain::placePathWindow(bool visible) {
-    if (visible) {
-        const QRect main = frameGeometry();
-        QRect place(main.left() + main.width() / 4, main.top() + main.height() + pixels(100),
-                    main.width() / 2, main.height() / 2);
-        // Below a window that reaches down to the end of the screen nobody would see it.
-        const QRect visibleArea = screen()->availableGeometry();
-        if (!visibleArea.intersects(place)) place.moveBottom(visibleArea.bottom());
-        // Placed by its frame, so that its title bar does not lie on the status bar.
-        frmPath_->resize(place.size());
-        frmPath_->move(place.topLeft());
-    }
-    frmPath_->setVisible(visible);
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {

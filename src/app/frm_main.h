@@ -43,6 +43,7 @@ public:
     void keepWorkAndEnd();
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -72,6 +73,7 @@ private:
     PhaseView* const picPhase_;
     SpriteBrowser* const Frame1_;
     PathWindow* const frmPath_;
+    QWindow* followed_ = nullptr;  // whose screen bounds the window's size
 
     void buildMenus();
     void buildClient();
@@ -87,6 +89,7 @@ private:
     void loadSprites();
     bool storeWork(Host& host);
     void restorePlacement(const Placement& placement);
+    void followScreen();
     void placePathWindow(bool visible);
     void fitBars();
     int roomTaken() const;
