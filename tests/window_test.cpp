@@ -104,6 +104,55 @@ TEST_F(Window, BarsTakeTheRoomTheirFontNeeds) {
         }
 }
 
+TEST_F(Window, ThePropertyBarStandsUnderItsReadOut) {
+    for (const int width : {960, 1190, 1210, 1590}) {
+        window_->resize(width, 700);
+        QTest::qWait(20);
+        expectEveryButtonVisible();
+        const std::pair<const char*, int> firsts[] = {{"gravity", 100}, {"mass", 7550}, {"k", 10800}};
+        for (const auto& [key, twips] : firsts)
+            EXPECT_NEAR(button("Toolbar2", key)->mapTo(window_.get(), QPoint()).x(),
+                        find("picS")->mapTo(window_.get(), QPoint()).x() + twips / 15, 1)
+                << key << " at " << width;
+    }
+}
+
+TEST_F(Window, FollowsTheDesktopToDarkAndToOtherStyles) {
+    const QPalette light = QApplication::palette();
+    const QColor ink = Qt::white;
+    QPalette dark(QColor(50, 50, 50), QColor(30, 30, 30));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        dark.setColor(role, ink);
+    QApplication::setPalette(dark);
+    QTest::qWait(20);
+    EXPECT_EQ(find<QComboBox>("lstSprites")->palette().color(QPalette::Active, QPalette::ButtonText), ink);
+    EXPECT_EQ(find("Panel5")->palette().color(QPalette::WindowText), ink);
+    const QImage icon = button("Toolbar1", "new")->icon().pixmap(24).toImage();
+    int bright = 0;
+    for (int x = 0; x < icon.width(); ++x)
+        for (int y = 0; y < icon.height(); ++y) bright += icon.pixelColor(x, y) == ink;
+    EXPECT_GT(bright, 0);
+    QApplication::setPalette(light);
+
+    for (const char* style : {"Windows", "Fusion"}) {
+        QApplication::setStyle(style);
+        window_->resize(960, 400);
+        QTest::qWait(20);
+        expectEveryButtonVisible();
+        EXPECT_NEAR(button("Toolbar2", "k")->x(), (60 + 10800) / 15, 1) << style;
+    }
+}
+
+TEST_F(Window, TheStartButtonShowsWhatItDoes) {
+    const auto* start = button("Toolbar1", "start");
+    const auto drawn = [&](QIcon::State state) {
+        return start->icon().pixmap(QSize(24, 24), QIcon::Normal, state).toImage();
+    };
+    EXPECT_NE(drawn(QIcon::On), drawn(QIcon::Off));
+    const auto* animator = button("Toolbar2", "animator");
+    EXPECT_EQ(animator->icon().pixmap(QSize(24, 24), QIcon::Normal, QIcon::On).toImage(), drawn(QIcon::Off));
+}
+
 TEST_F(Window, ItsSizeFollowsTheScreenItIsOn) {
     EXPECT_EQ(window_->maximumSize(), QSize(1600, 1000));
     window_->move(1700, 50);

@@ -131,7 +131,7 @@ void frmMain::resizeEvent(QResizeEvent* event) {
 void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
-        bars_.drawIcons();
+        bars_.followPalette();
         undo_->drawIcons();
     }
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
