@@ -11,11 +11,13 @@
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QFile>
-#include <QInputDialog>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QUrl>
+#include <algorithm>
 
 namespace zentrik {
 
@@ -42,6 +44,23 @@ QMessageBox::Icon iconOf(BoxIcon icon) {
     return QMessageBox::NoIcon;
 }
 
+// The width at which a dialog's title bar shows its whole title, as far as a screen is wide.
+int widthFor(const QDialog& dialog) {
+    constexpr int besides = 150;  // icon, buttons and margins of a title bar, pixels
+    QFont font = dialog.font();
+    font.setBold(true);
+    return std::min(QFontMetrics(font).horizontalAdvance(dialog.windowTitle()) + besides, 900);
+}
+
+void prepare(QMessageBox& box) {
+    box.setObjectName("MessageBox");
+    box.setTextFormat(Qt::PlainText);
+    // A message box takes its size from its layout alone.
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (grid != nullptr)
+        grid->addItem(new QSpacerItem(widthFor(box), 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 // Runs a dialog while `open` counts it.
 int run(QDialog& dialog, int& open) {
     ++open;
@@ -60,28 +79,32 @@ DesktopHost::DesktopHost(QWidget& window) : window_(window) {
 
 std::string DesktopHost::inputBox(const std::string& prompt, const std::string& title,
                                   const std::string& preset) {
-    QInputDialog dialog(&window_);
-    dialog.setObjectName("InputBox");
-    dialog.setWindowTitle(caption(title));
-    dialog.setLabelText(text(prompt));
-    dialog.setTextValue(text(preset));
-    dialog.resize(380, dialog.sizeHint().height());
-    const bool accepted = run(dialog, open_) == QDialog::Accepted;
-    return accepted ? dialog.textValue().toStdString() : std::string();
+    return ask(InputBox::Kind::text, prompt, title, preset);
+}
+
+std::string DesktopHost::numberBox(const std::string& prompt, const std::string& title,
+                                   const std::string& preset) {
+    return ask(InputBox::Kind::number, prompt, title, preset);
+}
+
+std::string DesktopHost::ask(InputBox::Kind kind, const std::string& prompt, const std::string& title,
+                             const std::string& preset) {
+    InputBox box(kind, text(prompt), text(preset), &window_);
+    box.setWindowTitle(caption(title));
+    box.resize(std::max(380, widthFor(box)), box.sizeHint().height());
+    return run(box, open_) == QDialog::Accepted ? box.answer().toStdString() : std::string();
 }
 
 void DesktopHost::messageBox(const std::string& message, const std::string& title, BoxIcon icon) {
     QMessageBox box(iconOf(icon), caption(title), text(message), QMessageBox::Ok, &window_);
-    box.setObjectName("MessageBox");
-    box.setTextFormat(Qt::PlainText);
+    prepare(box);
     run(box, open_);
 }
 
 bool DesktopHost::confirm(const std::string& question, const std::string& title) {
     QMessageBox box(QMessageBox::Information, caption(title), text(question),
                     QMessageBox::Ok | QMessageBox::Cancel, &window_);
-    box.setObjectName("MessageBox");
-    box.setTextFormat(Qt::PlainText);
+    prepare(box);
     return run(box, open_) == QMessageBox::Ok;
 }
 

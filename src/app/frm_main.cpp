@@ -144,7 +144,7 @@ void frmMain::changeEvent(QEvent* event) {
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     // A wheel turned over the closed list would change the selected node's sprite.
     if (event->type() == QEvent::Wheel && watched == bars_.lstSprites) return true;
-    if (event->type() == QEvent::Wheel && watched == panels_[3]) {
+    if (event->type() == QEvent::Wheel && watched == &panels_.panel(4)) {
         turnTime(*static_cast<QWheelEvent*>(event));
         return true;
     }

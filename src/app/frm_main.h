@@ -32,6 +32,7 @@ public:
     template <class Procedure>
     void perform(const std::string& what, Procedure procedure) {
         run(Event::command, what, procedure);
+        leaveList();
     }
 
     // Offers what programs that are gone had not saved, one box for each.
@@ -111,6 +112,11 @@ private:
         if (host_.isAsking()) return;
         procedure(ed_, host_);
         showRecord();
+    }
+
+    // After a command the keys are the scene's again.
+    void leaveList() {
+        if (bars_.lstSaved->hasFocus()) picS_->setFocus();
     }
 
     void showRecord();

@@ -113,6 +113,7 @@ void frmMain::connectUndo() {
     const auto take = [this](void (*way)(Editor&, History&)) {
         follow([&](Editor& ed, Host&) { way(ed, history_); });
         forgetRun(timeline_);
+        leaveList();
     };
     undo_->undo = [take] { take(undoLast); };
     undo_->redo = [take] { take(redoNext); };
@@ -127,8 +128,8 @@ void frmMain::connectTime() {
          {Key{"Ctrl+Left", -1}, {"Ctrl+Right", 1}, {"Ctrl+Shift+Left", -100}, {"Ctrl+Shift+Right", 100}})
         connect(new QShortcut(QKeySequence(it.key), this), &QShortcut::activated, this,
                 [this, steps = it.steps] { goThroughTime(steps); });
-    panels_[3]->installEventFilter(this);
-    panels_[3]->setToolTip(
+    panels_.panel(4).installEventFilter(this);
+    panels_.panel(4).setTip(
         "Turn the wheel here, or press Ctrl+Left and Ctrl+Right, to go through the run step by step; with "
         "Shift a hundred steps");
 }
@@ -159,8 +160,13 @@ void frmMain::connectViews() {
         mouse.down = [this, what, press](int b, float x, float y) {
             run(Event::mouse, what, [&](Editor& ed, Host&) { press(ed, b, x, y); });
         };
-        mouse.move = [this, what, drag](float x, float y) {
+        mouse.move = [this, what, drag, release](float x, float y, bool leftHeld) {
             const auto move = [&](Editor& ed, Host&) { drag(ed, x, y); };
+            // A box, a hidden strip or another window took the release.
+            if ((ed_.MouseIsDown || ed_.PhaseDragging) && !leftHeld) {
+                const auto let = [&](Editor& ed, Host&) { release(ed, leftButton, x, y); };
+                run(Event::mouse, what, let);
+            }
             if (ed_.MouseIsDown || ed_.PhaseDragging)
                 run(Event::mouse, what, move);
             else
@@ -180,6 +186,9 @@ void frmMain::connectViews() {
     picPhase_->mouse = calls(
         "Phase turned", picPhase_MouseDown, picPhase_MouseMove,
         [](Editor& ed, int, float, float) { picPhase_MouseUp(ed); }, picPhase_DblClick);
+    picS_->mouse.leave = [this] {
+        if (ed_.rubberBand) follow([](Editor& ed, Host&) { DisplayScene(ed, -1, -1); });
+    };
     frmPath_->clicked = [this] { follow([](Editor& ed, Host&) { clearPath(ed); }); };
     frmPath_->closed = [this] { follow([](Editor& ed, Host&) { ed.marks.mnuDisplayPath = false; }); };
     host_.placePathWindow = [this](bool visible) { placePathWindow(visible); };

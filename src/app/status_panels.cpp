@@ -19,11 +19,16 @@ void StatusPanel::show(const QString& text) {
     renewTip();
 }
 
+void StatusPanel::setTip(const QString& tip) {
+    tip_ = tip;
+    renewTip();
+}
+
 QString StatusPanel::fitting() const {
     return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
 }
 
-void StatusPanel::renewTip() { setToolTip(fitting() == text() ? QString() : text()); }
+void StatusPanel::renewTip() { setToolTip(fitting() == text() ? tip_ : text()); }
 
 void StatusPanel::resizeEvent(QResizeEvent* event) {
     QLabel::resizeEvent(event);

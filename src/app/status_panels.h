@@ -13,12 +13,15 @@ class StatusPanel : public QLabel {
 public:
     using QLabel::QLabel;
     void show(const QString& text);
+    void setTip(const QString& tip);  // the tool tip while the text is whole
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QString tip_;
+
     QString fitting() const;
     void renewTip();
 };
@@ -32,6 +35,7 @@ public:
     explicit StatusPanels(QStatusBar& bar);
     // Gives bar and panels the room that their font needs.
     void fit();
+    StatusPanel& panel(std::size_t number) { return *panels_.at(number - 1); }  // counted from 1
     void show(const std::array<std::string, 5>& texts);
 
 private:

@@ -20,7 +20,8 @@ namespace zentrik {
 
 namespace {
 
-constexpr int arrowWidth = 12;                     // of drop-down buttons
+// Of drop-down buttons; those of the global values are as far apart as the read-out prints them.
+constexpr int arrowWidth = 12, globalArrowWidth = 16;
 constexpr int smallButton = 22, largeButton = 28;  // widths
 constexpr int smallIcon = 20, largeIcon = 24;
 constexpr int widthForLarge = 1200;  // of the window
@@ -99,6 +100,7 @@ Toolbars::Toolbars(QWidget& window)
       lstSaved(makeList<ProjectList>("lstSaved",
                                      "Projects: choose one, or type a name and press Enter to save", window)),
       lstSprites(makeList<QComboBox>("lstSprites", "Sprite of the selected node", window)) {
+    lstSprites->setFocusPolicy(Qt::TabFocus);
     buildCommands();
     buildProperties();
     drawIcons();
@@ -146,7 +148,8 @@ void Toolbars::buildProperties() {
             const bool dropDown = row.style == ButtonStyle::dropDown;
             if (dropDown) addPresets(*button, row);
             button->setIconSize({smallIcon, smallIcon});
-            button->setFixedSize(smallButton + (dropDown ? arrowWidth : 0), height - 4);
+            const int arrow = row.owner == Owner::global ? globalArrowWidth : arrowWidth;
+            button->setFixedSize(smallButton + (dropDown ? arrow : 0), height - 4);
             QAction* place = Toolbar2->addWidget(button);
             properties_.push_back({&row, button, place});
         }

@@ -41,7 +41,8 @@ void DrawingView::mousePressEvent(QMouseEvent* event) {
 }
 
 void DrawingView::mouseMoveEvent(QMouseEvent* event) {
-    mouse.move(twips(event->position().x()), twips(event->position().y()));
+    mouse.move(twips(event->position().x()), twips(event->position().y()),
+               event->buttons().testFlag(Qt::LeftButton));
 }
 
 void DrawingView::mouseReleaseEvent(QMouseEvent* event) {
@@ -55,6 +56,8 @@ void DrawingView::mouseDoubleClickEvent(QMouseEvent* event) {
     else
         mousePressEvent(event);  // two quick presses of another button are just that
 }
+
+void DrawingView::leaveEvent(QEvent*) { mouse.leave(); }
 
 SceneView::SceneView(const Editor& ed, QWidget* parent) : DrawingView(ed, parent) {
     setObjectName("picS");

@@ -154,7 +154,7 @@ void run(Editor& ed, Host& host, const BulkCommand& row) {
 }
 
 void ask(Editor& ed, Host& host, const BulkCommand& row, const char* prompt, const char* title) {
-    const std::string answer = host.inputBox(prompt, title, realText(ed.*row.setting));
+    const std::string answer = host.numberBox(prompt, title, realText(ed.*row.setting));
     if (answer.empty()) return;
     const double value = leadingNumber(answer);
     run(ed, host, row, toReal(value), realText(value));

@@ -65,15 +65,15 @@ void mnuFire_Click(Editor& ed, Host&) {
 
 void mnuShooterDirection_Click(Editor& ed, Host& host) {
     const std::string answer =
-        host.inputBox("Enter shooter direction (0-360 degrees).", "Set Shooter Direction",
-                      fixedText(static_cast<double>(ed.ShooterDirection) * 57.296, 1));
+        host.numberBox("Enter shooter direction (0-360 degrees).", "Set Shooter Direction",
+                       fixedText(static_cast<double>(ed.ShooterDirection) * 57.296, 1));
     const double degrees = leadingNumber(answer);
     if (!answer.empty() && degrees >= 0 && degrees <= 360) ed.ShooterDirection = toReal(degrees * 0.01745);
 }
 
 void mnuShooterVelocity_Click(Editor& ed, Host& host) {
     const std::string answer =
-        host.inputBox("Enter shooter velocity.", "Set Shooter Velocity", realText(ed.ShooterVelocity));
+        host.numberBox("Enter shooter velocity.", "Set Shooter Velocity", realText(ed.ShooterVelocity));
     const double velocity = leadingNumber(answer);
     if (!answer.empty() && velocity > -30000 && velocity <= 30000) ed.ShooterVelocity = toReal(velocity);
 }

@@ -168,7 +168,7 @@ bool ownerExists(const Editor& ed, const PropertyRow& row) {
 }
 
 void askForValue(Editor& ed, Host& host, const PropertyRow& row) {
-    const std::string answer = host.inputBox(row.prompt, "Custom Value", row.access->text(ed));
+    const std::string answer = host.numberBox(row.prompt, "Custom Value", row.access->text(ed));
     if (answer.empty()) return;
     if (!row.access->store(ed, leadingNumber(answer))) return refuse(ed, host, row.access->refusal);
     const std::string value = row.access->text(ed);
