@@ -204,8 +204,8 @@ TextPage overlayPage(const Editor& ed, double lineHeight) {
 TextPage instructionsPage(const Editor& ed, double lineHeight) {
     static constexpr const char* lines[] = {
         "To add a node, press and release the left mouse in the display area.  This also enters draw mode.",
-        "Move the mouse and a link will be drawn to the location of the mouse. Click to create a new node at "
-        "the end of the link.",
+        ("Move the mouse and a link will be drawn to the location of the mouse. "
+         "Click to create a new node at the end of the link."),
         "",
         "Right mouse click to exit draw mode.",
         "",
