@@ -376,9 +376,14 @@ TEST_F(Window, StripsAndPathOpenBelow) {
     choose("mnuDisplayAngleManager");
     EXPECT_TRUE(find("picPhase")->isVisible());
     EXPECT_GE(find("picPhase")->y(), find("picS")->geometry().bottom());
+    QFile::copy(ZENTRIK_SOURCE_DIR "/sprites/bee.svg",
+                QString::fromStdString((folder_.path / "sprites" / "a.svg").string()));
+    window_->perform("", [](Editor& ed, Host&) { ed.Nodes[1].Sprite = "a.svg"; });
     choose("mnuDisplayBrowser");
+    EXPECT_EQ(find<QComboBox>("lstSprites")->itemText(3), "a.svg") << "the folder is read again";
+    EXPECT_EQ(ed().Nodes[1].SpriteIndex, 3);
     EXPECT_TRUE(find("Frame1")->isVisible() && find("HScroll1")->isVisible());
-    EXPECT_EQ(find<QScrollBar>("HScroll1")->maximum(), 1);
+    EXPECT_EQ(find<QScrollBar>("HScroll1")->maximum(), 2);
     QTest::mouseClick(find("imgSprite2"), Qt::LeftButton);
     EXPECT_EQ(ed().Nodes[1].Sprite, "bee.svg");
     EXPECT_EQ(find<QComboBox>("lstSprites")->currentText(), "bee.svg");

@@ -72,7 +72,7 @@ void frmMain::Form_Load(const QString& folder) {
     ed_.programFolder = (folder.isEmpty() ? programFolder() : folder).toStdString();
     for (const char* kept : {"/zoo", "/backups", "/recovery"}) sweepLeftovers(ed_.programFolder + kept);
     ed_.chance.reseed();
-    loadSprites();
+    readSprites();
     if (!QFileInfo::exists(QString::fromStdString(ed_.programFolder) + "/zoo"))
         panel(ed_, 5) = "The sample projects could not be copied to " + ed_.programFolder;
     const std::string toSay = panel(ed_, 5);
@@ -94,12 +94,13 @@ void frmMain::Form_Load(const QString& folder) {
                          BoxIcon::exclamation);
 }
 
-void frmMain::loadSprites() {
-    const SpritePictures& sprites = picS_->loadPictures(ed_.programFolder + "/sprites");
-    ed_.spriteNames = sprites.names;
-    Frame1_->setPictures(sprites);
-    for (const std::string& name : sprites.skipped)
-        panel(ed_, 5) += (panel(ed_, 5).empty() ? "No usable picture: " : ", ") + name;
+// The folder may hold other pictures by now.
+void frmMain::readSprites() {
+    const std::vector<std::string> skipped = picS_->sprites.read(ed_.programFolder + "/sprites");
+    listSprites(ed_, picS_->sprites.names());
+    Frame1_->setPictures(picS_->sprites);
+    for (std::size_t i = 0; i < skipped.size(); ++i)
+        panel(ed_, 5) = (i == 0 ? "No usable picture: " : panel(ed_, 5) + ", ") + skipped[i];
 }
 
 // Menu and status bar take the room that their font needs.
@@ -153,6 +154,7 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
 
 void frmMain::showRecord() {
     assert(brokenRule(ed_).empty());
+    if (ed_.marks.mnuDisplayBrowser && Frame1_->isHidden() && isVisible()) readSprites();
     renewGlobalValues(ed_);
     for (const MenuEntry& entry : marks_) entry.action->setChecked(ed_.marks.*entry.row->mark);
     bars_.show(ed_);

@@ -87,7 +87,7 @@ private:
     void connectRecovery();
 
     void Form_Load(const QString& folder);
-    void loadSprites();
+    void readSprites();
     bool storeWork(Host& host);
     void restorePlacement(const Placement& placement);
     void followScreen();

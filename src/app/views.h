@@ -40,18 +40,11 @@ protected:
 class SceneView : public DrawingView {
 public:
     SceneView(const Editor& ed, QWidget* parent);
-    // Reads the pictures of a folder for this view's screen.
-    const SpritePictures& loadPictures(const std::string& folder);
+
+    SpritePictures sprites;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    SpritePictures sprites_;
-    std::string folder_;
-    double ratio_ = 0;
-
-    void drawPicturesAnew();
 };
 
 // picPhase
