@@ -20,7 +20,6 @@
 
 #include <QEvent>
 #include <QFileInfo>
-#include <QMenuBar>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QToolBar>
@@ -29,9 +28,6 @@
 namespace zentrik {
 
 namespace {
-
-// Bars are this high where their font allows, so that the client area begins where the layout counts on it.
-constexpr int menuBarHeight = 24;  // pixels
 
 QRect pixelRect(const Rect& r) {
     const int left = pixels(r.left), top = pixels(r.top);
@@ -103,22 +99,6 @@ void frmMain::readSprites() {
         panel(ed_, 5) = (i == 0 ? "No usable picture: " : panel(ed_, 5) + ", ") + skipped[i];
 }
 
-// Menu and status bar take the room that their font needs.
-void frmMain::fitBars() {
-    menuBar()->setFixedHeight(std::max(menuBarHeight, menuBar()->sizeHint().height()));
-    panels_.fit();
-}
-
-// What the bars take of the height that the layout leaves them room in, beyond their design, pixels.
-int frmMain::roomTaken() const {
-    return menuBar()->height() - menuBarHeight + statusBar()->height() - StatusPanels::designHeight;
-}
-
-void frmMain::layOutWindow() {
-    bars_.fit(width());
-    Form_Resize(ed_, width() * twipsPerPixel, (height() - roomTaken()) * twipsPerPixel);
-}
-
 void frmMain::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     // Shown at the size it was laid out for, the window keeps what its start said in status panel 5.
@@ -134,6 +114,7 @@ void frmMain::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
         bars_.followPalette();
         undo_->drawIcons();
+        showRecord();
     }
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         fitBars();

@@ -1,11 +1,13 @@
-// Where the main window and the path window stand on the screens.
+// Where the main window and the path window stand on the screens, and what the bars leave of the former.
 
 #include "app/frm_main.h"
 #include "app/placement.h"
 #include "model/units.h"
 #include "ui/layout.h"
 
+#include <QMenuBar>
 #include <QScreen>
+#include <QStatusBar>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -13,6 +15,9 @@
 namespace zentrik {
 
 namespace {
+
+// Bars are this high where their font allows, so that the client area begins where the layout counts on it.
+constexpr int menuBarHeight = 24;  // pixels
 
 // Enough of the title bar must be on some screen.
 bool canBeTakenHoldOf(QPoint corner, const QWidget& window) {
@@ -55,6 +60,22 @@ void frmMain::showEvent(QShowEvent* event) {
     if (std::exchange(followed_, windowHandle()) == windowHandle()) return;
     follow(screen());
     connect(windowHandle(), &QWindow::screenChanged, this, follow);
+}
+
+// Menu and status bar take the room that their font needs.
+void frmMain::fitBars() {
+    menuBar()->setFixedHeight(std::max(menuBarHeight, menuBar()->sizeHint().height()));
+    panels_.fit();
+}
+
+// What the bars take of the height that the layout leaves them room in, beyond their design, pixels.
+int frmMain::roomTaken() const {
+    return menuBar()->height() - menuBarHeight + statusBar()->height() - StatusPanels::designHeight;
+}
+
+void frmMain::layOutWindow() {
+    bars_.fit(width());
+    Form_Resize(ed_, width() * twipsPerPixel, (height() - roomTaken()) * twipsPerPixel);
 }
 
 void frmMain::placePathWindow(bool visible) {

@@ -173,6 +173,7 @@ void Toolbars::followPalette() {
         bar->setStyleSheet({});
         bar->setStyleSheet(style);
     }
+    lstSaved->setPalette({});  // shown in the scene's background colour with the next record
     drawIcons();
 }
 
