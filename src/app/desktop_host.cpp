@@ -169,7 +169,7 @@ void DesktopHost::resizeWindow(int width, int height) {
         QSize outer = frame.size();
         if (width >= 0) outer.setWidth(width / twipsPerPixel);
         if (height >= 0) outer.setHeight(height / twipsPerPixel);
-        const QSize known = border.expandedTo({0, window_.isVisible() ? 0 : usualTitleBar});
+        const QSize known = window_.isVisible() ? border : border.expandedTo(usualFrame);
         const QSize size = boundedSize(outer - border, window_.minimumSize(), window_.maximumSize());
         const QRect place =
             insideArea({frame.topLeft(), size + known}, window_.screen()->availableGeometry());

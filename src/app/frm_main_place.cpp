@@ -21,7 +21,7 @@ constexpr int menuBarHeight = 24;  // pixels
 
 // Enough of the title bar must be on some screen.
 bool canBeTakenHoldOf(QPoint corner, const QWidget& window) {
-    const QRect handle(corner, QSize(window.width(), usualTitleBar));
+    const QRect handle(corner, QSize(window.width(), usualFrame.height()));
     for (const QScreen* candidate : window.screen()->virtualSiblings()) {
         const QRect visible = candidate->availableGeometry().intersected(handle);
         if (visible.width() >= 100 && visible.height() >= 20) return true;
@@ -84,8 +84,7 @@ void frmMain::placePathWindow(bool visible) {
         const QRect place(main.left() + main.width() / 4, main.top() + main.height() + pixels(100),
                           main.width() / 2, main.height() / 2);
         // Wholly visible with its frame, even below a window that reaches down to the end of the screen.
-        const QSize frame =
-            (frmPath_->frameGeometry().size() - frmPath_->size()).expandedTo({0, usualTitleBar});
+        const QSize frame = (frmPath_->frameGeometry().size() - frmPath_->size()).expandedTo(usualFrame);
         const QRect outer =
             insideArea({place.topLeft(), place.size() + frame}, screen()->availableGeometry());
         frmPath_->resize(outer.size() - frame);

@@ -19,7 +19,7 @@ inline QRect insideArea(QRect place, const QRect& area) {
     return place;
 }
 
-// Height of a title bar where the window system has not told it yet, pixels.
-inline constexpr int usualTitleBar = 40;
+// What title bar and borders take where the window system has not told it yet, pixels.
+inline constexpr QSize usualFrame{8, 44};
 
 }  // namespace zentrik
