@@ -1,16 +1,12 @@
 // Menus, toolbars and the phase strip as the person meets them: every question and every message in
 // its wording, and what a click changes.
 
+#include "desk.h"
 #include "model/invariants.h"
 #include "model/redraw.h"
-#include "rig.h"
-#include "scenes/scenes.h"
 #include "sim/run.h"
-#include "ui/command_toolbar.h"
 #include "ui/layout.h"
-#include "ui/menus.h"
 #include "ui/phase_manager.h"
-#include "ui/property_toolbar.h"
 #include "ui/sprite_commands.h"
 
 #include <gtest/gtest.h>
@@ -19,45 +15,13 @@ namespace zentrik {
 
 namespace {
 
-template <class Rows, class Row>
-const Row& rowNamed(const Rows& rows, const char* Row::*name, std::string_view wanted) {
-    for (const Row& row : rows)
-        if (row.*name == wanted) return row;
-    throw std::runtime_error("no row " + std::string(wanted));
-}
-
-struct Desk {
-    Editor ed = scenes::fullScreen();
-    ScriptedHost host;
-
-    void choose(std::string_view name) { chooseMenu(ed, host, rowNamed(menuRows(), &MenuRow::name, name)); }
-    void press(std::string_view key) {
-        pressCommand(ed, host, rowNamed(commandRows(), &CommandRow::key, key));
-    }
-    static const PropertyRow& property(std::string_view key) {
-        return rowNamed(propertyRows(), &PropertyRow::key, key);
-    }
-    void pressProperty(std::string_view key) { zentrik::pressProperty(ed, host, property(key)); }
-    void preset(std::string_view key, const std::string& text) {
-        choosePreset(ed, host, property(key), text);
-    }
-    void answer(const std::string& text) { host.answers.push_back(text); }
-};
-
-// Two linked nodes and a lone one.
-Desk withPair() {
-    Desk desk;
-    scenes::addNodes(desk.ed, {{1000, 1000}, {2000, 1000}, {5000, 5000}});
-    scenes::addLink(desk.ed, 1, 2);
-    return desk;
-}
-
 TEST(Menus, ValuesAndColoursAreAskedForAndReset) {
     Desk desk;
     Editor& ed = desk.ed;
     const std::pair<const char*, const char*> asked[] = {
-        {"mnuGridSize", "49"}, {"mnuGridSize", "120.4"}, {"mnuGridSize", ""}, {"mnuSetRadius", "abc"},
-        {"mnuSetRadius", ""},  {"mnuDefaultK", "7x"},    {"mnuDefaultK", ""}, {"mnuDefaultForce", ""}};
+        {"mnuGridSize", "49"},   {"mnuGridSize", "120.4"}, {"mnuGridSize", ""},
+        {"mnuSetRadius", "abc"}, {"mnuSetRadius", "-30"},  {"mnuSetRadius", ""},
+        {"mnuDefaultK", "7x"},   {"mnuDefaultK", ""},      {"mnuDefaultForce", ""}};
     for (const auto& [name, answer] : asked) {
         desk.answer(answer);
         desk.choose(name);
@@ -68,9 +32,11 @@ TEST(Menus, ValuesAndColoursAreAskedForAndReset) {
               "input: Enter grid size.|Grid Size|120\n"
               "input: Enter node radius.|Set Node Radius|60\n"
               "input: Enter node radius.|Set Node Radius|0\n"
+              "input: Enter node radius.|Set Node Radius|0\n"
               "input: Enter default spring constant.|Default Spring Constant|5\n"
               "input: Enter default spring constant.|Default Spring Constant|7\n"
               "input: Enter default link force.|Default Link Force|0.2\n");
+    EXPECT_EQ(panel(ed, 5), "The node radius takes -29 twips or more!");
     EXPECT_EQ(ed.HitRadius, 30);
     EXPECT_EQ(ed.GridSize, 120);
     for (const std::int32_t colour : {0x102030, none}) {
@@ -145,8 +111,8 @@ TEST(PropertyToolbar, FacesAskAndConfirm) {
         "input: Enter custom value for gravity:|Custom Value|1\nGravity changed to 2.5\n"
         "input: Enter custom value for wind:|Custom Value|0\n\n"
         "input: Enter custom value for rate:|Custom Value|20\nRate changed to 12\n"
-        "input: Enter custom value for rate:|Custom Value|12\nRate changed to 12\n"
-        "input: Enter custom value for rate:|Custom Value|12\nRate changed to 12\n"
+        "input: Enter custom value for rate:|Custom Value|12\nThe rate takes 1 to 65535 milliseconds!\n"
+        "input: Enter custom value for rate:|Custom Value|12\nThe rate takes 1 to 65535 milliseconds!\n"
         "input: Enter custom value for mass:|Custom Value|1\nMass changed to 0\n"
         "input: Enter custom value for spring constant:|Custom Value|5\nSpring Constant (k) changed to 7\n"
         "input: Enter custom value for spring constant:|Custom Value|7\n\n\n");

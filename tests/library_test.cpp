@@ -246,19 +246,28 @@ TEST_F(Library, MailsTheProjectAndSaysWhatFailed) {
         "open: mailto:" + std::string(makerMail) +
         "?subject=Zentrik&body=Comments.%20%20Zentrik%20put%20the%20current%20project%20on%20"
         "the%20clipboard.%20It%20is%20ready%20to%20paste%20into%20this%20message%21\n";
-    const std::string failed = "message: Error sending email!|Send Email to Author\n";
+    const auto failed = [](const char* advice) {
+        return "message: Error sending email!\n" + std::string(advice) + makerMail +
+               ".|Send Email to Author\n";
+    };
+    const char *paste = "The project is on the clipboard: paste it into a mail to ",
+               *send = "Save the project and send its file from the folder zoo to ";
     mnuEmail_Click(ed, host);
     EXPECT_EQ(host.transcript, copied + opened);
     EXPECT_EQ(ed.savedNames, std::vector<std::string>{"email"});
     host.transcript.clear();
     host.desktopWorks = false;
     mnuEmail_Click(ed, host);
-    EXPECT_EQ(host.transcript, copied + failed);
+    EXPECT_EQ(host.transcript, copied + opened + failed(paste));
+    host.transcript.clear();
+    host.clipboardWorks = false;
+    mnuEmail_Click(ed, host);
+    EXPECT_EQ(host.transcript, copied + failed(send));
     host.transcript.clear();
     fs::remove_all(zoo());
     putFile(zoo(), "");
     mnuEmail_Click(ed, host);
-    EXPECT_EQ(host.transcript, failed);
+    EXPECT_EQ(host.transcript, failed(send));
     host.transcript.clear();
     SaveFile(ed, host, "a");
     EXPECT_TRUE(host.transcript.starts_with("message: zoo/a.bot could not be saved.\n")) << host.transcript;

@@ -269,7 +269,7 @@ void step(Editor& ed) {
     initialVelocities(ed);
     ed.AnimationTime = f32(f64(ed.AnimationTime) + dt * ed.TimeDirection);
     if (ed.marks.mnuDisplayAngleManager && toInt(f64(ed.AnimationTime) / dt) % 100 != 0)
-        DrawPhaseManager(ed, f32(f64(ed.DeltaAngle) * f64(ed.AnimationTime)));
+        DrawPhaseManager(ed, ed.AnimationTime);
     showClock(ed);
     forEachLink(ed,
                 [&](std::int32_t, const Link& link) { drive(ed, nodeAt(ed, link.N1), nodeAt(ed, link.N2)); });
@@ -296,6 +296,7 @@ void step(Editor& ed) {
         ed.SelectedNode = before.SelectedNode;
         return stop(ed, problem);
     }
+    if (UsedNodes(ed) != UsedNodes(before)) showCounts(ed);
     DisplayScene(ed, -1, -1);
     if (touched) ed.TimeDirection = -ed.TimeDirection;
 }

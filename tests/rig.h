@@ -23,7 +23,7 @@ public:
     std::int32_t colour = none;
     std::int32_t version = none;  // chosen
     bool hasTrash = false;
-    bool desktopWorks = true;
+    bool clipboardWorks = true, desktopWorks = true;
     int beeps = 0;
     std::string transcript;
 
@@ -60,7 +60,7 @@ public:
     void beep() override { ++beeps; }
     bool setClipboard(const std::string& text) override {
         note("clipboard", text);
-        return desktopWorks;
+        return clipboardWorks;
     }
     bool openAddress(const std::string& address) override {
         note("open", address);

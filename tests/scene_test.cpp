@@ -88,7 +88,7 @@ TEST(Scene, EveryLayerShowsWhereItsSwitchesSay) {
     const auto grid = [](bool running, bool allowed) {
         return [=](Editor& ed) {
             ed.buttons.grid = true;
-            ed.Timer1.enabled = running;
+            ed.drawnRunning = running;
             ed.marks.mnuAllowGrid = allowed;
         };
     };
@@ -275,6 +275,14 @@ TEST(PhaseStrip, ShowsAxisDiscsMarksAndCurve) {
         // d = 270 degrees lies at the lowest point of the curve: x = 0.8 * 12000 / 4 + 1200.
         const std::int32_t low = at(image, 3600, 1440);
         EXPECT_TRUE((low & 0xFF) > 0xE0 && ((low >> 8) & 0xFF) < 0xA0) << "reddish: " << low;
+    }
+    ed.Links[3].Animator = ed.Links[4].Animator = false;
+    {
+        QImage image = blankImage(ed.phaseWidth, ed.phaseHeight, 1);
+        QPainter painter(&image);
+        drawPhaseStrip(painter, ed);
+        EXPECT_EQ(at(image, 3600, 500), blue) << "picked though no longer animated";
+        EXPECT_EQ(at(image, 3600, 700), white);
     }
     ed.SelectedAnimatorLink = ed.PhaseOverLink = 99;  // outlived by their links
     ed.phaseWidth = ed.phaseHeight = 0;

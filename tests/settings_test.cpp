@@ -37,9 +37,9 @@ TEST(Settings, RoundTripInOrderAndForm) {
     ed.Timer1.interval = 35;
     ed.BackColor = 255;
     saveSettings(ed, Placement{1, 2, 15000, 6000}, store);
-    ASSERT_EQ(store.order.size(), 54U);
+    ASSERT_EQ(store.order.size(), 55U);
     EXPECT_EQ(store.order.front(), "MainLeft");
-    EXPECT_EQ(store.order.back(), "Sprite");
+    EXPECT_EQ(store.order.back(), "Maximized");
     const std::pair<const char*, const char*> written[] = {
         {"Walls", "False"}, {"Fireworks", "True"},      {"DisplayGrid", "1"},
         {"Sprite", "0"},    {"Gravity", "-0.5"},        {"ShooterVelocity", "1E+07"},
@@ -60,12 +60,12 @@ TEST(Settings, RoundTripInOrderAndForm) {
     MemoryStore second = store;
     saveSettings(ed, std::nullopt, second);
     EXPECT_EQ(second.texts["MainWidth"], "15000") << "kept from an earlier run";
-    EXPECT_EQ(second.order.size(), 104U);
+    EXPECT_EQ(second.order.size(), 106U);
 }
 
 TEST(Settings, WhatIsMissingOrDoesNotConvertGivesTheDefault) {
     MemoryStore spoilt;
-    spoilt.texts = {{"Walls", "perhaps"}, {"Gravity", "inf"},   {"NodeRadius", "wide"},
+    spoilt.texts = {{"Walls", "perhaps"}, {"Gravity", "inf"},   {"NodeRadius", "-100"},
                     {"Speed", "0"},       {"GridSize", "0"},    {"Line", "on"},
                     {"BackColor", ""},    {"MainLeft", "1e99"}, {"DeltaAngle", "2x"}};
     const auto reread = [](MemoryStore store) {

@@ -26,7 +26,9 @@ protected:
         image.fill(color);
         ASSERT_TRUE(image.save(folder.filePath(name)));
     }
-    SpritePictures load(double ratio = 1) { return loadSprites(folder.path().toStdString(), ratio); }
+    std::vector<std::string> read(SpritePictures& sprites) {
+        return sprites.read(folder.path().toStdString());
+    }
 };
 
 constexpr const char* greenSquare =
@@ -48,16 +50,50 @@ TEST_F(Sprites, UnreadableFilesAreSkippedAndNamesKeepStep) {
     write("one-pixel.gif", QByteArray::fromBase64("R0lGODlhAQABAIAAAP8AAP8AACwAAAAAAQABAAACAkQBADs="));
     ASSERT_TRUE(QDir(folder.path()).mkdir("folder.png"));
 
-    const SpritePictures sprites = load();
-    EXPECT_EQ(sprites.names,
+    SpritePictures sprites;
+    EXPECT_EQ(read(sprites), (std::vector<std::string>{"a.txt", "c.png", "empty.gif", "f-broken.svg",
+                                                       "f-huge.svg", "f-nothing.svg", "g-wide.png"}));
+    EXPECT_EQ(sprites.names(),
               (std::vector<std::string>{"<none>", "b.png", "d.bmp", "e.jpg", "f.svg", "one-pixel.gif"}));
-    EXPECT_EQ(sprites.skipped, (std::vector<std::string>{"a.txt", "c.png", "empty.gif", "f-broken.svg",
-                                                         "f-huge.svg", "f-nothing.svg", "g-wide.png"}));
-    ASSERT_EQ(sprites.pictures.size(), sprites.names.size());
-    EXPECT_TRUE(sprites.pictures[0].isNull());
-    EXPECT_EQ(sprites.pictures[1].size(), QSize(4, 6));
-    EXPECT_EQ(sprites.pictures[4].pixelColor(10, 5), QColor(Qt::green));
-    EXPECT_EQ(loadSprites("no such folder", 1).names, std::vector<std::string>{"<none>"});
+    EXPECT_TRUE(sprites.picture(0).isNull());
+    EXPECT_EQ(sprites.picture(1).size(), QSize(4, 6));
+    EXPECT_EQ(sprites.picture(4).pixelColor(10, 5), QColor(Qt::green));
+    SpritePictures none;
+    EXPECT_TRUE(none.read("no such folder").empty());
+    EXPECT_EQ(none.names(), std::vector<std::string>{"<none>"});
+}
+
+TEST_F(Sprites, ReadAgainKnownOnesKeepTheirNumber) {
+    writePicture("b.png", 4, 6, Qt::red);
+    write("c.txt", "no picture");
+    SpritePictures sprites;
+    read(sprites);
+    writePicture("a.png", 8, 8, Qt::blue);
+    write("d.txt", "no picture");
+    EXPECT_EQ(read(sprites), std::vector<std::string>{"d.txt"}) << "told once";
+    EXPECT_EQ(sprites.names(), (std::vector<std::string>{"<none>", "b.png", "a.png"}));
+    EXPECT_EQ(sprites.picture(2).size(), QSize(8, 8));
+    ASSERT_TRUE(QFile::remove(folder.filePath("b.png")));
+    read(sprites);
+    EXPECT_TRUE(sprites.picture(1).isNull()) << "gone";
+    EXPECT_EQ(sprites.names().size(), 3U);
+}
+
+TEST_F(Sprites, TakeBoundedRoomTogether) {
+    QImage large(2048, 2048, QImage::Format_RGB32);
+    large.fill(Qt::red);
+    ASSERT_TRUE(large.save(folder.filePath("0.png")));
+    for (int i = 1; i < 20; ++i)
+        QFile::copy(folder.filePath("0.png"), folder.filePath(QString("%1.png").arg(i)));
+    SpritePictures sprites;
+    read(sprites);
+    EXPECT_EQ(sprites.roomTaken(), 0) << "nothing is decoded before it is shown";
+    for (std::size_t number = 1; number <= 20; ++number) ASSERT_FALSE(sprites.picture(number).isNull());
+    EXPECT_LE(sprites.roomTaken(), SpritePictures::roomInKilobytes);
+    EXPECT_GE(sprites.roomTaken(), SpritePictures::roomInKilobytes / 2);
+    sprites.setRatio(3);
+    EXPECT_EQ(sprites.picture(1).deviceIndependentSize(), QSizeF(2048, 2048));
+    EXPECT_LE(sprites.roomTaken(), SpritePictures::roomInKilobytes);
 }
 
 TEST_F(Sprites, StandCentredOnTheirNodesAtTheirOwnSize) {
@@ -75,13 +111,15 @@ TEST_F(Sprites, StandCentredOnTheirNodesAtTheirOwnSize) {
         for (const double loadedFor : {1.0, 2.0}) {
             QImage image(QSize(200, 200) * ratio, QImage::Format_RGB32);
             image.setDevicePixelRatio(ratio);
-            const SpritePictures sprites = load(loadedFor);
+            SpritePictures sprites;
+            sprites.setRatio(loadedFor);
+            read(sprites);
             const auto at = [&](double x, double y) {
                 return image.pixelColor(static_cast<int>(x * ratio), static_cast<int>(y * ratio));
             };
             const auto draw = [&](bool allowed, bool running, bool button) {
                 ed.marks.mnuAllowSprites = allowed;
-                ed.Timer1.enabled = running;
+                ed.drawnRunning = running;
                 ed.buttons.sprite = button;
                 QPainter painter(&image);
                 drawScene(painter, ed, sprites);

@@ -204,6 +204,21 @@ TEST(Step, AttractsToTheLastBitWhereAShorterFormulaErrs) {
     }
 }
 
+TEST(Step, RefusesACrowdThatCouldNotBeSteppedInTime) {
+    Editor ed = noForces();
+    ed.buttons.start = ed.Timer1.enabled = true;
+    for (int i = 0; i < 200000; ++i) nodeAt(ed, addNode(ed, i % 500 * 50, i / 500 * 50)).Gravity = 1;
+    steps(ed, 1);
+    EXPECT_EQ(ed.panels[4],
+              "So many nodes attract each other that a step would take about 5 minutes: animation stopped!");
+    EXPECT_FALSE(ed.Timer1.enabled);
+    EXPECT_EQ(ed.AnimationTime, 0.0F);
+    for (Node& node : ed.Nodes) node.Gravity = 0;  // all but one
+    ed.Nodes[9].Gravity = 1;
+    steps(ed, 1);
+    EXPECT_GT(ed.AnimationTime, 0.0F);
+}
+
 TEST(Step, StopsWithTheNodeAndTheReason) {
     struct Case {
         const char* text;
@@ -215,7 +230,19 @@ TEST(Step, StopsWithTheNodeAndTheReason) {
           Case{"Node 1 holds a value that is not finite: animation stopped!",
                [](Editor& ed) { ed.Nodes[1].Fy = 3e38F, ed.Nodes[1].Mass = 1e-9F; }},
           Case{"Node 4 holds a value that is not finite: animation stopped!",
-               [](Editor& ed) { ed.Links[1].k = 1e38F, ed.Links[1].RestLength = 3e38F; }}}) {
+               [](Editor& ed) { ed.Links[1].k = 1e38F, ed.Links[1].RestLength = 3e38F; }},
+          Case{"Node 5 holds a value that is not finite: animation stopped!",
+               [](Editor& ed) { ed.Nodes[5].Vyo = 1e36F, ed.InitialVelocityPending = true; }},
+          Case{"Node 4 holds a value that is not finite: animation stopped!",
+               [](Editor& ed) {
+                   ed.Nodes[4].Vxo = 2e36F, ed.InitialVelocityPending = true;
+                   ed.marks.mnuUseDirectional = false;
+               }},
+          Case{"Node 4 holds a value that is not finite: animation stopped!",
+               [](Editor& ed) {  // turned with all
+                   ed.Friction = -360, ed.marks.mnuWalls = ed.marks.mnuReverseModel = true;
+                   ed.Nodes[4].Vy = 2e36F, ed.Nodes[3].X = -9;
+               }}}) {
         Editor ed = scenes::fullScreen();
         ed.buttons.start = ed.Timer1.enabled = true;
         for (int x = 1000; x <= 5000; x += 1000) addNode(ed, x, x);

@@ -1,6 +1,7 @@
 #include "app/desktop_host.h"
 
 #include "app/about_box.h"
+#include "app/placement.h"
 #include "app/versions_dialog.h"
 #include "model/records.h"
 #include "model/units.h"
@@ -10,9 +11,11 @@
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QFile>
-#include <QInputDialog>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QUrl>
 #include <algorithm>
 
@@ -41,6 +44,23 @@ QMessageBox::Icon iconOf(BoxIcon icon) {
     return QMessageBox::NoIcon;
 }
 
+// The width at which a dialog's title bar shows its whole title, as far as a screen is wide.
+int widthFor(const QDialog& dialog) {
+    constexpr int besides = 150;  // icon, buttons and margins of a title bar, pixels
+    QFont font = dialog.font();
+    font.setBold(true);
+    return std::min(QFontMetrics(font).horizontalAdvance(dialog.windowTitle()) + besides, 900);
+}
+
+void prepare(QMessageBox& box) {
+    box.setObjectName("MessageBox");
+    box.setTextFormat(Qt::PlainText);
+    // A message box takes its size from its layout alone.
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (grid != nullptr)
+        grid->addItem(new QSpacerItem(widthFor(box), 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 // Runs a dialog while `open` counts it.
 int run(QDialog& dialog, int& open) {
     ++open;
@@ -59,28 +79,32 @@ DesktopHost::DesktopHost(QWidget& window) : window_(window) {
 
 std::string DesktopHost::inputBox(const std::string& prompt, const std::string& title,
                                   const std::string& preset) {
-    QInputDialog dialog(&window_);
-    dialog.setObjectName("InputBox");
-    dialog.setWindowTitle(caption(title));
-    dialog.setLabelText(text(prompt));
-    dialog.setTextValue(text(preset));
-    dialog.resize(380, dialog.sizeHint().height());
-    const bool accepted = run(dialog, open_) == QDialog::Accepted;
-    return accepted ? dialog.textValue().toStdString() : std::string();
+    return ask(InputBox::Kind::text, prompt, title, preset);
+}
+
+std::string DesktopHost::numberBox(const std::string& prompt, const std::string& title,
+                                   const std::string& preset) {
+    return ask(InputBox::Kind::number, prompt, title, preset);
+}
+
+std::string DesktopHost::ask(InputBox::Kind kind, const std::string& prompt, const std::string& title,
+                             const std::string& preset) {
+    InputBox box(kind, text(prompt), text(preset), &window_);
+    box.setWindowTitle(caption(title));
+    box.resize(std::max(380, widthFor(box)), box.sizeHint().height());
+    return run(box, open_) == QDialog::Accepted ? box.answer().toStdString() : std::string();
 }
 
 void DesktopHost::messageBox(const std::string& message, const std::string& title, BoxIcon icon) {
     QMessageBox box(iconOf(icon), caption(title), text(message), QMessageBox::Ok, &window_);
-    box.setObjectName("MessageBox");
-    box.setTextFormat(Qt::PlainText);
+    prepare(box);
     run(box, open_);
 }
 
 bool DesktopHost::confirm(const std::string& question, const std::string& title) {
     QMessageBox box(QMessageBox::Information, caption(title), text(question),
                     QMessageBox::Ok | QMessageBox::Cancel, &window_);
-    box.setObjectName("MessageBox");
-    box.setTextFormat(Qt::PlainText);
+    prepare(box);
     return run(box, open_) == QMessageBox::Ok;
 }
 
@@ -137,16 +161,21 @@ void DesktopHost::closeAbout() {
     if (about_) about_->close();
 }
 
+// A window that fills the screen stays as it is; any other ends inside the screen's available area.
 void DesktopHost::resizeWindow(int width, int height) {
-    const QSize border = window_.frameGeometry().size() - window_.size();
-    const auto extent = [](int twips, int frame, int smallest, int largest) {
-        return std::clamp(twips / twipsPerPixel - frame, smallest, std::min(largest, 16384));
-    };
-    const QSize least = window_.minimumSize(), most = window_.maximumSize();
-    QSize size = window_.size();
-    if (width >= 0) size.setWidth(extent(width, border.width(), least.width(), most.width()));
-    if (height >= 0) size.setHeight(extent(height, border.height(), least.height(), most.height()));
-    window_.resize(size);
+    if (!window_.isMaximized() && !window_.isFullScreen()) {
+        const QRect frame = window_.frameGeometry();
+        const QSize border = frame.size() - window_.size();
+        QSize outer = frame.size();
+        if (width >= 0) outer.setWidth(width / twipsPerPixel);
+        if (height >= 0) outer.setHeight(height / twipsPerPixel);
+        const QSize known = window_.isVisible() ? border : border.expandedTo(usualFrame);
+        const QSize size = boundedSize(outer - border, window_.minimumSize(), window_.maximumSize());
+        const QRect place =
+            insideArea({frame.topLeft(), size + known}, window_.screen()->availableGeometry());
+        window_.resize((place.size() - known).expandedTo(window_.minimumSize()));
+        if (place.topLeft() != frame.topLeft()) window_.move(place.topLeft());
+    }
     if (layOutWindow) layOutWindow();
 }
 

@@ -1,4 +1,5 @@
 #pragma once
+#include "app/input_box.h"
 #include "app/message_fetcher.h"
 #include "model/host.h"
 
@@ -24,6 +25,8 @@ public:
 
     std::string inputBox(const std::string& prompt, const std::string& title,
                          const std::string& preset) override;
+    std::string numberBox(const std::string& prompt, const std::string& title,
+                          const std::string& preset) override;
     void messageBox(const std::string& text, const std::string& title, BoxIcon icon) override;
     bool confirm(const std::string& text, const std::string& title) override;
     std::size_t choose(const std::string& text, const std::string& title,
@@ -44,6 +47,9 @@ private:
     int open_ = 0;
     QPointer<QWidget> about_;
     MessageFetcher fetcher_;
+
+    std::string ask(InputBox::Kind kind, const std::string& prompt, const std::string& title,
+                    const std::string& preset);
 };
 
 }  // namespace zentrik

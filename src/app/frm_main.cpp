@@ -19,19 +19,15 @@
 #include "ui/sprite_commands.h"
 
 #include <QFileInfo>
-#include <QLabel>
-#include <QScreen>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QToolBar>
 #include <QWheelEvent>
 #include <cassert>
-#include <cmath>
 
 namespace zentrik {
 
 namespace {
-
-int pixels(double twips) { return static_cast<int>(std::lround(twips / twipsPerPixel)); }
 
 QRect pixelRect(const Rect& r) {
     const int left = pixels(r.left), top = pixels(r.top);
@@ -42,6 +38,7 @@ QRect pixelRect(const Rect& r) {
 
 frmMain::frmMain(const QString& folder)
     : host_(*this),
+      panels_(*statusBar()),
       client_(new QWidget(this)),
       bars_(*this),
       undo_(new UndoButtons(this)),
@@ -52,7 +49,7 @@ frmMain::frmMain(const QString& folder)
     setObjectName("frmMain");
     setWindowIcon(programIcon());
     buildMenus();
-    buildStatusBar();
+    statusBar()->setObjectName("StatusBar1");
     buildClient();
     connectBars();
     connectLists();
@@ -71,12 +68,13 @@ void frmMain::Form_Load(const QString& folder) {
     ed_.programFolder = (folder.isEmpty() ? programFolder() : folder).toStdString();
     for (const char* kept : {"/zoo", "/backups", "/recovery"}) sweepLeftovers(ed_.programFolder + kept);
     ed_.chance.reseed();
-    loadSprites();
+    readSprites();
     if (!QFileInfo::exists(QString::fromStdString(ed_.programFolder) + "/zoo"))
         panel(ed_, 5) = "The sample projects could not be copied to " + ed_.programFolder;
     const std::string toSay = panel(ed_, 5);
     Placement placement;
     const std::string settingsProblem = settings_.load(ed_, placement);
+    fitBars();
     restorePlacement(placement);
     layOutWindow();
     showGlobalValues(ed_);
@@ -92,44 +90,20 @@ void frmMain::Form_Load(const QString& folder) {
                          BoxIcon::exclamation);
 }
 
-void frmMain::loadSprites() {
-    const SpritePictures& sprites = picS_->loadPictures(ed_.programFolder + "/sprites");
-    ed_.spriteNames = sprites.names;
-    Frame1_->setPictures(sprites);
-    for (const std::string& name : sprites.skipped)
-        panel(ed_, 5) += (panel(ed_, 5).empty() ? "No usable picture: " : ", ") + name;
-}
-
-void frmMain::restorePlacement(const Placement& placement) {
-    setMinimumSize((smallestWidth + twipsPerPixel - 1) / twipsPerPixel,
-                   (smallestHeight + twipsPerPixel - 1) / twipsPerPixel);
-    const QSize whole = screen()->size();
-    if (whole.width() >= minimumWidth() && whole.height() >= minimumHeight()) setMaximumSize(whole);
-    const auto extent = [](float twips) {
-        return pixels(std::clamp(static_cast<double>(twips), 0.0, 240000.0));
-    };
-    resize(QSize(extent(placement.width), extent(placement.height)).expandedTo(minimumSize()));
-    const auto edge = [](float twips) { return pixels(std::clamp(static_cast<double>(twips), -1e6, 1e6)); };
-    const QPoint corner(edge(placement.left), edge(placement.top));
-    // Enough of the title bar to take hold of must be on some screen.
-    const QRect handle(corner, QSize(width(), 40));
-    for (const QScreen* candidate : screen()->virtualSiblings()) {
-        const QRect visible = candidate->availableGeometry().intersected(handle);
-        if (visible.width() >= 100 && visible.height() >= 20) return move(corner);
-    }
-    move(screen()->availableGeometry().topLeft());
-}
-
-void frmMain::layOutWindow() {
-    bars_.fit(width());
-    Form_Resize(ed_, width() * twipsPerPixel, height() * twipsPerPixel);
+// The folder may hold other pictures by now.
+void frmMain::readSprites() {
+    const std::vector<std::string> skipped = picS_->sprites.read(ed_.programFolder + "/sprites");
+    listSprites(ed_, picS_->sprites.names());
+    Frame1_->setPictures(picS_->sprites);
+    for (std::size_t i = 0; i < skipped.size(); ++i)
+        panel(ed_, 5) = (i == 0 ? "No usable picture: " : panel(ed_, 5) + ", ") + skipped[i];
 }
 
 void frmMain::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     // Shown at the size it was laid out for, the window keeps what its start said in status panel 5.
-    const bool known =
-        width() * twipsPerPixel == ed_.windowWidth && height() * twipsPerPixel == ed_.windowHeight;
+    const bool known = width() * twipsPerPixel == ed_.windowWidth &&
+                       (height() - roomTaken()) * twipsPerPixel == ed_.windowHeight;
     if (isMinimized() || known) return;
     layOutWindow();
     showRecord();
@@ -138,30 +112,21 @@ void frmMain::resizeEvent(QResizeEvent* event) {
 void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
-        bars_.drawIcons();
+        bars_.followPalette();
         undo_->drawIcons();
+        showRecord();
     }
-}
-
-void frmMain::placePathWindow(bool visible) {
-    if (visible) {
-        const QRect main = frameGeometry();
-        QRect place(main.left() + main.width() / 4, main.top() + main.height() + pixels(100),
-                    main.width() / 2, main.height() / 2);
-        // Below a window that reaches down to the end of the screen nobody would see it.
-        const QRect visibleArea = screen()->availableGeometry();
-        if (!visibleArea.intersects(place)) place.moveBottom(visibleArea.bottom());
-        // Placed by its frame, so that its title bar does not lie on the status bar.
-        frmPath_->resize(place.size());
-        frmPath_->move(place.topLeft());
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        fitBars();
+        layOutWindow();
+        showRecord();
     }
-    frmPath_->setVisible(visible);
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     // A wheel turned over the closed list would change the selected node's sprite.
     if (event->type() == QEvent::Wheel && watched == bars_.lstSprites) return true;
-    if (event->type() == QEvent::Wheel && watched == panels_[3]) {
+    if (event->type() == QEvent::Wheel && watched == &panels_.panel(4)) {
         turnTime(*static_cast<QWheelEvent*>(event));
         return true;
     }
@@ -170,13 +135,14 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
 
 void frmMain::showRecord() {
     assert(brokenRule(ed_).empty());
+    if (ed_.marks.mnuDisplayBrowser && Frame1_->isHidden() && isVisible()) readSprites();
+    renewGlobalValues(ed_);
     for (const MenuEntry& entry : marks_) entry.action->setChecked(ed_.marks.*entry.row->mark);
     bars_.show(ed_);
     undo_->show(history_);
     showTitle();
     recovery_->follow(ed_, history_);
-    for (std::size_t i = 0; i < panels_.size(); ++i)
-        panels_[i]->setText(QString::fromStdString(ed_.panels[i]));
+    panels_.show(ed_.panels);
     showLayout();
     showTimers();
     if (std::exchange(ed_.sceneStale, false)) picS_->pacer.request();

@@ -4,6 +4,7 @@
 #include "app/recovery_keeper.h"
 #include "app/settings_store.h"
 #include "app/sprite_browser.h"
+#include "app/status_panels.h"
 #include "app/toolbars.h"
 #include "app/undo_buttons.h"
 #include "app/views.h"
@@ -15,9 +16,6 @@
 
 #include <QMainWindow>
 #include <QTimer>
-#include <array>
-
-class QLabel;
 
 namespace zentrik {
 
@@ -34,6 +32,7 @@ public:
     template <class Procedure>
     void perform(const std::string& what, Procedure procedure) {
         run(Event::command, what, procedure);
+        leaveList();
     }
 
     // Offers what programs that are gone had not saved, one box for each.
@@ -45,6 +44,7 @@ public:
     void keepWorkAndEnd();
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -65,7 +65,7 @@ private:
     bool ended_ = false;
     int wheelTurn_ = 0;  // over the clock, eighths of a degree
     std::vector<MenuEntry> marks_;
-    std::array<QLabel*, 5> panels_{};
+    StatusPanels panels_;
     QTimer Timer1_, timerFireWorks_;
     QWidget* const client_;
     Toolbars bars_;
@@ -74,9 +74,9 @@ private:
     PhaseView* const picPhase_;
     SpriteBrowser* const Frame1_;
     PathWindow* const frmPath_;
+    QWindow* followed_ = nullptr;  // whose screen bounds the window's size
 
     void buildMenus();
-    void buildStatusBar();
     void buildClient();
     void connectBars();
     void connectLists();
@@ -87,10 +87,13 @@ private:
     void connectRecovery();
 
     void Form_Load(const QString& folder);
-    void loadSprites();
+    void readSprites();
     bool storeWork(Host& host);
     void restorePlacement(const Placement& placement);
+    void followScreen();
     void placePathWindow(bool visible);
+    void fitBars();
+    int roomTaken() const;
     void layOutWindow();
     void goThroughTime(int steps);
     void turnTime(const QWheelEvent& event);
@@ -109,6 +112,11 @@ private:
         if (host_.isAsking()) return;
         procedure(ed_, host_);
         showRecord();
+    }
+
+    // After a command the keys are the scene's again.
+    void leaveList() {
+        if (bars_.lstSaved->hasFocus()) picS_->setFocus();
     }
 
     void showRecord();

@@ -15,21 +15,15 @@
 #include "ui/undo.h"
 
 #include <QComboBox>
-#include <QLabel>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QStatusBar>
 #include <QToolBar>
 #include <QWheelEvent>
 
 namespace zentrik {
 
 namespace {
-
-// Bars have fixed heights, so that the client area begins where the layout counts on it.
-constexpr int menuBarHeight = 24, statusBarHeight = 22;  // pixels
-constexpr int panelWidths[] = {118, 118, 141, 169};      // of the first four panels, pixels
 
 // A caption as it reads: without the mark of its access key.
 std::string plainCaption(const char* caption) { return QString(caption).remove('&').toStdString(); }
@@ -42,7 +36,6 @@ std::string plainLabel(const PropertyRow& row) {
 }  // namespace
 
 void frmMain::buildMenus() {
-    menuBar()->setFixedHeight(menuBarHeight);
     menuBar()->setNativeMenuBar(false);
     QMenu* menu = nullptr;
     for (const MenuRow& row : menuRows()) {
@@ -61,24 +54,6 @@ void frmMain::buildMenus() {
         connect(action, &QAction::triggered, this, [this, &row] {
             perform(plainCaption(row.caption), [&](Editor& ed, Host& host) { chooseMenu(ed, host, row); });
         });
-    }
-}
-
-void frmMain::buildStatusBar() {
-    statusBar()->setObjectName("StatusBar1");
-    statusBar()->setFixedHeight(statusBarHeight);
-    statusBar()->setStyleSheet("QStatusBar::item { border: none; }");
-    for (std::size_t i = 0; i < panels_.size(); ++i) {
-        auto* label = new QLabel(this);
-        label->setObjectName(QString("Panel%1").arg(i + 1));
-        label->setTextFormat(Qt::PlainText);
-        label->setContentsMargins(6, 0, 6, 0);
-        const bool wide = i >= std::size(panelWidths);
-        if (!wide) label->setFixedWidth(panelWidths[i]);
-        // The wide panel's text may be longer than the window; it must not widen it.
-        if (wide) label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        statusBar()->addWidget(label, wide ? 1 : 0);
-        panels_[i] = label;
     }
 }
 
@@ -138,6 +113,7 @@ void frmMain::connectUndo() {
     const auto take = [this](void (*way)(Editor&, History&)) {
         follow([&](Editor& ed, Host&) { way(ed, history_); });
         forgetRun(timeline_);
+        leaveList();
     };
     undo_->undo = [take] { take(undoLast); };
     undo_->redo = [take] { take(redoNext); };
@@ -152,8 +128,8 @@ void frmMain::connectTime() {
          {Key{"Ctrl+Left", -1}, {"Ctrl+Right", 1}, {"Ctrl+Shift+Left", -100}, {"Ctrl+Shift+Right", 100}})
         connect(new QShortcut(QKeySequence(it.key), this), &QShortcut::activated, this,
                 [this, steps = it.steps] { goThroughTime(steps); });
-    panels_[3]->installEventFilter(this);
-    panels_[3]->setToolTip(
+    panels_.panel(4).installEventFilter(this);
+    panels_.panel(4).setTip(
         "Turn the wheel here, or press Ctrl+Left and Ctrl+Right, to go through the run step by step; with "
         "Shift a hundred steps");
 }
@@ -184,8 +160,13 @@ void frmMain::connectViews() {
         mouse.down = [this, what, press](int b, float x, float y) {
             run(Event::mouse, what, [&](Editor& ed, Host&) { press(ed, b, x, y); });
         };
-        mouse.move = [this, what, drag](float x, float y) {
+        mouse.move = [this, what, drag, release](float x, float y, bool leftHeld) {
             const auto move = [&](Editor& ed, Host&) { drag(ed, x, y); };
+            // A box, a hidden strip or another window took the release.
+            if ((ed_.MouseIsDown || ed_.PhaseDragging) && !leftHeld) {
+                const auto let = [&](Editor& ed, Host&) { release(ed, leftButton, x, y); };
+                run(Event::mouse, what, let);
+            }
             if (ed_.MouseIsDown || ed_.PhaseDragging)
                 run(Event::mouse, what, move);
             else
@@ -205,6 +186,9 @@ void frmMain::connectViews() {
     picPhase_->mouse = calls(
         "Phase turned", picPhase_MouseDown, picPhase_MouseMove,
         [](Editor& ed, int, float, float) { picPhase_MouseUp(ed); }, picPhase_DblClick);
+    picS_->mouse.leave = [this] {
+        if (ed_.rubberBand) follow([](Editor& ed, Host&) { DisplayScene(ed, -1, -1); });
+    };
     frmPath_->clicked = [this] { follow([](Editor& ed, Host&) { clearPath(ed); }); };
     frmPath_->closed = [this] { follow([](Editor& ed, Host&) { ed.marks.mnuDisplayPath = false; }); };
     host_.placePathWindow = [this](bool visible) { placePathWindow(visible); };

@@ -18,6 +18,7 @@ bool frmMain::storeWork(Host& host) {
         const auto twips = [](int extent) { return static_cast<float>(extent * twipsPerPixel); };
         placement = Placement{twips(pos().x()), twips(pos().y()), twips(width()), twips(height())};
     }
+    ed_.windowMaximized = isMaximized();
     if (const std::string problem = settings_.store(ed_, placement); !problem.empty())
         host.messageBox(problem, "Zentrik", BoxIcon::exclamation);
     return SaveFile(ed_, host, "resume");

@@ -26,15 +26,19 @@ QPixmap rendered(const QByteArray& svg, int size, double opacity) {
 
 }  // namespace
 
-QIcon themedIcon(const QString& key, const QPalette& palette) {
-    QByteArray svg = drawing(key);
-    svg.replace(ink, palette.color(QPalette::ButtonText).name().toLatin1());
+QIcon themedIcon(const QString& key, const QPalette& palette, const QString& pressedKey) {
     QIcon icon;
-    // The sizes that toolbars use at 100, 150 and 200 %, so that none is scaled from another.
-    for (const int size : {20, 24, 30, 36, 40, 48, 72}) {
-        icon.addPixmap(rendered(svg, size, 1), QIcon::Normal);
-        icon.addPixmap(rendered(svg, size, 0.3), QIcon::Disabled);
-    }
+    const auto add = [&](const QString& of, QIcon::State state) {
+        QByteArray svg = drawing(of);
+        svg.replace(ink, palette.color(QPalette::ButtonText).name().toLatin1());
+        // The sizes that toolbars use at 100, 150 and 200 %, so that none is scaled from another.
+        for (const int size : {20, 24, 30, 36, 40, 48, 72}) {
+            icon.addPixmap(rendered(svg, size, 1), QIcon::Normal, state);
+            icon.addPixmap(rendered(svg, size, 0.3), QIcon::Disabled, state);
+        }
+    };
+    add(key, QIcon::Off);
+    if (!pressedKey.isEmpty()) add(pressedKey, QIcon::On);
     return icon;
 }
 

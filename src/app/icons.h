@@ -5,7 +5,8 @@
 namespace zentrik {
 
 // The icon of a key, its ink in the palette's text colour so that it reads on light and dark themes.
-QIcon themedIcon(const QString& key, const QPalette& palette);
+// pressedKey: another drawing for a two-state button that is pressed; empty for none.
+QIcon themedIcon(const QString& key, const QPalette& palette, const QString& pressedKey = {});
 
 QIcon programIcon();
 

@@ -8,7 +8,6 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName("Zentrik");
     QApplication::setApplicationVersion(ZENTRIK_VERSION);
-    QApplication::setStyle("Fusion");
     zentrik::frmMain window;
     window.show();
     const zentrik::ProgramEnds ends(app, window);

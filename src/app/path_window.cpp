@@ -7,11 +7,11 @@
 
 namespace zentrik {
 
-PathWindow::PathWindow(const Editor& ed, QWidget* parent)
-    : QWidget(parent, Qt::Window), pacer(*this), ed_(ed) {
+PathWindow::PathWindow(const Editor& ed, QWidget* parent) : QWidget(parent, Qt::Tool), pacer(*this), ed_(ed) {
     setObjectName("frmPath");
     setWindowTitle("Path of Selected Node");
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_ShowWithoutActivating);  // the keys stay with the main window
 }
 
 void PathWindow::paintEvent(QPaintEvent*) {

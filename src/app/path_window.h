@@ -8,7 +8,7 @@
 
 namespace zentrik {
 
-// frmPath: shows the dots of the selected node's path. A click erases them.
+// frmPath: shows the dots of the selected node's path, above the main window. A click erases them.
 class PathWindow : public QWidget {
 public:
     PathWindow(const Editor& ed, QWidget* parent);

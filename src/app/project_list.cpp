@@ -37,13 +37,12 @@ void ProjectList::wheelEvent(QWheelEvent* event) { event->accept(); }
 
 bool ProjectList::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
-        case QEvent::ShortcutOverride: {
-            // While a name is typed, no key is a shortcut of the menus; Alt still opens them.
-            auto* key = static_cast<QKeyEvent*>(event);
-            const bool menu = key->modifiers().testFlag(Qt::AltModifier) && key->key() != Qt::Key_Backspace;
-            event->setAccepted(!menu);
+        case QEvent::ShortcutOverride:
+            // While a name is typed, keys that edit text are no shortcuts of the menus. The line knows its
+            // own, but for this one.
+            if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Backspace) return false;
+            event->accept();
             return true;
-        }
         case QEvent::KeyPress:
             return keyPressed(static_cast<QKeyEvent*>(event)->key());
         case QEvent::FocusIn:

@@ -19,16 +19,25 @@ class Thumbnail : public QLabel {
 public:
     std::function<void()> clicked;
 
-    Thumbnail(const QImage& picture, QWidget* parent) : QLabel(parent) {
-        const double ratio = picture.devicePixelRatio();
-        setPixmap(QPixmap::fromImage(picture.scaled(QSize(pictureSize - 6, pictureSize - 6) * ratio,
-                                                    Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+    Thumbnail(const SpritePictures& sprites, std::size_t number, QWidget* parent)
+        : QLabel(parent), sprites_(sprites), number_(number) {
         setAlignment(Qt::AlignCenter);
         setLineWidth(1);
         setFrameStyle(QFrame::NoFrame);
     }
 
 protected:
+    // Most of a long strip is never scrolled to.
+    void paintEvent(QPaintEvent* event) override {
+        if (pixmap().isNull()) {
+            const QImage picture = sprites_.picture(number_);
+            const QSize size = QSize(pictureSize - 6, pictureSize - 6) * picture.devicePixelRatio();
+            if (!picture.isNull())
+                setPixmap(
+                    QPixmap::fromImage(picture.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+        }
+        QLabel::paintEvent(event);
+    }
     void mousePressEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton) setFrameStyle(QFrame::Panel | QFrame::Sunken);
     }
@@ -37,6 +46,10 @@ protected:
         setFrameStyle(QFrame::NoFrame);
         if (rect().contains(event->pos())) clicked();
     }
+
+private:
+    const SpritePictures& sprites_;
+    const std::size_t number_;
 };
 
 }  // namespace
@@ -54,15 +67,18 @@ SpriteBrowser::SpriteBrowser(QWidget* parent)
 }
 
 void SpriteBrowser::setPictures(const SpritePictures& sprites) {
-    const int count = static_cast<int>(sprites.names.size());
+    qDeleteAll(strip_->children());
+    const int count = static_cast<int>(sprites.names().size());
     for (int i = 1; i < count; ++i) {
-        auto* picture = new Thumbnail(sprites.pictures[static_cast<std::size_t>(i)], strip_);
-        const QString name = QString::fromStdString(sprites.names[static_cast<std::size_t>(i)]);
+        const auto number = static_cast<std::size_t>(i);
+        auto* picture = new Thumbnail(sprites, number, strip_);
+        const QString name = QString::fromStdString(sprites.names()[number]);
         picture->setObjectName(QString("imgSprite%1").arg(i));
         picture->setToolTip(name);
         picture->setAccessibleName(name);
         picture->clicked = [this, i] { pictureClicked(i); };
         picture->setGeometry(firstLeft + (i - 1) * (pictureSize + slotGap), 0, pictureSize, pictureSize);
+        picture->show();
     }
     strip_->setGeometry(0, 3, firstLeft + count * (pictureSize + slotGap), pictureSize);
     HScroll1->setRange(0, std::max(count - 2, 0));

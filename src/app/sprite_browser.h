@@ -16,6 +16,7 @@ public:
     std::function<void(int index)> pictureClicked;
     QScrollBar* const HScroll1;
 
+    // Shows all pictures anew. The pictures must outlive the browser.
     void setPictures(const SpritePictures& sprites);
 
 private:

@@ -3,18 +3,25 @@
 #include "app/icons.h"
 #include "display/canvas.h"
 #include "display/lettering.h"
+#include "display/overlays.h"
+#include "model/units.h"
+#include "ui/layout.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
+#include <algorithm>
 
 namespace zentrik {
 
 namespace {
 
-constexpr int arrowWidth = 12;                     // of drop-down buttons
+// Of drop-down buttons; those of the global values are as far apart as the read-out prints them.
+constexpr int arrowWidth = 12, globalArrowWidth = 16;
 constexpr int smallButton = 22, largeButton = 28;  // widths
 constexpr int smallIcon = 20, largeIcon = 24;
 constexpr int widthForLarge = 1200;  // of the window
@@ -93,6 +100,7 @@ Toolbars::Toolbars(QWidget& window)
       lstSaved(makeList<ProjectList>("lstSaved",
                                      "Projects: choose one, or type a name and press Enter to save", window)),
       lstSprites(makeList<QComboBox>("lstSprites", "Sprite of the selected node", window)) {
+    lstSprites->setFocusPolicy(Qt::TabFocus);
     buildCommands();
     buildProperties();
     drawIcons();
@@ -119,7 +127,16 @@ void Toolbars::buildCommands() {
 
 void Toolbars::buildProperties() {
     bool groupOpen = false, roomTaken = false;
+    const auto filler = [this] {
+        auto* empty = new QWidget(Toolbar2);
+        empty->setFixedWidth(0);
+        Toolbar2->addWidget(empty);
+        return empty;
+    };
+    lstSprites->setFixedWidth(smallList);
+    fillers_ = {filler(), lstSprites, nullptr};
     for (const PropertyRow& row : propertyRows()) {
+        if (row.owner == Owner::link && fillers_[2] == nullptr) fillers_[2] = filler();
         if (row.style == ButtonStyle::separator) {
             closeGroup(*Toolbar2, groupOpen);
         } else if (row.style == ButtonStyle::room) {
@@ -128,7 +145,11 @@ void Toolbars::buildProperties() {
         } else {
             QToolButton* button = makeButton(row.key, row.pressed != nullptr, *Toolbar2);
             QObject::connect(button, &QToolButton::clicked, Toolbar2, [this, &row] { propertyPressed(row); });
-            if (row.style == ButtonStyle::dropDown) addPresets(*button, row);
+            const bool dropDown = row.style == ButtonStyle::dropDown;
+            if (dropDown) addPresets(*button, row);
+            button->setIconSize({smallIcon, smallIcon});
+            const int arrow = row.owner == Owner::global ? globalArrowWidth : arrowWidth;
+            button->setFixedSize(smallButton + (dropDown ? arrow : 0), height - 4);
             QAction* place = Toolbar2->addWidget(button);
             properties_.push_back({&row, button, place});
         }
@@ -146,27 +167,51 @@ void Toolbars::addPresets(QToolButton& button, const PropertyRow& row) {
     button.setPopupMode(QToolButton::MenuButtonPopup);
 }
 
+void Toolbars::followPalette() {
+    // A style sheet keeps the colours it was first applied with.
+    for (QToolBar* bar : {Toolbar1, Toolbar2}) {
+        bar->setStyleSheet({});
+        bar->setStyleSheet(style);
+    }
+    lstSaved->setPalette({});  // shown in the scene's background colour with the next record
+    drawIcons();
+}
+
 void Toolbars::drawIcons() {
-    const QPalette palette = Toolbar1->palette();
-    for (const CommandButton& it : commands_) it.button->setIcon(themedIcon(it.row->icon, palette));
+    const QPalette palette = QApplication::palette();
+    for (const CommandButton& it : commands_) {
+        const bool starts = it.row->pressed == &Buttons::start;
+        it.button->setIcon(themedIcon(it.row->icon, palette, starts ? "stop" : ""));
+    }
     for (const PropertyButton& it : properties_) it.button->setIcon(themedIcon(it.row->icon, palette));
 }
 
 void Toolbars::fit(int width) {
-    Toolbar2->resize(width, height);  // it stands in no layout that would
     const bool large = width >= widthForLarge;
-    const int extent = large ? largeButton : smallButton;
-    if (extent == buttonWidth_) return;
-    buttonWidth_ = extent;
-    const QSize icon = large ? QSize(largeIcon, largeIcon) : QSize(smallIcon, smallIcon);
-    const auto size = [&](QToolButton& button, bool dropDown) {
-        button.setIconSize(icon);
-        button.setFixedSize(extent + (dropDown ? arrowWidth : 0), height - 4);
-    };
-    for (const CommandButton& it : commands_) size(*it.button, false);
-    for (const PropertyButton& it : properties_) size(*it.button, it.row->style == ButtonStyle::dropDown);
-    for (QComboBox* list : {static_cast<QComboBox*>(lstSaved), lstSprites})
-        list->setFixedWidth(large ? largeList : smallList);
+    const int icon = large ? largeIcon : smallIcon;
+    for (const CommandButton& it : commands_) {
+        it.button->setIconSize({icon, icon});
+        it.button->setFixedSize(large ? largeButton : smallButton, height - 4);
+    }
+    lstSaved->setFixedWidth(large ? largeList : smallList);
+    Toolbar2->resize(width, height);  // it stands in no layout that would
+    alignProperties();
+}
+
+void Toolbars::alignProperties() {
+    constexpr struct {
+        const char* key;
+        double place;  // of its value in the read-out, twips of the scene
+    } firsts[] = {{"gravity", readoutLeft}, {"mass", readoutNode}, {"k", readoutLink}};
+    for (std::size_t i = 0; i < fillers_.size(); ++i) {
+        const auto first = std::find_if(
+            properties_.begin(), properties_.end(),
+            [&](const PropertyButton& it) { return std::string_view(it.row->key) == firsts[i].key; });
+        Toolbar2->layout()->activate();
+        const int missing = pixels(sceneLeft + firsts[i].place) - first->button->x();
+        fillers_[i]->setFixedWidth(std::max(fillers_[i]->minimumWidth() + missing, 0));
+    }
+    Toolbar2->layout()->activate();
 }
 
 void Toolbars::show(const Editor& ed) {

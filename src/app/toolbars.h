@@ -4,6 +4,7 @@
 #include "ui/property_toolbar.h"
 
 #include <QWidget>
+#include <array>
 #include <functional>
 #include <string>
 #include <vector>
@@ -33,10 +34,11 @@ public:
     static constexpr int height = 34;  // of each bar, pixels
 
     void show(const Editor& ed);
-    // Fits the bars into a width in pixels: the buttons get the size at which every one is visible.
+    // Fits the bars into a width in pixels: the commands get the size at which every one is visible. The
+    // property toolbar's groups begin where the scene's one-line read-out prints their values.
     void fit(int width);
-    // Draws the icons in the palette's colours.
-    void drawIcons();
+    // Draws everything in the desktop's present colours.
+    void followPalette();
 
 private:
     struct CommandButton {
@@ -50,10 +52,13 @@ private:
     };
     std::vector<CommandButton> commands_;
     std::vector<PropertyButton> properties_;
-    int buttonWidth_ = 0;
+    // What stands before the first global value, the first node value and the first link value.
+    std::array<QWidget*, 3> fillers_{};
 
+    void drawIcons();
     void buildCommands();
     void buildProperties();
+    void alignProperties();
     void addPresets(QToolButton& button, const PropertyRow& row);
     void showLists(const Editor& ed);
 };

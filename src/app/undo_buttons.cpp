@@ -2,6 +2,7 @@
 
 #include "app/icons.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QShortcut>
 
@@ -62,8 +63,8 @@ void UndoButtons::show(const History& history) {
 }
 
 void UndoButtons::drawIcons() {
-    undoButton_->setIcon(themedIcon("undo", palette()));
-    redoButton_->setIcon(themedIcon("redo", palette()));
+    undoButton_->setIcon(themedIcon("undo", QApplication::palette()));
+    redoButton_->setIcon(themedIcon("redo", QApplication::palette()));
 }
 
 }  // namespace zentrik

@@ -41,7 +41,8 @@ void DrawingView::mousePressEvent(QMouseEvent* event) {
 }
 
 void DrawingView::mouseMoveEvent(QMouseEvent* event) {
-    mouse.move(twips(event->position().x()), twips(event->position().y()));
+    mouse.move(twips(event->position().x()), twips(event->position().y()),
+               event->buttons().testFlag(Qt::LeftButton));
 }
 
 void DrawingView::mouseReleaseEvent(QMouseEvent* event) {
@@ -56,30 +57,17 @@ void DrawingView::mouseDoubleClickEvent(QMouseEvent* event) {
         mousePressEvent(event);  // two quick presses of another button are just that
 }
 
+void DrawingView::leaveEvent(QEvent*) { mouse.leave(); }
+
 SceneView::SceneView(const Editor& ed, QWidget* parent) : DrawingView(ed, parent) {
     setObjectName("picS");
     setAccessibleName("Scene");
 }
 
-const SpritePictures& SceneView::loadPictures(const std::string& folder) {
-    folder_ = folder;
-    ratio_ = devicePixelRatioF();
-    sprites_ = loadSprites(folder, ratio_);
-    return sprites_;
-}
-
-// The window came to a screen of another pixel ratio. The folder may hold other files by now; then the
-// pictures stay as they are, since nodes know them by number.
-void SceneView::drawPicturesAnew() {
-    ratio_ = devicePixelRatioF();
-    SpritePictures fresh = loadSprites(folder_, ratio_);
-    if (fresh.names == sprites_.names) sprites_ = std::move(fresh);
-}
-
 void SceneView::paintEvent(QPaintEvent*) {
-    if (ratio_ != 0 && ratio_ != devicePixelRatioF()) drawPicturesAnew();
+    sprites.setRatio(devicePixelRatioF());
     QPainter painter(this);
-    drawScene(painter, ed_, sprites_);
+    drawScene(painter, ed_, sprites);
 }
 
 PhaseView::PhaseView(const Editor& ed, QWidget* parent) : DrawingView(ed, parent) {

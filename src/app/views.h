@@ -14,8 +14,9 @@ namespace zentrik {
 // A double click arrives as press, release, double click, release, as Qt delivers it.
 struct MouseCalls {
     std::function<void(int button, float x, float y)> down, up;
-    std::function<void(float x, float y)> move;
+    std::function<void(float x, float y, bool leftHeld)> move;
     std::function<void()> doubleClick;
+    std::function<void()> leave = [] {};  // the pointer is no longer over the area
 };
 
 class DrawingView : public QWidget {
@@ -32,24 +33,18 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 };
 
 // picS
 class SceneView : public DrawingView {
 public:
     SceneView(const Editor& ed, QWidget* parent);
-    // Reads the pictures of a folder for this view's screen.
-    const SpritePictures& loadPictures(const std::string& folder);
+
+    SpritePictures sprites;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    SpritePictures sprites_;
-    std::string folder_;
-    double ratio_ = 0;
-
-    void drawPicturesAnew();
 };
 
 // picPhase

@@ -55,19 +55,19 @@ void PrintSimpleData(TextPage& page, const Editor& ed) {
     page.color = black;
     page.y = 50;
     // The values stand under the letters g f v w B t r c of a project file.
-    page.put(left, " " + realText(ed.Gravity) + blanks(8) + fixedText(ed.Friction, 1) + blanks(8) +
-                       fixedText(ed.Viscosity, 1) + blanks(9) + realText(ed.LeftWind) + blanks(10) +
-                       fixedText(ed.Bounce, 1) + blanks(8) + realText(ed.TimeInterval) + blanks(8) +
-                       std::to_string(ed.Timer1.interval) + blanks(8) + realText(ed.DeltaAngle));
+    page.put(readoutLeft, " " + realText(ed.Gravity) + blanks(8) + fixedText(ed.Friction, 1) + blanks(8) +
+                              fixedText(ed.Viscosity, 1) + blanks(9) + realText(ed.LeftWind) + blanks(10) +
+                              fixedText(ed.Bounce, 1) + blanks(8) + realText(ed.TimeInterval) + blanks(8) +
+                              std::to_string(ed.Timer1.interval) + blanks(8) + realText(ed.DeltaAngle));
     if (nodeExists(ed, ed.SelectedNode)) {
         const Node& node = nodeAt(ed, ed.SelectedNode);
-        page.put(7550, realText(node.Mass) + blanks(9) + realText(node.Gravity) + blanks(10) +
-                           realText(node.Rotate) + blanks(9) + realText(node.Vxo) + blanks(10) +
-                           realText(node.Vyo));
+        page.put(readoutNode, realText(node.Mass) + blanks(9) + realText(node.Gravity) + blanks(10) +
+                                  realText(node.Rotate) + blanks(9) + realText(node.Vxo) + blanks(10) +
+                                  realText(node.Vyo));
     }
     if (linkExists(ed, ed.SelectedLink)) {
         const Link& link = linkAt(ed, ed.SelectedLink);
-        page.line(10800,
+        page.line(readoutLink,
                   realText(link.k) + blanks(10) + whole(link.Angle) + blanks(6) + realText(link.Force));
     }
 }
@@ -204,8 +204,8 @@ TextPage overlayPage(const Editor& ed, double lineHeight) {
 TextPage instructionsPage(const Editor& ed, double lineHeight) {
     static constexpr const char* lines[] = {
         "To add a node, press and release the left mouse in the display area.  This also enters draw mode.",
-        "Move the mouse and a link will be drawn to the location of the mouse. Click to create a new node at "
-        "the end of the link.",
+        ("Move the mouse and a link will be drawn to the location of the mouse. "
+         "Click to create a new node at the end of the link."),
         "",
         "Right mouse click to exit draw mode.",
         "",

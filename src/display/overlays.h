@@ -40,6 +40,10 @@ private:
     double width_, height_, lineHeight_;
 };
 
+// Where the one-line read-out prints the first global value, the selected node's and the selected link's,
+// twips.
+inline constexpr double readoutLeft = 100, readoutNode = 7550, readoutLink = 10800;
+
 void PrintNumbers(TextPage& page, const Editor& ed);
 void PrintSimpleData(TextPage& page, const Editor& ed);
 void PrintDataOnScreen(TextPage& page, const Editor& ed);

@@ -45,8 +45,10 @@ void drawDiscs(const Canvas& canvas, const Editor& ed) {
         if (link.Res4 > ed.phaseHeight) continue;
         letters.print(canvas.painter, canvas.place(link.Res1, link.Res4), " " + std::to_string(j));
     }
+    // A link that is no longer animated still answers the pointer where its disc was last.
     const auto again = [&](std::int32_t j, std::int32_t fill) {
-        if (hasDisc(ed, j)) disc.paint(linkAt(ed, j).Res1, linkAt(ed, j).Res4, fill, black);
+        if (!linkExists(ed, j) || !linkAt(ed, j).Used) return;
+        disc.paint(linkAt(ed, j).Res1, linkAt(ed, j).Res4, fill, black);
     };
     again(ed.SelectedAnimatorLink, blue);
     again(ed.PhaseOverLink, white);

@@ -38,7 +38,7 @@ void drawScene(QPainter& painter, const Editor& ed, const SpritePictures& sprite
     painter.fillRect(canvas.frame, colorOf(ed.BackColor));
     if (ed.sceneBlank) return;
 
-    const bool running = ed.Timer1.enabled;
+    const bool running = ed.drawnRunning;
     if (!running || ed.marks.mnuAllowGrid) DisplayGrid(canvas, ed);
     if (ed.buttons.line) drawLinks(canvas, ed);
     if (ed.buttons.activeline) drawAnimatedLinks(canvas, ed);

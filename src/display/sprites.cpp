@@ -5,7 +5,8 @@
 #include <QDir>
 #include <QImageReader>
 #include <QSvgRenderer>
-#include <optional>
+#include <algorithm>
+#include <utility>
 
 namespace zentrik {
 
@@ -29,8 +30,12 @@ QImage readVectorPicture(const QString& path, double ratio) {
     return picture;
 }
 
+bool isVector(const QImageReader& reader) {
+    return reader.fileName().endsWith(".svg", Qt::CaseInsensitive) ||
+           reader.format().startsWith(QByteArray("svg"));
+}
+
 QImage readPixelPicture(QImageReader& reader, double ratio) {
-    if (reader.size().isValid() && !fits(reader.size())) return {};
     const QImage picture = reader.read();
     if (picture.isNull() || !fits(picture.size())) return {};
     const auto format =
@@ -41,51 +46,99 @@ QImage readPixelPicture(QImageReader& reader, double ratio) {
     return plain.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(format);
 }
 
-QImage readPicture(const QString& path, double ratio) {
-    QImageReader reader(path);
+void prepare(QImageReader& reader) {
     reader.setAutoTransform(true);
     reader.setDecideFormatFromContent(true);
-    const bool vector =
-        path.endsWith(".svg", Qt::CaseInsensitive) || reader.format().startsWith(QByteArray("svg"));
-    QImage picture = vector ? readVectorPicture(path, ratio) : readPixelPicture(reader, ratio);
+}
+
+// Most formats tell a picture's size in front. Empty where the file holds no usable picture.
+QSize pictureSize(const QString& path) {
+    QImageReader reader(path);
+    prepare(reader);
+    QSize size = reader.size();
+    if (isVector(reader)) {
+        const QSvgRenderer renderer(path);
+        size = renderer.isValid() ? renderer.defaultSize() : QSize();
+    } else if (!size.isValid()) {
+        size = reader.read().size();
+    } else if (reader.transformation().testFlag(QImageIOHandler::TransformationRotate90)) {
+        size.transpose();
+    }
+    return fits(size) ? size : QSize();
+}
+
+QImage readPicture(const QString& path, double ratio) {
+    QImageReader reader(path);
+    prepare(reader);
+    QImage picture = isVector(reader) ? readVectorPicture(path, ratio) : readPixelPicture(reader, ratio);
     picture.setDevicePixelRatio(ratio);
     return picture;
 }
 
+bool contains(const std::vector<std::string>& names, const std::string& name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
 }  // namespace
 
-SpritePictures loadSprites(const std::string& folder, double devicePixelRatio) {
-    SpritePictures sprites;
+SpritePictures::SpritePictures() : decoded_(roomInKilobytes) {}
+
+std::vector<std::string> SpritePictures::read(const std::string& folder) {
+    folder_ = folder;
+    decoded_.clear();
     const QDir dir(QString::fromStdString(folder));
-    const QStringList names = dir.entryList(QDir::Files | QDir::Readable, QDir::Name);
-    for (const QString& name : names) {
-        const QImage picture = readPicture(dir.filePath(name), devicePixelRatio);
-        // A name with a field separator would not come back from a project file.
-        if (picture.isNull() || name.contains(" : ")) {
-            sprites.skipped.push_back(name.toStdString());
-            continue;
+    std::vector<std::string> fresh;
+    for (const QString& file : dir.entryList(QDir::Files | QDir::Readable, QDir::Name)) {
+        const std::string name = file.toStdString();
+        const QSize size = pictureSize(dir.filePath(file));
+        if (const auto known = std::find(names_.begin(), names_.end(), name); known != names_.end()) {
+            sizes_[static_cast<std::size_t>(known - names_.begin())] = size;
+        } else if (!size.isEmpty() && !file.contains(" : ")) {
+            // A name with a field separator would not come back from a project file.
+            names_.push_back(name);
+            sizes_.push_back(size);
+        } else if (!contains(skipped_, name)) {
+            fresh.push_back(name);
         }
-        sprites.names.push_back(name.toStdString());
-        sprites.pictures.push_back(picture);
     }
-    return sprites;
+    skipped_.insert(skipped_.end(), fresh.begin(), fresh.end());
+    return fresh;
+}
+
+void SpritePictures::setRatio(double devicePixelRatio) {
+    if (ratio_ == devicePixelRatio) return;
+    ratio_ = devicePixelRatio;
+    decoded_.clear();
+}
+
+QImage SpritePictures::picture(std::size_t number) const {
+    if (number == 0) return {};
+    if (const QImage* kept = decoded_.object(number)) return *kept;
+    // The largest take half of the room at most, at the cost of scaling them when they are painted.
+    const QSize size = sizes_[number];
+    const double longest = std::max({size.width(), size.height(), 1});
+    const QDir dir(QString::fromStdString(folder_));
+    const QImage picture =
+        readPicture(dir.filePath(QString::fromStdString(names_[number])), std::min(ratio_, 4096 / longest));
+    decoded_.insert(number, new QImage(picture), picture.sizeInBytes() / 1024 + 1);
+    return picture;
 }
 
 void ShowImages(const Canvas& canvas, const Editor& ed, const SpritePictures& sprites) {
-    // Pictures made for another device pixel ratio keep their size, at the cost of scaling.
-    std::vector<QSize> sizes;
-    for (const QImage& picture : sprites.pictures)
-        sizes.push_back((picture.deviceIndependentSize() * canvas.ratio).toSize());
     canvas.painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    std::size_t last = 0;  // neighbours often have the same
+    QImage picture;
     forEachNode(ed, [&](std::int32_t, const Node& node) {
         const auto number = static_cast<std::size_t>(node.SpriteIndex);
-        if (node.SpriteIndex < 1 || number >= sprites.pictures.size()) return;
-        const QSize size = sizes[number];
+        if (node.SpriteIndex < 1 || number >= sprites.names().size()) return;
+        // Pictures made for another device pixel ratio keep their size, at the cost of scaling.
+        const QSize size = (QSizeF(sprites.size(number)) * canvas.ratio).toSize();
         const QPointF corner =
             canvas.place(node.X, node.Y) - QPointF(size.width() / 2.0, size.height() / 2.0);
         if (!QRectF(corner, QSizeF(size)).intersects(QRectF(canvas.frame))) return;
         const QPoint at(static_cast<int>(std::floor(corner.x())), static_cast<int>(std::floor(corner.y())));
-        canvas.painter.drawImage(QRect(at, size), sprites.pictures[number]);
+        if (std::exchange(last, number) != number) picture = sprites.picture(number);
+        if (!picture.isNull()) canvas.painter.drawImage(QRect(at, size), picture);
     });
     canvas.painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
 }

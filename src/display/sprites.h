@@ -4,24 +4,45 @@
 #include "display/canvas.h"
 #include "model/editor.h"
 
+#include <QCache>
 #include <QImage>
 #include <string>
 #include <vector>
 
 namespace zentrik {
 
-// Decoded once; names and pictures keep step, and their place is the sprite number. Place 0 is the entry
-// that shows nothing.
-struct SpritePictures {
-    std::vector<std::string> names{noSprite};
-    std::vector<QImage> pictures{QImage()};  // pixels of the device; their device pixel ratio is set
-    std::vector<std::string> skipped;  // files that hold no picture, or whose name no project file can hold
-};
+// The pictures of a folder by number. Place 0 is the entry that shows nothing. A picture is decoded when it
+// is asked for and kept while there is room; those not asked for the longest go first.
+class SpritePictures {
+public:
+    static constexpr int roomInKilobytes = 128 * 1024;  // for decoded pictures, all together
 
-// Reads every regular file of a folder (UTF-8 path), in name order. A picture's own size counts in
-// device-independent pixels: it is scaled to the device pixel ratio here, once, and vector pictures are
-// drawn at it. No folder, no sprites. Pictures of more than 2048 pixels a side are skipped.
-SpritePictures loadSprites(const std::string& folder, double devicePixelRatio);
+    SpritePictures();
+
+    // Finds the pictures among the regular files of a folder (UTF-8 path), in name order. Read again, files
+    // known already keep their number and new ones follow, so that nodes keep their sprites. No folder, no
+    // pictures. Those of more than 2048 pixels a side are none. Gives the files that hold no picture, or
+    // whose name no project file can hold, and that were not given before.
+    std::vector<std::string> read(const std::string& folder);
+    const std::vector<std::string>& names() const { return names_; }
+
+    // Pictures are scaled to this many device pixels a device-independent one, and vector pictures drawn at
+    // it.
+    void setRatio(double devicePixelRatio);
+    // In device-independent pixels, without decoding the picture.
+    QSize size(std::size_t number) const { return sizes_[number]; }
+    // Null for place 0 and for a file that is gone or broken.
+    QImage picture(std::size_t number) const;
+    // Kilobytes in use.
+    qsizetype roomTaken() const { return decoded_.totalCost(); }
+
+private:
+    std::string folder_;
+    std::vector<std::string> names_{noSprite}, skipped_;
+    std::vector<QSize> sizes_{QSize()};
+    double ratio_ = 1;
+    mutable QCache<std::size_t, QImage> decoded_;
+};
 
 // Paints the picture of every used node that has one, centred on the node.
 void ShowImages(const Canvas& canvas, const Editor& ed, const SpritePictures& sprites);

@@ -3,6 +3,7 @@
 #include "edit/command.h"
 #include "model/host.h"
 #include "model/numbers.h"
+#include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
 
@@ -135,10 +136,12 @@ void finish(Editor& ed, Deselect deselect, Strip strip) {
 // value and valueText: for a row with a setting.
 void run(Editor& ed, Host& host, const BulkCommand& row, float value, const std::string& valueText) {
     const Scope scope = ed.marks.mnuApplyChanges ? Scope::object : Scope::all;
+    const std::int32_t selected = ed.SelectedNode;
     if (scope == Scope::object && !markSelectedObject(ed)) {
         refuse(ed, host, selectNodeMessage);
     } else {
         change(ed, row, scope, value);
+        if (ed.SelectedNode != selected) DisplayNodeData(ed, ed.SelectedNode);
         panel(ed, 5) = scope == Scope::all ? row.allMessage : row.objectMessage;
         if (row.setting) panel(ed, 5) += valueText + " !";
     }
@@ -151,7 +154,7 @@ void run(Editor& ed, Host& host, const BulkCommand& row) {
 }
 
 void ask(Editor& ed, Host& host, const BulkCommand& row, const char* prompt, const char* title) {
-    const std::string answer = host.inputBox(prompt, title, realText(ed.*row.setting));
+    const std::string answer = host.numberBox(prompt, title, realText(ed.*row.setting));
     if (answer.empty()) return;
     const double value = leadingNumber(answer);
     run(ed, host, row, toReal(value), realText(value));

@@ -15,8 +15,10 @@ bool objectSelected(const Editor& ed) {
 
 bool markSelectedObject(Editor& ed) {
     if (!objectSelected(ed)) return false;
-    if (!nodeExists(ed, ed.SelectedNode)) ed.SelectedNode = none;
+    const bool byLink = !nodeExists(ed, ed.SelectedNode);
+    if (byLink) ed.SelectedNode = none;
     MarkConnectedNodes(ed, ed.SelectedNode, ed.SelectedLink);
+    if (byLink) DisplayNodeData(ed, ed.SelectedNode);
     return true;
 }
 

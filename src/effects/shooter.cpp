@@ -43,7 +43,11 @@ void launch(const Editor& ed, const Node& shooter, Node& ball) {
 
 void mnuFire_Click(Editor& ed, Host&) {
     // The last shooter may be gone by now, or its number may have passed to another node.
-    if (!isShooter(ed, ed.SelectedNode) && isShooter(ed, ed.LastShooter)) ed.SelectedNode = ed.LastShooter;
+    if (!isShooter(ed, ed.SelectedNode) && isShooter(ed, ed.LastShooter)) {
+        ed.SelectedNode = ed.LastShooter;
+        DisplayNodeData(ed, ed.SelectedNode);
+        DisplayScene(ed, -1, -1);
+    }
     if (!ed.Timer1.enabled || !isShooter(ed, ed.SelectedNode)) return;
 
     ed.LastShooter = ed.SelectedNode;
@@ -61,15 +65,15 @@ void mnuFire_Click(Editor& ed, Host&) {
 
 void mnuShooterDirection_Click(Editor& ed, Host& host) {
     const std::string answer =
-        host.inputBox("Enter shooter direction (0-360 degrees).", "Set Shooter Direction",
-                      fixedText(static_cast<double>(ed.ShooterDirection) * 57.296, 1));
+        host.numberBox("Enter shooter direction (0-360 degrees).", "Set Shooter Direction",
+                       fixedText(static_cast<double>(ed.ShooterDirection) * 57.296, 1));
     const double degrees = leadingNumber(answer);
     if (!answer.empty() && degrees >= 0 && degrees <= 360) ed.ShooterDirection = toReal(degrees * 0.01745);
 }
 
 void mnuShooterVelocity_Click(Editor& ed, Host& host) {
     const std::string answer =
-        host.inputBox("Enter shooter velocity.", "Set Shooter Velocity", realText(ed.ShooterVelocity));
+        host.numberBox("Enter shooter velocity.", "Set Shooter Velocity", realText(ed.ShooterVelocity));
     const double velocity = leadingNumber(answer);
     if (!answer.empty() && velocity > -30000 && velocity <= 30000) ed.ShooterVelocity = toReal(velocity);
 }

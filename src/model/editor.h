@@ -116,12 +116,14 @@ struct Editor {
     std::string goneName;            // and the last one's name
     std::int32_t replacedCount = 0;  // counts the times another model took the place of the model
     std::int32_t windowWidth = 0, windowHeight = 0;  // inside of the main window, twips
+    bool windowMaximized = false;                    // when the program last ended
     Layout layout;
     std::int32_t sceneWidth = 0, sceneHeight = 0;     // picS, twips
     std::int32_t phaseWidth = 0, phaseHeight = 1500;  // picPhase, twips
 
     // What waits to be painted.
     bool sceneStale = true, phaseStale = true;
+    bool drawnRunning = false;         // the last redraw was one of the running animation
     bool sceneBlank = false;           // cleared to the background until the next redraw
     bool instructionsShown = false;    // likewise, on top of the scene
     std::optional<PointF> rubberBand;  // free end of the link being drawn

@@ -17,6 +17,11 @@ public:
     // Modal input box with the preset selected; cancelled gives the empty text.
     virtual std::string inputBox(const std::string& prompt, const std::string& title,
                                  const std::string& preset) = 0;
+    // The same for a number. What is stored is up to the caller; the box only helps to type one.
+    virtual std::string numberBox(const std::string& prompt, const std::string& title,
+                                  const std::string& preset) {
+        return inputBox(prompt, title, preset);
+    }
     // Modal message with an OK button.
     virtual void messageBox(const std::string& text, const std::string& title, BoxIcon icon) = 0;
     // Modal question with OK and Cancel and the information icon; true for OK.

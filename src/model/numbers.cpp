@@ -34,6 +34,11 @@ std::size_t numericLength(std::string_view text) {
     return at;
 }
 
+std::string_view withoutBlanks(std::string_view text) {
+    while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
+    return text;
+}
+
 template <class Real>
 std::size_t writeGeneral(char (&buffer)[40], Real value, int digits) {
     if (value == 0) value = 0;  // no "-0"
@@ -54,8 +59,10 @@ float toReal(double value) {
     return static_cast<float>(value);
 }
 
+bool hasLeadingNumber(std::string_view text) { return numericLength(withoutBlanks(text)) > 0; }
+
 double leadingNumber(std::string_view text) {
-    while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
+    text = withoutBlanks(text);
     text = text.substr(0, numericLength(text));
     const bool negative = !text.empty() && text.front() == '-';
     if (!text.empty() && (negative || text.front() == '+')) text.remove_prefix(1);

@@ -22,6 +22,8 @@ inline std::int32_t toInt(double value) {
 // Nearest 32-bit real, saturating at the largest finite one; not-a-number gives 0.
 float toReal(double value);
 
+// Whether a number stands at the front of a text.
+bool hasLeadingNumber(std::string_view text);
 // The number at the front of a text ("." as decimal point, blanks before it allowed, exponent
 // allowed); 0 where there is none. Always finite: "inf" and "nan" are no numbers.
 double leadingNumber(std::string_view text);

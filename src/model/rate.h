@@ -11,8 +11,10 @@ inline bool isPeriod(std::int32_t milliseconds) {
 }
 
 // Changes the animation timer's period; refuses one it does not accept and leaves the old one.
-inline void setRate(Editor& ed, std::int32_t milliseconds) {
-    if (isPeriod(milliseconds)) ed.Timer1.interval = milliseconds;
+inline bool setRate(Editor& ed, std::int32_t milliseconds) {
+    if (!isPeriod(milliseconds)) return false;
+    ed.Timer1.interval = milliseconds;
+    return true;
 }
 
 }  // namespace zentrik

@@ -7,6 +7,20 @@
 
 namespace zentrik {
 
+namespace {
+
+void showStates(Editor& ed, const Node& node) {
+    ed.buttons.locked = node.Locked;
+    ed.buttons.shooter = node.Res1 != none;
+}
+
+void showStates(Editor& ed, const Link& link) {
+    ed.buttons.animator = link.Animator;
+    ed.buttons.barrier = link.Barrier;
+}
+
+}  // namespace
+
 std::int32_t spriteEntryOf(const Editor& ed, const std::string& name) {
     const auto found = std::find(ed.spriteNames.begin(), ed.spriteNames.end(), name);
     return found == ed.spriteNames.end() ? 0 : static_cast<std::int32_t>(found - ed.spriteNames.begin());
@@ -14,8 +28,7 @@ std::int32_t spriteEntryOf(const Editor& ed, const std::string& name) {
 
 void DisplayNodeData(Editor& ed, std::int32_t i) {
     const Node& node = nodeAt(ed, i);
-    ed.buttons.locked = node.Locked;
-    ed.buttons.shooter = node.Res1 != none;
+    showStates(ed, node);
     ed.tips.mass = "Mass: " + realText(node.Mass);
     ed.tips.gforce = "Gravitational Force: " + realText(node.Gravity);
     ed.tips.vxo = "Initial X-Velocity: " + realText(node.Vxo);
@@ -26,11 +39,15 @@ void DisplayNodeData(Editor& ed, std::int32_t i) {
 
 void DisplayLinkData(Editor& ed, std::int32_t i) {
     const Link& link = linkAt(ed, i);
-    ed.buttons.animator = link.Animator;
+    showStates(ed, link);
     ed.tips.k = "k: " + realText(link.k);
     ed.tips.angle = "Angle: " + realText(link.Angle);
     ed.tips.force = "Force: " + realText(link.Force);
-    ed.buttons.barrier = link.Barrier;
+}
+
+void showSelectedStates(Editor& ed) {
+    if (const Node* node = selectedNode(ed)) showStates(ed, *node);
+    if (const Link* link = selectedLink(ed)) showStates(ed, *link);
 }
 
 }  // namespace zentrik

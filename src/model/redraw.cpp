@@ -2,6 +2,7 @@
 
 #include "model/grid.h"
 #include "model/numbers.h"
+#include "model/readout.h"
 #include "model/shooter_aim.h"
 #include "model/store.h"
 
@@ -37,13 +38,15 @@ void DisplayScene(Editor& ed, float PX, float PY, bool anyTakesAim) {
     if (ed.AnimationTime == 0) redrawPhaseManager(ed, ed.AnimationTime);
     ed.linkControls = ed.SelectedLink != none;
     ed.nodeControls = ed.SelectedNode != none;
+    showSelectedStates(ed);
     showClock(ed);
+    ed.drawnRunning = ed.Timer1.enabled;
     ed.sceneBlank = false;
     ed.instructionsShown = false;
     ed.sceneStale = true;
 }
 
-void DrawPhaseManager(Editor& ed, float phase) {
+void DrawPhaseManager(Editor& ed, float time) {
     std::array<std::int32_t, 361> stack{};  // discs already laid out at each whole degree
     const double width = ed.phaseWidth;
     forEachLink(ed, [&](std::int32_t, Link& link) {
@@ -53,12 +56,12 @@ void DrawPhaseManager(Editor& ed, float phase) {
         link.Res4 = height * 200 + 300;
         ++height;
     });
-    ed.phaseShift = phase;
+    ed.phaseShift = toReal(static_cast<double>(ed.DeltaAngle) * time);
     ed.phaseStale = true;
 }
 
-void redrawPhaseManager(Editor& ed, float phase) {
-    if (ed.marks.mnuDisplayAngleManager) DrawPhaseManager(ed, phase);
+void redrawPhaseManager(Editor& ed, float time) {
+    if (ed.marks.mnuDisplayAngleManager) DrawPhaseManager(ed, time);
 }
 
 void DisplayOnscreenInstructions(Editor& ed) {

@@ -75,18 +75,23 @@ void takePlace(Editor& ed, Host& host, ProjectFile file) {
 
 void showNewModel(Editor& ed) {
     NoSelections(ed);
+    redrawPhaseManager(ed, ed.AnimationTime);
     DisplayScene(ed, -1, -1);
 }
 
-bool exportMail(Editor& ed, Host& host) {
-    if (!storeProject(ed, host, "email").done) return false;
+// How far an export by mail got.
+enum class Mail { failed, onClipboard, handedOver };
+
+Mail exportMail(Editor& ed, Host& host) {
+    if (!storeProject(ed, host, "email").done) return Mail::failed;
     const FileBytes file = readProjectFile(projectPath(ed.programFolder, "email"));
-    if (!file.problem.empty() || !host.setClipboard(file.bytes)) return false;
+    if (!file.problem.empty() || !host.setClipboard(file.bytes)) return Mail::failed;
     const std::string body =
         "Comments.  Zentrik put the current project on the clipboard. "
         "It is ready to paste into this message!";
-    return host.openAddress("mailto:" + std::string(makerMail) +
-                            "?subject=Zentrik&body=" + percentEncoded(body));
+    const bool opened = host.openAddress("mailto:" + std::string(makerMail) +
+                                         "?subject=Zentrik&body=" + percentEncoded(body));
+    return opened ? Mail::handedOver : Mail::onClipboard;
 }
 
 // Blanks around a name are hardly seen, but make another file.
@@ -174,8 +179,13 @@ void mnuSetTitle_Click(Editor& ed, Host& host) {
 }
 
 void mnuEmail_Click(Editor& ed, Host& host) {
-    if (!exportMail(ed, host))
-        host.messageBox("Error sending email!", "Send Email to Author", BoxIcon::exclamation);
+    const Mail reached = exportMail(ed, host);
+    if (reached == Mail::handedOver) return;
+    const std::string advice = reached == Mail::onClipboard
+                                   ? "The project is on the clipboard: paste it into a mail to "
+                                   : "Save the project and send its file from the folder zoo to ";
+    host.messageBox("Error sending email!\n" + advice + makerMail + ".", "Send Email to Author",
+                    BoxIcon::exclamation);
 }
 
 }  // namespace zentrik

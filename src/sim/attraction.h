@@ -16,6 +16,8 @@ public:
     // Nodes are added in index order.
     void add(std::int32_t i, const Node& node);
     bool empty() const { return attractors_.empty(); }
+    // About how long one step pulls at all free nodes, seconds.
+    double expectedTime(const Editor& ed) const;
     // A node moved or left the model.
     void update(std::int32_t i, const Node& node);
     // Any node may have moved.

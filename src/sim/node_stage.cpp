@@ -177,6 +177,7 @@ void NodeStage::plotPath(const Node& node) {
 
 const char* NodeStage::meetContacts(std::int32_t i, Node& node) {
     floorAndCeiling(ed, i, bounds_);
+    if (!node.Used) removed_ = true;
     if (ed.marks.mnuWalls) walls(ed, i, bounds_, contacts_);
     if (testBarriers_) meetBarriers(i, node);
     return isFinite(node) ? nullptr : notFinite;

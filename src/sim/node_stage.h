@@ -21,7 +21,10 @@ public:
 
     // dt: time units. lastFree: the last node that will move. Gives what went wrong, or the empty text.
     std::string run(float dt, std::int32_t lastFree);
+    // Names the first used node whose velocity is not finite, moved or not; the empty text for none.
+    std::string checkVelocities() const;
     bool wallTouched() const { return contacts_.touched; }
+    bool anyRemoved() const { return removed_; }
 
 private:
     Editor& ed;
@@ -32,6 +35,7 @@ private:
     WallContacts contacts_;
     std::int32_t lastFree_ = 0;
     bool attracts_, testBarriers_, recolour_;
+    bool removed_ = false;  // the floor took a node out of the model
     NodeRun run_;
     Arrivals arrivals_;  // where the run's nodes go, if nothing comes in between
 
@@ -45,7 +49,6 @@ private:
     [[gnu::noinline]] void plotPath(const Node& node);
     [[gnu::noinline]] const char* meetContacts(std::int32_t i, Node& node);
     void meetBarriers(std::int32_t i, Node& node);
-    std::string checkVelocities() const;
 };
 
 }  // namespace zentrik

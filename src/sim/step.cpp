@@ -98,8 +98,9 @@ void setDirectionalVelocity(Node& node) {
     node.Vy = real(a < 180 ? -along : along);
 }
 
-void applyInitialVelocities(Editor& ed) {
-    if (ed.AnimationTime != 0 || !ed.InitialVelocityPending) return;
+// True when this was the step that they waited for.
+bool applyInitialVelocities(Editor& ed) {
+    if (ed.AnimationTime != 0 || !ed.InitialVelocityPending) return false;
     ed.InitialVelocityPending = false;
     forEachNode(ed, [&](std::int32_t, Node& node) {
         if (ed.marks.mnuUseDirectional) {
@@ -109,17 +110,25 @@ void applyInitialVelocities(Editor& ed) {
             node.Vy = real(node.Vyo * 1000.0);
         }
     });
+    return true;
 }
 
 void advanceClock(Editor& ed, float dt) {
     ed.AnimationTime = real(ed.AnimationTime + wide(dt) * ed.TimeDirection);
     // Left out once in a hundred steps.
-    if (toInt(wide(ed.AnimationTime) / dt) % 100 != 0)
-        redrawPhaseManager(ed, real(wide(ed.DeltaAngle) * ed.AnimationTime));
+    if (toInt(wide(ed.AnimationTime) / dt) % 100 != 0) redrawPhaseManager(ed, ed.AnimationTime);
     showClock(ed);
 }
 
 std::string nodeText(std::int32_t i) { return "Node " + std::to_string(i) + " "; }
+
+// The window cannot answer during a step, so one that would take this long is not begun.
+constexpr double longestStep = 5;  // seconds
+
+std::string durationText(double seconds) {
+    const bool minutes = seconds >= 120;
+    return std::to_string(toInt(minutes ? seconds / 60 : seconds)) + (minutes ? " minutes" : " seconds");
+}
 
 void stopWith(Editor& ed, const std::string& problem) {
     ed.buttons.start = false;
@@ -139,10 +148,14 @@ void CalculatePositions(Editor& ed) {
     const Survey found = survey(ed, work);
     if (found.massless != 0) return stopWith(ed, nodeText(found.massless) + "has a mass of 0");
 
+    if (const double seconds = work.attraction.expectedTime(ed); seconds > longestStep)
+        return stopWith(
+            ed, "So many nodes attract each other that a step would take about " + durationText(seconds));
+
     const float time = ed.AnimationTime;
     const bool pending = ed.InitialVelocityPending;
     const std::int32_t selected = ed.SelectedNode;
-    applyInitialVelocities(ed);
+    const bool started = applyInitialVelocities(ed);
     advanceClock(ed, dt);
     if (found.anyRotate) applyRotationalDrive(ed, work.points);
     work.barrierLinks.clear();
@@ -150,6 +163,7 @@ void CalculatePositions(Editor& ed) {
     if (!ed.marks.mnuIgnoreBarriers) work.barriers.set(ed, work.barrierLinks);
     NodeStage nodes(ed, work.points, work.attraction, work.barriers);
     std::string problem = nodes.run(dt, found.lastFree);
+    if (problem.empty() && started) problem = nodes.checkVelocities();  // those of locked nodes, too
     if (problem.empty() && !std::isfinite(ed.AnimationTime)) problem = "The clock is not finite";
     if (!problem.empty()) {
         putBack(ed, work.before);
@@ -158,6 +172,7 @@ void CalculatePositions(Editor& ed) {
         ed.SelectedNode = selected;
         return stopWith(ed, problem);
     }
+    if (nodes.anyRemoved()) showCounts(ed);
     DisplayScene(ed, -1, -1, found.anyTakesAim);
     if (nodes.wallTouched()) ed.TimeDirection = -ed.TimeDirection;
 }

@@ -40,7 +40,7 @@ void deleteClicked(Editor& ed, Host& host) {
         return;
     DeleteNode(ed);
     DeleteLink(ed);
-    DisplayScene(ed, -1, -1);
+    redrawStripAndScene(ed, host);
     showCounts(ed);
 }
 

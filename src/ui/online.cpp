@@ -3,6 +3,7 @@
 #include "model/addresses.h"
 #include "model/host.h"
 #include "model/redraw.h"
+#include "model/utf8.h"
 
 namespace zentrik {
 
@@ -32,7 +33,7 @@ void messageArrived(Editor& ed, const std::string& text) {
     const std::size_t end = start == std::string::npos ? start : text.find_first_of("\r\n", start);
     const std::string line = start == std::string::npos ? "" : text.substr(start, end - start);
     if (line.empty()) return messageFailed(ed, "the server sent no text");
-    panel(ed, 5) = line.substr(0, longestMessage);
+    panel(ed, 5) = utf8Front(line, longestMessage);
 }
 
 void messageFailed(Editor& ed, const std::string& reason) {

@@ -1,5 +1,6 @@
 #include "ui/options.h"
 
+#include "edit/command.h"
 #include "model/host.h"
 #include "model/numbers.h"
 #include "model/rate.h"
@@ -15,11 +16,11 @@ constexpr std::int32_t smallestGrid = 50;  // twips
 void askColor(Editor& ed, Host& host, std::int32_t Editor::*color) {
     const std::int32_t chosen = host.SelectColor();
     if (chosen != none) ed.*color = chosen;
-    DisplayScene(ed, -1, -1);
+    redrawStripAndScene(ed, host);  // the strip's discs have the node colour
 }
 
 void askReal(Editor& ed, Host& host, const char* prompt, const char* title, float Editor::*value) {
-    const std::string answer = host.inputBox(prompt, title, realText(ed.*value));
+    const std::string answer = host.numberBox(prompt, title, realText(ed.*value));
     if (!answer.empty()) ed.*value = toReal(leadingNumber(answer));
 }
 
@@ -38,7 +39,7 @@ void mnuResetGlobal_Click(Editor& ed, Host&) {
 }
 
 void mnuGridSize_Click(Editor& ed, Host& host) {
-    const std::string answer = host.inputBox("Enter grid size.", "Grid Size", realText(ed.GridSize));
+    const std::string answer = host.numberBox("Enter grid size.", "Grid Size", realText(ed.GridSize));
     const std::int32_t size = toInt(leadingNumber(answer));
     if (size >= smallestGrid) ed.GridSize = static_cast<float>(size);
     DisplayScene(ed, -1, -1);
@@ -51,8 +52,12 @@ void setNodeRadius(Editor& ed, std::int32_t radius) {
 
 void mnuSetRadius_Click(Editor& ed, Host& host) {
     const std::string answer =
-        host.inputBox("Enter node radius.", "Set Node Radius", std::to_string(ed.NodeRadius));
-    if (!answer.empty()) setNodeRadius(ed, toInt(leadingNumber(answer)));
+        host.numberBox("Enter node radius.", "Set Node Radius", std::to_string(ed.NodeRadius));
+    const std::int32_t radius = toInt(leadingNumber(answer));
+    if (!answer.empty() && radius < smallestRadius)
+        refuse(ed, host, "The node radius takes " + std::to_string(smallestRadius) + " twips or more!");
+    else if (!answer.empty())
+        setNodeRadius(ed, radius);
     DisplayScene(ed, -1, -1);
 }
 

@@ -18,6 +18,7 @@ void mnuLineColor_Click(Editor& ed, Host& host);
 void mnuNodeColor_Click(Editor& ed, Host& host);
 void mnuBackgroundColor_Click(Editor& ed, Host& host);
 
+inline constexpr std::int32_t smallestRadius = -29;  // a node smaller still could not be hit
 void setNodeRadius(Editor& ed, std::int32_t radius);
 
 // Follow-ups of check marks.

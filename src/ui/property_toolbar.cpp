@@ -1,5 +1,6 @@
 #include "ui/property_toolbar.h"
 
+#include "edit/command.h"
 #include "model/host.h"
 #include "model/numbers.h"
 #include "model/rate.h"
@@ -12,17 +13,23 @@ namespace zentrik {
 namespace {
 
 // A quantity is read and stored only while its owner exists.
+bool put(float& quantity, double value) {
+    quantity = toReal(value);
+    return true;
+}
 template <float Editor::*M>
-constexpr Access global{[](Editor& ed, double value) { ed.*M = toReal(value); },
+constexpr Access global{[](Editor& ed, double value) { return put(ed.*M, value); },
                         [](const Editor& ed) { return realText(ed.*M); }};
 template <float Node::*M>
-constexpr Access ofNode{[](Editor& ed, double value) { nodeAt(ed, ed.SelectedNode).*M = toReal(value); },
+constexpr Access ofNode{[](Editor& ed, double value) { return put(nodeAt(ed, ed.SelectedNode).*M, value); },
                         [](const Editor& ed) { return realText(nodeAt(ed, ed.SelectedNode).*M); }};
 template <float Link::*M>
-constexpr Access ofLink{[](Editor& ed, double value) { linkAt(ed, ed.SelectedLink).*M = toReal(value); },
+constexpr Access ofLink{[](Editor& ed, double value) { return put(linkAt(ed, ed.SelectedLink).*M, value); },
                         [](const Editor& ed) { return realText(linkAt(ed, ed.SelectedLink).*M); }};
-constexpr Access timerPeriod{[](Editor& ed, double value) { setRate(ed, toInt(value)); },
-                             [](const Editor& ed) { return std::to_string(ed.Timer1.interval); }};
+constexpr Access timerPeriod{[](Editor& ed, double value) { return setRate(ed, toInt(value)); },
+                             [](const Editor& ed) { return std::to_string(ed.Timer1.interval); },
+                             "The rate takes 1 to 65535 milliseconds!"};
+static_assert(shortestPeriod == 1 && longestPeriod == 65535, "as the refusal says");
 
 // The rows' parts that most buttons of a kind share.
 constexpr PropertyRow plain(ButtonStyle style) {
@@ -161,9 +168,9 @@ bool ownerExists(const Editor& ed, const PropertyRow& row) {
 }
 
 void askForValue(Editor& ed, Host& host, const PropertyRow& row) {
-    const std::string answer = host.inputBox(row.prompt, "Custom Value", row.access->text(ed));
+    const std::string answer = host.numberBox(row.prompt, "Custom Value", row.access->text(ed));
     if (answer.empty()) return;
-    row.access->store(ed, leadingNumber(answer));
+    if (!row.access->store(ed, leadingNumber(answer))) return refuse(ed, host, row.access->refusal);
     const std::string value = row.access->text(ed);
     ed.tips.*row.tip = row.label + value;
     if (row.redrawStrip) redrawPhaseManager(ed, ed.AnimationTime);
@@ -207,6 +214,15 @@ void pressProperty(Editor& ed, Host& host, const PropertyRow& row) {
 void showGlobalValues(Editor& ed) {
     for (const PropertyRow& row : rows)
         if (row.startLabel != nullptr) ed.tips.*row.tip = row.startLabel + row.access->text(ed);
+}
+
+void renewGlobalValues(Editor& ed) {
+    for (const PropertyRow& row : rows) {
+        if (row.startLabel == nullptr) continue;
+        const std::string value = row.access->text(ed);
+        std::string& tip = ed.tips.*row.tip;
+        if (tip != row.label + value && tip != row.startLabel + value) tip = row.label + value;
+    }
 }
 
 }  // namespace zentrik

@@ -18,8 +18,9 @@ enum class Owner { global, node, link };
 
 // A number a button edits.
 struct Access {
-    void (*store)(Editor&, double);  // rounds to the quantity's own type
+    bool (*store)(Editor&, double);  // rounds to the quantity's own type; false for a value it refuses
     std::string (*text)(const Editor&);
+    const char* refusal = "";  // what to say to such a value
 };
 
 struct PropertyRow {
@@ -59,5 +60,7 @@ void pressProperty(Editor& ed, Host& host, const PropertyRow& row);
 
 // Tips of the global buttons once the settings are loaded.
 void showGlobalValues(Editor& ed);
+// Renews those that tell another value than the present one, whatever changed it.
+void renewGlobalValues(Editor& ed);
 
 }  // namespace zentrik

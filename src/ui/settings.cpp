@@ -1,5 +1,6 @@
 #include "ui/settings.h"
 
+#include "model/numbers.h"
 #include "model/rate.h"
 #include "project/forms.h"
 #include "ui/options.h"
@@ -82,6 +83,9 @@ const SettingRow rows[] = {
 // clang-format on
 static_assert(std::size(rows) == 54);
 
+// Stands beside the table: whether the window comes back maximised.
+constexpr const char* maximizedKey = "Maximized";
+
 // Where a row's value lives, for reading (const records) and for writing.
 template <class EditorType, class PlacementType>
 struct Place {
@@ -104,8 +108,12 @@ bool convert(const SettingRow& row, const std::string& text, Editor& ed, Placeme
 
 bool isAcceptable(const SettingRow& row, const Editor& ed) {
     if (std::holds_alternative<TimerPeriod>(row.slot)) return isPeriod(ed.Timer1.interval);
-    const auto* real = std::get_if<float Editor::*>(&row.slot);
-    return real == nullptr || *real != &Editor::GridSize || ed.GridSize > 49;
+    if (const auto* real = std::get_if<float Editor::*>(&row.slot); real && *real == &Editor::GridSize)
+        return ed.GridSize > 49;
+    if (const auto* whole = std::get_if<std::int32_t Editor::*>(&row.slot);
+        whole && *whole == &Editor::NodeRadius)
+        return ed.NodeRadius >= smallestRadius;
+    return true;
 }
 
 std::string textOf(const SettingRow& row, const Editor& ed, const Placement& placement) {
@@ -125,6 +133,7 @@ void getSettings(Editor& ed, Placement& placement, SettingsStore& store) {
         if (text && convert(row, *text, ed, placement) && isAcceptable(row, ed)) continue;
         convert(row, row.byDefault, ed, placement);
     }
+    ed.windowMaximized = store.read(maximizedKey) == "True";
     setNodeRadius(ed, ed.NodeRadius);
     ed.timerFireWorks.enabled = ed.marks.mnuDisplayFireWorks;
 }
@@ -135,6 +144,7 @@ void saveSettings(const Editor& ed, const std::optional<Placement>& placement, S
         if (ofWindow && !placement) continue;
         store.write(row.key, textOf(row, ed, placement.value_or(Placement{})));
     }
+    store.write(maximizedKey, booleanText(ed.windowMaximized));
 }
 
 }  // namespace zentrik

@@ -23,7 +23,7 @@ public:
 };
 
 // Reads every key, or takes its default where it is missing or does not hold its kind of value. The
-// animation's timer period and the grid size must be ones the program accepts.
+// animation's timer period, the grid size and the node radius must be ones the program accepts.
 void getSettings(Editor& ed, Placement& placement, SettingsStore& store);
 
 // Stores every key in the table's order. Without a placement (a maximised or minimised window) the four

@@ -1,5 +1,6 @@
 #include "ui/sprite_commands.h"
 
+#include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
 
@@ -15,6 +16,14 @@ void giveSprite(const Editor& ed, Node& node, std::int32_t entry) {
 }
 
 }  // namespace
+
+void listSprites(Editor& ed, const std::vector<std::string>& names) {
+    ed.spriteNames = names;
+    for (auto* nodes : {&ed.Nodes, &ed.SavedNodes})
+        for (Node& node : *nodes)
+            if (node.SpriteIndex == 0) node.SpriteIndex = spriteEntryOf(ed, node.Sprite);
+    ed.sceneStale = true;
+}
 
 void lstSprites_Click(Editor& ed, std::int32_t entry) {
     if (entry < 0 || std::cmp_greater_equal(entry, ed.spriteNames.size())) return;

@@ -5,6 +5,8 @@
 
 namespace zentrik {
 
+// The sprite list was filled: nodes that had no picture of their sprite find it by name.
+void listSprites(Editor& ed, const std::vector<std::string>& names);
 // An entry of the sprite list was chosen: it becomes the selected node's sprite.
 void lstSprites_Click(Editor& ed, std::int32_t entry);
 // A picture of the sprite browser was clicked; Index is its entry in the list.
