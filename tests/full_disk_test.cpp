@@ -78,7 +78,7 @@ TEST_F(FullDisk, EveryFailureOnTheWayIsSaidAndLosesNothing) {
             }
             EXPECT_TRUE(failed ? boxes_ > 0 || call == DiskCall::link : boxes_ == 0);
             EXPECT_GE(settings().size() + 1, formerSettings.size());
-            EXPECT_TRUE(settings().ends_with("Sprite=0\n"));
+            EXPECT_TRUE(settings().ends_with("Maximized=False\n"));
             window_->show();
         }
 }
