@@ -18,8 +18,6 @@ public:
     bool empty() const { return attractors_.empty(); }
     // A node moved or left the model.
     void update(std::int32_t i, const Node& node);
-    // Any node may have moved.
-    void updateAll(const Editor& ed);
     // Adds the pull of all attracting nodes, in index order, to the forces.
     void pull(NodeLanes& lanes) const;
 

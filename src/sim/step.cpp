@@ -29,6 +29,7 @@ struct Scratch {
     Attraction attraction;
     std::vector<std::int32_t> barrierLinks;
     Barriers barriers;
+    Walls walls;
 };
 
 Scratch& scratch() {
@@ -147,8 +148,9 @@ void CalculatePositions(Editor& ed) {
     if (found.anyRotate) applyRotationalDrive(ed, work.points);
     work.barrierLinks.clear();
     applySprings(ed, work.points, found.placesAreSmall, work.barrierLinks);
+    work.barriers.clear();
     if (!ed.marks.mnuIgnoreBarriers) work.barriers.set(ed, work.barrierLinks);
-    NodeStage nodes(ed, work.points, work.attraction, work.barriers);
+    NodeStage nodes(ed, work.points, work.attraction, work.barriers, work.walls);
     std::string problem = nodes.run(dt, found.lastFree);
     if (problem.empty() && !std::isfinite(ed.AnimationTime)) problem = "The clock is not finite";
     if (!problem.empty()) {
@@ -159,7 +161,7 @@ void CalculatePositions(Editor& ed) {
         return stopWith(ed, problem);
     }
     DisplayScene(ed, -1, -1, found.anyTakesAim);
-    if (nodes.wallTouched()) ed.TimeDirection = -ed.TimeDirection;
+    if (work.walls.touched()) ed.TimeDirection = -ed.TimeDirection;
 }
 
 }  // namespace zentrik
