@@ -1,7 +1,7 @@
 // The step: bit for bit what the plain loops give, on odd and on ordinary models, and the numbers that
 // can be worked out by hand.
 
-#include "sim/step.h"
+#include "sim/run.h"
 
 #include "model/invariants.h"
 #include "model/numbers.h"
@@ -73,7 +73,7 @@ Editor noForces() {
 }
 
 void steps(Editor& ed, int count) {
-    while (count-- > 0) CalculatePositions(ed);
+    while (count-- > 0) stepOrStop(ed);
 }
 
 // FNV-1a over everything that moves.
@@ -92,7 +92,7 @@ void compareWithPlainStep(Editor& fast, std::uint32_t seed, Tally& tally) {
     Editor slow = fast;
     for (int t = 0; t < 25; ++t) {
         const std::int32_t direction = slow.TimeDirection;
-        CalculatePositions(fast);
+        stepOrStop(fast);
         plain::step(slow);
         const std::string different = difference(fast, slow);
         ASSERT_EQ(different, "") << "model " << seed << ", step " << t;
@@ -232,7 +232,7 @@ TEST(Step, AttractsToTheLastBitWhereAShorterFormulaErrs) {
         addNode(fast, 5000 + dx, 5000 + 2711);
         nodeAt(fast, addNode(fast, 5000, 5000)).Gravity = std::bit_cast<float>(strength);
         Editor slow = fast;
-        CalculatePositions(fast);
+        stepOrStop(fast);
         plain::step(slow);
         EXPECT_EQ(difference(fast, slow), "") << dx;
     }

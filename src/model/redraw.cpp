@@ -29,8 +29,8 @@ void aimShooters(Editor& ed) {
 
 }  // namespace
 
-void DisplayScene(Editor& ed, float PX, float PY, bool anyTakesAim) {
-    if (ed.buttons.ball && anyTakesAim) aimShooters(ed);
+void DisplayScene(Editor& ed, float PX, float PY) {
+    if (ed.buttons.ball) aimShooters(ed);
     ed.rubberBand.reset();
     if (PX >= 0 && PY >= 0 && ed.DrawMode && ed.SelectedNode != none)
         ed.rubberBand = PointF{SnapToGrid(ed, PX), SnapToGrid(ed, PY)};

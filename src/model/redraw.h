@@ -8,9 +8,8 @@ namespace zentrik {
 
 // The full redraw of the scene. PX, PY: the pointer in twips from mouse handlers, -1, -1 from every
 // other caller. Locks the trigger nodes of shooters, enables the property toolbar's groups, shows the
-// clock, and marks the scene stale. anyTakesAim: false where the caller has just seen that no node
-// does, which saves looking at all of them.
-void DisplayScene(Editor& ed, float PX, float PY, bool anyTakesAim = true);
+// clock, and marks the scene stale.
+void DisplayScene(Editor& ed, float PX, float PY);
 
 // Lays every animated link's disc out in the phase strip (into the link's Res1, Res4) and shifts the
 // strip's sine curve by phase, radians. Angles outside 0 to 360 stack at the nearer end.

@@ -54,7 +54,7 @@ void forEachNode(EditorType& ed, Visit visit) {
     const std::int32_t last = lastNode(ed);
     for (std::int32_t i = 1; i <= last; ++i) {
         auto& node = nodeAt(ed, i);
-        prefetchAhead(node, 16);
+        prefetchAhead(node);
         if (node.Used) visit(i, node);
     }
 }

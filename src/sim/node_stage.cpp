@@ -73,7 +73,7 @@ std::int32_t NodeStage::gatherRun(std::int32_t from) {
     while (i <= last && m < NodeRun::size) {
         const std::int32_t here = i++;
         Node& node = nodes[here];
-        prefetchAhead(node, 64);
+        prefetchAhead(node);
         if (!node.Used || node.Locked) [[unlikely]] {
             if (hold(here, node) != nullptr) run_.plain = false;
             continue;

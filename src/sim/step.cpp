@@ -1,12 +1,9 @@
 #include "sim/step.h"
 
 #include "model/numbers.h"
-#include "model/prefetch.h"
 #include "model/redraw.h"
-#include "model/shooter_aim.h"
 #include "model/store.h"
 #include "sim/node_stage.h"
-#include "sim/run.h"
 
 #include <cmath>
 
@@ -40,7 +37,6 @@ Scratch& scratch() {
 // What must be known of the nodes before the forces.
 struct Survey {
     bool anyRotate = false;
-    bool anyTakesAim = false;
     bool placesAreSmall = true;  // the difference of any two coordinates is exact as a 32-bit real
     std::int32_t lastFree = 0;   // the last node that the step will move
     std::int32_t massless = 0;   // the first node that cannot be moved
@@ -58,7 +54,6 @@ Survey survey(const Editor& ed, Scratch& work) {
     PlaceSpread spread;
     for (std::int32_t i = 0; i <= last; ++i) {
         const Node& n = nodes[i];
-        prefetchAhead(n, 24);
         before[i] = {placeOf(n), velocityOf(n), forceOf(n), n.Rotate, n.Used};
         points[i] = {round32(placeOf(n)), forceOf(n)};
         spread.add(n.X, n.Y);
@@ -66,10 +61,7 @@ Survey survey(const Editor& ed, Scratch& work) {
         if (n.Rotate != 0) result.anyRotate = true;
         if (!n.Used) continue;
         if (n.Gravity != 0) work.attraction.add(i, n);
-        if (n.Locked) {
-            if (takesAim(n)) result.anyTakesAim = true;
-            continue;
-        }
+        if (n.Locked) continue;
         result.lastFree = i;
         if (n.Mass == 0 && result.massless == 0) result.massless = i;
     }
@@ -122,23 +114,15 @@ void advanceClock(Editor& ed, float dt) {
 
 std::string nodeText(std::int32_t i) { return "Node " + std::to_string(i) + " "; }
 
-void stopWith(Editor& ed, const std::string& problem) {
-    ed.buttons.start = false;
-    StartStop(ed);
-    panel(ed, 5) = problem + ": animation stopped!";
-    showClock(ed);
-    DisplayScene(ed, -1, -1);
-}
-
 }  // namespace
 
 float stepSize(const Editor& ed) { return ed.buttons.slow ? 0.005F : real(ed.TimeInterval / 1000.0); }
 
-void CalculatePositions(Editor& ed) {
+std::string CalculatePositions(Editor& ed) {
     Scratch& work = scratch();
     const float dt = stepSize(ed);
     const Survey found = survey(ed, work);
-    if (found.massless != 0) return stopWith(ed, nodeText(found.massless) + "has a mass of 0");
+    if (found.massless != 0) return nodeText(found.massless) + "has a mass of 0";
 
     const float time = ed.AnimationTime;
     const bool pending = ed.InitialVelocityPending;
@@ -158,10 +142,11 @@ void CalculatePositions(Editor& ed) {
         ed.AnimationTime = time;
         ed.InitialVelocityPending = pending;
         ed.SelectedNode = selected;
-        return stopWith(ed, problem);
+        return problem;
     }
-    DisplayScene(ed, -1, -1, found.anyTakesAim);
+    DisplayScene(ed, -1, -1);
     if (work.walls.touched()) ed.TimeDirection = -ed.TimeDirection;
+    return {};
 }
 
 }  // namespace zentrik
