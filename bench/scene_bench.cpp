@@ -9,6 +9,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <array>
 
 namespace {
 
@@ -30,9 +31,9 @@ void redraw(benchmark::State& state, const Editor& ed, const SpritePictures& spr
     state.counters["links"] = UsedLinks(ed);
 }
 
-// 10,000 nodes with two links each.
-Editor sparseLattice() {
-    Editor ed = scenes::latticeOf(10000);
+// Nodes with two links each.
+Editor sparseLattice(int nodes) {
+    Editor ed = scenes::latticeOf(nodes);
     for (std::size_t j = 1; j < ed.Links.size(); ++j) ed.Links[j].Used = j % 4 < 2;
     return ed;
 }
@@ -40,13 +41,25 @@ Editor sparseLattice() {
 void scene(benchmark::State& state) { redraw(state, scenes::latticeOf(static_cast<int>(state.range(0)))); }
 BENCHMARK(scene)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
-void sceneTwoLinksANode(benchmark::State& state) { redraw(state, sparseLattice()); }
-BENCHMARK(sceneTwoLinksANode)->Unit(benchmark::kMillisecond);
+void sceneTwoLinksANode(benchmark::State& state) {
+    redraw(state, sparseLattice(static_cast<int>(state.range(0))));
+}
+BENCHMARK(sceneTwoLinksANode)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 void sceneDoublePixels(benchmark::State& state) {
     redraw(state, scenes::latticeOf(static_cast<int>(state.range(0))), {}, 2);
 }
 BENCHMARK(sceneDoublePixels)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+// Nodes in sixteen colours, with two links each.
+void sceneMixedColours(benchmark::State& state) {
+    Editor ed = sparseLattice(static_cast<int>(state.range(0)));
+    std::array<std::int32_t, 16> colours{};
+    for (std::int32_t& colour : colours) colour = GetRandomColor(ed.chance);
+    for (Node& node : ed.Nodes) node.color = colours[static_cast<std::size_t>(ed.chance.next() * 16)];
+    redraw(state, ed);
+}
+BENCHMARK(sceneMixedColours)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 void sceneRandomColours(benchmark::State& state) {
     Editor ed = scenes::latticeOf(10000);
@@ -61,6 +74,13 @@ void sceneWithGrid(benchmark::State& state) {
     redraw(state, ed);
 }
 BENCHMARK(sceneWithGrid)->Unit(benchmark::kMillisecond);
+
+void sceneWithNumbers(benchmark::State& state) {
+    Editor ed = sparseLattice(static_cast<int>(state.range(0)));
+    ed.buttons.numbers = true;
+    redraw(state, ed);
+}
+BENCHMARK(sceneWithNumbers)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 void sceneWithAllTexts(benchmark::State& state) {
     Editor ed = scenes::latticeOf(static_cast<int>(state.range(0)));

@@ -2,6 +2,7 @@
 
 #include "display/scene.h"
 
+#include "display/lettering.h"
 #include "display/path.h"
 #include "display/phase_strip.h"
 #include "display/stamp.h"
@@ -206,6 +207,50 @@ TEST(Stamps, LookLikeShapesDrawnOneByOne) {
                     worst = std::max(worst, std::abs(stamped.constBits()[byte] - drawn.constBits()[byte]));
                 EXPECT_LE(worst, 2) << ratio << " radius " << radius;
             }
+}
+
+TEST(Stamps, KeepMoreColoursApartThanTheyKeepPictures) {
+    QImage image = blankImage(15000, 3000, 1);
+    QPainter painter(&image);
+    const Canvas canvas(painter, 15000, 3000);
+    Stamp stamp(canvas, Shape::square, 60);
+    const auto place = [](int n) { return QPointF(105 + n % 70 * 210, 105 + n / 70 * 210); };
+    const auto colour = [](int n) { return n * 7919 % 0xFFFFFF; };
+    for (int n = 0; n < 700; ++n) {
+        const int again = n < 350 ? n : n % 19;  // many, then few
+        stamp.paint(place(n).x(), place(n).y(), colour(again), colour(again + 1 + n % 2));
+    }
+    for (int n = 0; n < 700; ++n) {
+        const int again = n < 350 ? n : n % 19;
+        EXPECT_EQ(at(image, place(n).x(), place(n).y()), colour(again)) << n;
+        EXPECT_EQ(at(image, place(n).x() + 60, place(n).y()), colour(again + 1 + n % 2)) << n;
+    }
+}
+
+TEST(Lettering, NumbersByGroupsLookLikeDigitsOneByOne) {
+    for (const double ratio : {1.0, 2.0})
+        for (const QColor ground : {QColor(Qt::white), QColor(Qt::magenta)}) {
+            QImage grouped = blankImage(2400, 600, ratio);
+            grouped.fill(ground);
+            QImage single = grouped;
+            QPainter onGrouped(&grouped), onSingle(&single);
+            for (QPainter* painter : {&onGrouped, &onSingle}) painter->scale(1 / ratio, 1 / ratio);
+            Lettering& letters = lettering(ratio, black, white);
+            const std::string text = " 7 42 817 9058172633 ";
+            letters.print(onGrouped, {10, 10}, text);
+            letters.print(onSingle, {10, 10}, text + "    .");  // with a letter in it, it is no number
+            const int end = static_cast<int>(10 + letters.width(text));
+            int apart = 0, inked = 0;
+            for (int y = 0; y < single.height(); ++y)
+                for (int x = 0; x < end; ++x) {
+                    const int a = single.pixelColor(x, y).green(), b = grouped.pixelColor(x, y).green();
+                    inked += single.pixelColor(x, y).red() < 128;
+                    apart += std::abs(a - b) > 4;
+                }
+            EXPECT_GT(inked, 100) << ratio;
+            // Where groups meet, a few pixels of one halo are missing; on a ground of its colour nothing is.
+            EXPECT_LE(apart, ground == QColor(Qt::white) ? 0 : 20 * ratio * ratio) << ratio;
+        }
 }
 
 TEST(Scene, PlacesAndSizesOfAnyMagnitudeArePaintable) {

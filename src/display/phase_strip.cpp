@@ -22,7 +22,7 @@ void verticalLine(const Canvas& canvas, double x, double top, int width, std::in
 }
 
 void drawAxis(const Canvas& canvas, double unit) {
-    Lettering letters(sceneFont(canvas.ratio), labelInk, paper);
+    Lettering& letters = lettering(canvas.ratio, labelInk, paper);
     for (const int end : {1, 9}) verticalLine(canvas, end * unit, 0, 4, axisInk);
     for (int i = 1; i <= 8; ++i) {
         if (i > 1) verticalLine(canvas, i * unit, 200, 1, gridInk);
@@ -37,7 +37,7 @@ bool hasDisc(const Editor& ed, std::int32_t j) {
 
 void drawDiscs(const Canvas& canvas, const Editor& ed) {
     Stamp disc(canvas, Shape::circle, discRadius);
-    Lettering letters(sceneFont(canvas.ratio), black, paper);
+    Lettering& letters = lettering(canvas.ratio, black, paper);
     for (std::int32_t j = 1; j <= lastLink(ed); ++j) {
         if (!hasDisc(ed, j)) continue;
         const Link& link = linkAt(ed, j);

@@ -6,18 +6,15 @@
 #include "display/overlays.h"
 
 #include <QFontMetricsF>
-#include <map>
 
 namespace zentrik {
 
 namespace {
 
 void drawPage(const Canvas& canvas, const TextPage& page, std::int32_t paper) {
-    const QFont font = sceneFont(canvas.ratio);
-    std::map<std::int32_t, Lettering> letterings;  // by colour
     for (const TextRun& run : page.runs)
-        letterings.try_emplace(run.color, font, run.color, paper)
-            .first->second.print(canvas.painter, {canvas.pixels(run.x), canvas.pixels(run.y)}, run.text);
+        lettering(canvas.ratio, run.color, paper)
+            .print(canvas.painter, {canvas.pixels(run.x), canvas.pixels(run.y)}, run.text);
 }
 
 void drawTitle(const Canvas& canvas, const Editor& ed, std::int32_t ink) {
