@@ -22,14 +22,18 @@ PaintPacer::PaintPacer(QWidget& widget) : widget_(widget) {
     connect(&next_, &QTimer::timeout, this, &PaintPacer::repaint);
 }
 
+int PaintPacer::period() const {
+    constexpr int longest = 100;  // milliseconds
+    return std::max(refreshPeriod(widget_), std::min(2 * lastPaint_, longest));
+}
+
 void PaintPacer::request() {
     if (next_.isActive()) return;
-    const int period = refreshPeriod(widget_);
-    const qint64 waited = last_.isValid() ? last_.elapsed() : period;
-    if (waited >= period)
+    const qint64 wait = last_.isValid() ? period() - last_.elapsed() : 0;
+    if (wait <= 0)
         repaint();
     else
-        next_.start(static_cast<int>(period - waited));
+        next_.start(static_cast<int>(wait));
 }
 
 void PaintPacer::repaint() {
