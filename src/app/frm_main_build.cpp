@@ -189,7 +189,7 @@ void frmMain::connectViews() {
             if (ed_.MouseIsDown || ed_.PhaseDragging)
                 run(Event::mouse, what, move);
             else
-                follow(move);  // pointing alone costs nothing
+                point(move);
         };
         mouse.up = [this, what, release](int b, float x, float y) {
             run(Event::mouse, what, [&](Editor& ed, Host&) { release(ed, b, x, y); });

@@ -6,6 +6,7 @@
 #include "display/sprites.h"
 #include "model/editor.h"
 
+#include <QPixmap>
 #include <QWidget>
 #include <functional>
 
@@ -25,8 +26,17 @@ public:
     MouseCalls mouse;
     PaintPacer pacer;
 
+    // Whether it shows the record as it is, but for what the pointer alone changes.
+    bool isCurrent() const { return current_; }
+    void recordChanged() { current_ = false; }
+    void showRecord() {
+        current_ = false;
+        pacer.request();
+    }
+
 protected:
     const Editor& ed_;
+    bool current_ = false;
 
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -48,8 +58,12 @@ private:
     SpritePictures sprites_;
     std::string folder_;
     double ratio_ = 0;
+    // What lies under and over the marks of a scene at rest; nothing while it moves.
+    QPixmap under_, over_;
 
     void drawPicturesAnew();
+    void paintScene();
+    void keepLayers();
 };
 
 // picPhase

@@ -28,27 +28,48 @@ void drawTitle(const Canvas& canvas, const Editor& ed, std::int32_t ink) {
                  colorOf(ed.BackColor));
 }
 
+bool spritesShown(const Editor& ed) {
+    return ed.buttons.sprite && (ed.Timer1.enabled || ed.marks.mnuAllowSprites);
+}
+
 }  // namespace
 
-void drawScene(QPainter& painter, const Editor& ed, const SpritePictures& sprites) {
-    const Canvas canvas(painter, ed.sceneWidth, ed.sceneHeight);
-    painter.fillRect(canvas.frame, colorOf(ed.BackColor));
+void drawUnderMarks(const Canvas& canvas, const Editor& ed) {
+    canvas.painter.fillRect(canvas.frame, colorOf(ed.BackColor));
     if (ed.sceneBlank) return;
-
-    const bool running = ed.Timer1.enabled;
-    if (!running || ed.marks.mnuAllowGrid) DisplayGrid(canvas, ed);
+    if (!ed.Timer1.enabled || ed.marks.mnuAllowGrid) DisplayGrid(canvas, ed);
     if (ed.buttons.line) drawLinks(canvas, ed);
     if (ed.buttons.activeline) drawAnimatedLinks(canvas, ed);
     if (ed.buttons.ball) drawNodes(canvas, ed);
+}
+
+void drawMarksAndBand(const Canvas& canvas, const Editor& ed) {
+    if (ed.sceneBlank) return;
     drawMarks(canvas, ed);
     drawRubberBand(canvas, ed);
+}
 
+void drawOverMarks(const Canvas& canvas, const Editor& ed, const SpritePictures& sprites) {
+    if (ed.sceneBlank) return;
     const double lineHeight = sceneLineHeight();
     const TextPage overlays = overlayPage(ed, lineHeight);
     drawPage(canvas, overlays, ed.BackColor);
     if (ed.marks.mnuDisplayTitle) drawTitle(canvas, ed, overlays.color);
-    if (ed.buttons.sprite && (running || ed.marks.mnuAllowSprites)) ShowImages(canvas, ed, sprites);
+    if (spritesShown(ed)) ShowImages(canvas, ed, sprites);
     if (ed.instructionsShown) drawPage(canvas, instructionsPage(ed, lineHeight), ed.BackColor);
+}
+
+bool anythingOverMarks(const Editor& ed) {
+    const Buttons& pressed = ed.buttons;
+    return pressed.numbers || pressed.data || pressed.simple || ed.marks.mnuDisplayTitle ||
+           spritesShown(ed) || ed.instructionsShown;
+}
+
+void drawScene(QPainter& painter, const Editor& ed, const SpritePictures& sprites) {
+    const Canvas canvas(painter, ed.sceneWidth, ed.sceneHeight);
+    drawUnderMarks(canvas, ed);
+    drawMarksAndBand(canvas, ed);
+    drawOverMarks(canvas, ed, sprites);
 }
 
 }  // namespace zentrik

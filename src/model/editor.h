@@ -51,6 +51,8 @@ struct Timer {
 
 struct PointF {
     float x = 0, y = 0;  // twips
+
+    bool operator==(const PointF&) const = default;
 };
 
 struct PathDot {
@@ -122,6 +124,7 @@ struct Editor {
 
     // What waits to be painted.
     bool sceneStale = true, phaseStale = true;
+    bool marksStale = false;           // of the scene only its marks and the rubber band
     bool sceneBlank = false;           // cleared to the background until the next redraw
     bool instructionsShown = false;    // likewise, on top of the scene
     std::optional<PointF> rubberBand;  // free end of the link being drawn
