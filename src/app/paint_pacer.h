@@ -19,17 +19,17 @@ public:
         QElapsedTimer taken;
         taken.start();
         paint();
-        lastPaint_ = static_cast<int>(taken.elapsed());
+        lastPaint_ = taken.elapsed();
+        painted_.start();
     }
 
 private:
     QWidget& widget_;
-    QElapsedTimer last_;  // since the widget was last told to repaint
+    QElapsedTimer told_, painted_;  // since the widget was last told to repaint, and since it had done so
+    qint64 lastPaint_ = 0;          // milliseconds
     QTimer next_;
-    int lastPaint_ = 0;  // milliseconds
 
-    int period() const;
-    void repaint();
+    qint64 wait() const;
 };
 
 }  // namespace zentrik

@@ -61,6 +61,7 @@ QFont sceneFont(double ratio, double size, bool bold) {
     QFont font;
     font.setFamilies({"Arial", "Liberation Sans", "Nimbus Sans", "DejaVu Sans"});
     font.setStyleHint(QFont::SansSerif);
+    font.setStyleStrategy(QFont::NoSubpixelAntialias);    // alike on every layer of the scene
     font.setHintingPreference(QFont::PreferFullHinting);  // whole-pixel advances: even spacing
     font.setPixelSize(static_cast<int>(std::lround(size * 96 / 72 * ratio)));
     font.setBold(bold);
