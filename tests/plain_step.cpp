@@ -44,8 +44,8 @@ void initialVelocities(Editor& ed) {
     }
 }
 
-void drive(const Editor& ed, Node& n1, Node& n2) {
-    const double S = f64(ed.RotationScale), R1 = f64(n1.Rotate), R2 = f64(n2.Rotate);
+void drive(Node& n1, Node& n2) {
+    const double S = 1000, R1 = f64(n1.Rotate), R2 = f64(n2.Rotate);
     const float dx = f32(static_cast<double>(n1.X) - n2.X);
     const float dy = f32(static_cast<double>(n1.Y) - n2.Y);
     if (std::fabs(dx) < 50) {
@@ -271,8 +271,7 @@ void step(Editor& ed) {
     if (ed.marks.mnuDisplayAngleManager && toInt(f64(ed.AnimationTime) / dt) % 100 != 0)
         DrawPhaseManager(ed, f32(f64(ed.DeltaAngle) * f64(ed.AnimationTime)));
     showClock(ed);
-    forEachLink(ed,
-                [&](std::int32_t, const Link& link) { drive(ed, nodeAt(ed, link.N1), nodeAt(ed, link.N2)); });
+    forEachLink(ed, [&](std::int32_t, const Link& link) { drive(nodeAt(ed, link.N1), nodeAt(ed, link.N2)); });
     forEachLink(
         ed, [&](std::int32_t, Link& link) { spring(ed, link, nodeAt(ed, link.N1), nodeAt(ed, link.N2)); });
     std::string problem;

@@ -2,6 +2,8 @@
 
 #include "model/store.h"
 
+#include "edit/compact.h"
+
 #include "model/connected.h"
 #include "plain_step.h"
 #include "random_model.h"

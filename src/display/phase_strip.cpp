@@ -2,6 +2,7 @@
 
 #include "display/lettering.h"
 #include "display/stamp.h"
+#include "model/angles.h"
 #include "model/store.h"
 
 #include <QPolygonF>
@@ -57,7 +58,7 @@ void drawSineCurve(const Canvas& canvas, const Editor& ed, double unit) {
     QPolygonF points;
     for (int d = 0; d <= 360; ++d) {
         const double x = 0.8 * ed.phaseWidth / 360 * (360 - d) + unit;
-        const double y = (1 - std::sin(6.28 / 360 * d + ed.phaseShift)) * (ed.phaseHeight - 60) / 2;
+        const double y = (1 - std::sin(curveTurn / 360 * d + ed.phaseShift)) * (ed.phaseHeight - 60) / 2;
         points.append({canvas.pixels(x), canvas.pixels(y)});
     }
     QColor faint = colorOf(red);

@@ -3,6 +3,7 @@
 #include "edit/command.h"
 #include "model/host.h"
 #include "model/numbers.h"
+#include "model/questions.h"
 #include "model/redraw.h"
 #include "model/store.h"
 
@@ -151,10 +152,8 @@ void run(Editor& ed, Host& host, const BulkCommand& row) {
 }
 
 void ask(Editor& ed, Host& host, const BulkCommand& row, const char* prompt, const char* title) {
-    const std::string answer = host.inputBox(prompt, title, realText(ed.*row.setting));
-    if (answer.empty()) return;
-    const double value = leadingNumber(answer);
-    run(ed, host, row, toReal(value), realText(value));
+    const auto value = askNumber(host, prompt, title, realText(ed.*row.setting));
+    if (value) run(ed, host, row, toReal(*value), realText(*value));
 }
 
 // The closing message of a command made of others.

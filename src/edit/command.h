@@ -25,9 +25,6 @@ Link* usedSelectedLink(Editor& ed);
 // Makes a node just created the selection.
 void selectCreated(Editor& ed, std::int32_t node);
 
-// The phase strip, if shown, the counts, then the scene.
-void redrawStripAndScene(Editor& ed);
-
 // A prerequisite is missing: says so in status panel 5 and beeps.
 void refuse(Editor& ed, Host& host, const std::string& message);
 

@@ -4,6 +4,7 @@
 #include "edit/hit.h"
 #include "model/connected.h"
 #include "model/numbers.h"
+#include "model/redraw.h"
 #include "model/store.h"
 
 namespace zentrik {
@@ -73,13 +74,13 @@ void ConvertObjectToBarrier(Editor& ed, Host& host) {
     }
     ed.SelectedNode = none;
     ed.HoverNode = none;
-    redrawStripAndScene(ed);
+    redrawModel(ed);
 }
 
 void mnuDuplicateNode_Click(Editor& ed, Host& host) {
     if (!usedSelectedNode(ed)) return refuse(ed, host, selectFirst);
     selectCreated(ed, appendShiftedCopy(ed, ed.SelectedNode));
-    redrawStripAndScene(ed);
+    redrawModel(ed);
     panel(ed, 5) = "Duplicate node created!";
 }
 
@@ -89,7 +90,7 @@ void mnuDuplicateObject_Click(Editor& ed, Host& host) {
     const std::vector<std::int32_t> copies = copyMarkedNodes(ed);
     copyMarkedLinks(ed, shiftedEnds(ed, copies));
     selectCreated(ed, lastNode(ed));
-    redrawStripAndScene(ed);
+    redrawModel(ed);
     panel(ed, 5) = "Duplicate object created!";
 }
 
@@ -109,7 +110,7 @@ void mnuCreateRoad_Click(Editor& ed, Host& host) {
     appendLink(ed, Link{});  // a road takes as many link slots as nodes
     ed.SelectedNode = lastNode(ed);
     ConvertObjectToBarrier(ed, host);
-    redrawStripAndScene(ed);
+    redrawModel(ed);
     panel(ed, 5) = "Road Barrier Created";
 }
 

@@ -1,7 +1,9 @@
 #include "effects/shooter.h"
 
+#include "model/angles.h"
 #include "model/host.h"
 #include "model/numbers.h"
+#include "model/questions.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/shooter_aim.h"
@@ -54,24 +56,20 @@ void mnuFire_Click(Editor& ed, Host&) {
     const std::int32_t fired = appendNode(ed, ball);
     if (ed.marks.mnuCannonBallFocus) ed.SelectedNode = fired;
     DisplayNodeData(ed, ed.SelectedNode);
-    redrawPhaseManager(ed, ed.AnimationTime);
-    showCounts(ed);
-    DisplayScene(ed, -1, -1);
+    redrawModel(ed);
 }
 
 void mnuShooterDirection_Click(Editor& ed, Host& host) {
-    const std::string answer =
-        host.inputBox("Enter shooter direction (0-360 degrees).", "Set Shooter Direction",
-                      fixedText(static_cast<double>(ed.ShooterDirection) * 57.296, 1));
-    const double degrees = leadingNumber(answer);
-    if (!answer.empty() && degrees >= 0 && degrees <= 360) ed.ShooterDirection = toReal(degrees * 0.01745);
+    const auto degrees = askNumber(host, "Enter shooter direction (0-360 degrees).", "Set Shooter Direction",
+                                   fixedText(ed.ShooterDirection * radiansToDegrees, 1));
+    if (degrees && *degrees >= 0 && *degrees <= 360)
+        ed.ShooterDirection = toReal(*degrees * degreesToRadians);
 }
 
 void mnuShooterVelocity_Click(Editor& ed, Host& host) {
-    const std::string answer =
-        host.inputBox("Enter shooter velocity.", "Set Shooter Velocity", realText(ed.ShooterVelocity));
-    const double velocity = leadingNumber(answer);
-    if (!answer.empty() && velocity > -30000 && velocity <= 30000) ed.ShooterVelocity = toReal(velocity);
+    const auto velocity =
+        askNumber(host, "Enter shooter velocity.", "Set Shooter Velocity", realText(ed.ShooterVelocity));
+    if (velocity && *velocity > -30000 && *velocity <= 30000) ed.ShooterVelocity = toReal(*velocity);
 }
 
 }  // namespace zentrik

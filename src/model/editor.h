@@ -90,7 +90,6 @@ struct Editor {
     // Run state.
     float AnimationTime = 0;
     std::int32_t TimeDirection = 1;
-    float RotationScale = 1000;
     std::int32_t Cycles = 0, LastShooter = 0, FireworksTicks = 0;
     bool SingleStep = false, InitialVelocityPending = false;
     Timer Timer1{false, 20}, timerFireWorks{false, 500};
@@ -101,7 +100,6 @@ struct Editor {
     std::int32_t HoverNode = none, HoverLink = none;
     std::int32_t SelectedAnimatorLink = none, PhaseOverLink = none;
     bool MouseIsDown = false, DrawMode = false, SelectedNodeClicked = false, PhaseDragging = false;
-    float PhaseGridStep = 22.5F;  // degrees
 
     // What the controls show.
     Marks marks;

@@ -1,5 +1,6 @@
 #include "model/redraw.h"
 
+#include "model/angles.h"
 #include "model/grid.h"
 #include "model/numbers.h"
 #include "model/shooter_aim.h"
@@ -23,7 +24,7 @@ void aimShooters(Editor& ed) {
         }
         if (!nodeExists(ed, node.Res1)) return;
         nodeAt(ed, node.Res1).Locked = true;
-        panel(ed, 1) = fixedText(barrelAngle(ed, node) * 57.296, 1);
+        panel(ed, 1) = fixedText(barrelAngle(ed, node) * radiansToDegrees, 1);
     });
 }
 
@@ -61,14 +62,19 @@ void redrawPhaseManager(Editor& ed, float phase) {
     if (ed.marks.mnuDisplayAngleManager) DrawPhaseManager(ed, phase);
 }
 
+void redrawStripAndScene(Editor& ed) {
+    redrawPhaseManager(ed, ed.AnimationTime);
+    DisplayScene(ed, -1, -1);
+}
+
+void redrawModel(Editor& ed) {
+    showCounts(ed);
+    redrawStripAndScene(ed);
+}
+
 void DisplayOnscreenInstructions(Editor& ed) {
     ed.instructionsShown = true;
     ed.sceneStale = true;
-}
-
-void clearPath(Editor& ed) {
-    ed.pathDots.clear();
-    ++ed.pathErased;
 }
 
 void showClock(Editor& ed) { panel(ed, 4) = "Time: " + clockText(ed.AnimationTime); }

@@ -17,11 +17,13 @@ void DrawPhaseManager(Editor& ed, float phase);
 // The same, only while the strip is shown.
 void redrawPhaseManager(Editor& ed, float phase);
 
+// The phase strip, if shown, for the clock's time, then the scene.
+void redrawStripAndScene(Editor& ed);
+// The same where nodes or links came or went: with their counts.
+void redrawModel(Editor& ed);
+
 // The text printed over the scene until the next redraw.
 void DisplayOnscreenInstructions(Editor& ed);
-
-// Erases the dots of the node path window.
-void clearPath(Editor& ed);
 
 // Status panel 4.
 void showClock(Editor& ed);

@@ -1,3 +1,4 @@
+#include "model/angles.h"
 #include "model/prefetch.h"
 #include "model/store.h"
 #include "sim/forces.h"
@@ -7,8 +8,6 @@
 namespace zentrik {
 
 namespace {
-
-constexpr double degreesToRadians = 0.01745;
 
 // What all animators share in one step.
 struct AnimatorClock {

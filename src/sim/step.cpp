@@ -1,5 +1,6 @@
 #include "sim/step.h"
 
+#include "model/angles.h"
 #include "model/numbers.h"
 #include "model/redraw.h"
 #include "model/store.h"
@@ -83,7 +84,7 @@ void putBack(Editor& ed, const std::vector<NodeState>& before) {
 void setDirectionalVelocity(Node& node) {
     const std::int32_t a = toInt(wide(node.Vxo));
     const float V = real(node.Vyo * 1000.0);
-    const float r = real(a * 0.01745);
+    const float r = real(a * degreesToRadians);
     const double across = std::fabs(std::cos(wide(r))) * V;
     const double along = std::fabs(std::sin(wide(r))) * V;
     if (a >= 360) return;

@@ -21,8 +21,7 @@ void newClicked(Editor& ed, Host&) {
     stopAnimation(ed);
     ClearAnimation(ed);
     ed.AnimationTime = 0;
-    redrawPhaseManager(ed, ed.AnimationTime);
-    showClock(ed);
+    redrawStripAndScene(ed);
 }
 
 void refreshClicked(Editor& ed, Host& host) {

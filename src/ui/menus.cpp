@@ -2,6 +2,7 @@
 
 #include "edit/builders.h"
 #include "edit/bulk.h"
+#include "edit/compact.h"
 #include "edit/objects.h"
 #include "effects/fireworks.h"
 #include "effects/shooter.h"
@@ -77,7 +78,7 @@ constexpr MenuRow rows[] = {
     line("mnuSel03"),
     entry("mnuDefaultK", "Set Default &Spring Constant", no, mnuDefaultK_Click),
     entry("mnuDefaultForce", "Set Default Li&nk Force", no, mnuDefaultForce_Click),
-    toggle("mnuAllowZero", "Allow &Zero Length Links", no, &Marks::mnuAllowZero, redrawStripAndScene),
+    toggle("mnuAllowZero", "Allow &Zero Length Links", no, &Marks::mnuAllowZero, redrawDrawings),
 
     menu("mnuStructures", "&Structures"),
     entry("mnuDuplicateNode", "Create &Duplicate Node", "Ctrl+D", mnuDuplicateNode_Click),

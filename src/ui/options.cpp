@@ -2,6 +2,7 @@
 
 #include "model/host.h"
 #include "model/numbers.h"
+#include "model/questions.h"
 #include "model/rate.h"
 #include "model/redraw.h"
 #include "ui/layout.h"
@@ -19,8 +20,7 @@ void askColor(Editor& ed, Host& host, std::int32_t Editor::*color) {
 }
 
 void askReal(Editor& ed, Host& host, const char* prompt, const char* title, float Editor::*value) {
-    const std::string answer = host.inputBox(prompt, title, realText(ed.*value));
-    if (!answer.empty()) ed.*value = toReal(leadingNumber(answer));
+    if (const auto answer = askNumber(host, prompt, title, realText(ed.*value))) ed.*value = toReal(*answer);
 }
 
 }  // namespace
@@ -38,8 +38,8 @@ void mnuResetGlobal_Click(Editor& ed, Host&) {
 }
 
 void mnuGridSize_Click(Editor& ed, Host& host) {
-    const std::string answer = host.inputBox("Enter grid size.", "Grid Size", realText(ed.GridSize));
-    const std::int32_t size = toInt(leadingNumber(answer));
+    const auto answer = askNumber(host, "Enter grid size.", "Grid Size", realText(ed.GridSize));
+    const std::int32_t size = toInt(answer.value_or(0));
     if (size >= smallestGrid) ed.GridSize = static_cast<float>(size);
     DisplayScene(ed, -1, -1);
 }
@@ -50,9 +50,9 @@ void setNodeRadius(Editor& ed, std::int32_t radius) {
 }
 
 void mnuSetRadius_Click(Editor& ed, Host& host) {
-    const std::string answer =
-        host.inputBox("Enter node radius.", "Set Node Radius", std::to_string(ed.NodeRadius));
-    if (!answer.empty()) setNodeRadius(ed, toInt(leadingNumber(answer)));
+    const auto radius =
+        askNumber(host, "Enter node radius.", "Set Node Radius", std::to_string(ed.NodeRadius));
+    if (radius) setNodeRadius(ed, toInt(*radius));
     DisplayScene(ed, -1, -1);
 }
 
@@ -70,10 +70,7 @@ void mnuBackgroundColor_Click(Editor& ed, Host& host) { askColor(ed, host, &Edit
 
 void redrawScene(Editor& ed, Host&) { DisplayScene(ed, -1, -1); }
 
-void redrawStripAndScene(Editor& ed, Host&) {
-    redrawPhaseManager(ed, ed.AnimationTime);
-    DisplayScene(ed, -1, -1);
-}
+void redrawDrawings(Editor& ed, Host&) { redrawStripAndScene(ed); }
 
 void layOutAgain(Editor& ed, Host&) { layOut(ed); }
 

@@ -2,6 +2,7 @@
 
 #include "model/host.h"
 #include "model/numbers.h"
+#include "model/questions.h"
 #include "model/rate.h"
 #include "model/redraw.h"
 #include "model/store.h"
@@ -161,9 +162,9 @@ bool ownerExists(const Editor& ed, const PropertyRow& row) {
 }
 
 void askForValue(Editor& ed, Host& host, const PropertyRow& row) {
-    const std::string answer = host.inputBox(row.prompt, "Custom Value", row.access->text(ed));
-    if (answer.empty()) return;
-    row.access->store(ed, leadingNumber(answer));
+    const auto answer = askNumber(host, row.prompt, "Custom Value", row.access->text(ed));
+    if (!answer) return;
+    row.access->store(ed, *answer);
     const std::string value = row.access->text(ed);
     ed.tips.*row.tip = row.label + value;
     if (row.redrawStrip) redrawPhaseManager(ed, ed.AnimationTime);
