@@ -10,8 +10,11 @@
 #include "model/store.h"
 #include "project/library.h"
 #include "sim/run.h"
+#include "ui/no_doubles.h"
 #include "ui/online.h"
 #include "ui/options.h"
+
+#include <string_view>
 
 namespace zentrik {
 
@@ -132,6 +135,9 @@ constexpr CommandRow rows[] = {
     button("email", "Email Author", "email", mnuEmail_Click),
 };
 // clang-format on
+static_assert(!anyShared(rows, [](const CommandRow& row) { return std::string_view(row.key); }) &&
+                  !anyShared(rows, [](const CommandRow& row) { return row.pressed; }),
+              "two buttons share a key or a state");
 
 }  // namespace
 

@@ -10,6 +10,7 @@
 #include "project/library.h"
 #include "sim/run.h"
 #include "ui/model_information.h"
+#include "ui/no_doubles.h"
 #include "ui/online.h"
 #include "ui/options.h"
 #include "ui/sprite_commands.h"
@@ -151,19 +152,11 @@ constexpr MenuRow rows[] = {
 };
 // clang-format on
 
-constexpr bool same(const char* a, const char* b) {
-    return a != nullptr && b != nullptr && std::string_view(a) == b;
-}
-
-constexpr bool hasDuplicates() {
-    for (const MenuRow& a : rows)
-        for (const MenuRow& b : rows)
-            if (&a < &b && (same(a.name, b.name) || same(a.shortcut, b.shortcut) ||
-                            (a.mark != nullptr && a.mark == b.mark)))
-                return true;
-    return false;
-}
-static_assert(!hasDuplicates(), "two menu entries share a name, a shortcut or a check mark");
+constexpr std::string_view textOf(const char* text) { return text != nullptr ? text : ""; }
+static_assert(!anyShared(rows, [](const MenuRow& row) { return textOf(row.name); }) &&
+                  !anyShared(rows, [](const MenuRow& row) { return textOf(row.shortcut); }) &&
+                  !anyShared(rows, [](const MenuRow& row) { return row.mark; }),
+              "two menu entries share a name, a shortcut or a check mark");
 
 }  // namespace
 

@@ -39,7 +39,7 @@ bool OverPhase(Editor& ed, float X, float Y, std::int32_t& iOver) {
     iOver = none;
     for (std::int32_t j = 1; j <= lastLink(ed); ++j) {
         const Link& link = linkAt(ed, j);
-        if (!link.Used || !within(X, link.Res1, ed.HitRadius) || !within(Y, link.Res4, ed.HitRadius))
+        if (!link.Used || !within(X, link.DiscX, ed.HitRadius) || !within(Y, link.DiscY, ed.HitRadius))
             continue;
         iOver = j;
         panel(ed, 5) = linkText(ed, j);
