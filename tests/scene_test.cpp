@@ -68,7 +68,7 @@ struct Probe {
 TEST(Scene, EveryLayerShowsWhereItsSwitchesSay) {
     const auto nothing = [](Editor&) {};
     const auto locked = [](std::int32_t trigger) {
-        return [trigger](Editor& ed) { ed.Nodes[1].Locked = true, ed.Nodes[1].Res1 = trigger; };
+        return [trigger](Editor& ed) { ed.Nodes[1].Locked = true, ed.Nodes[1].Trigger = trigger; };
     };
     // As a mark of node 1, or with the node's gravity or lock.
     const auto selected = [](bool Buttons::*off, float gravity = 0, bool isLocked = false) {
@@ -125,7 +125,7 @@ TEST(Scene, EveryLayerShowsWhereItsSwitchesSay) {
         {"shooter without trigger: no barrel", locked(0), 1215, 1500, paper},
         {"barrel, away from the trigger", locked(2), 1215, 1500, green},
         {"trigger that does not exist", locked(99), 1215, 1500, paper},
-        {"unlocked shooter is a circle", [](Editor& ed) { ed.Nodes[1].Res1 = 2; }, 1635, 1635, paper},
+        {"unlocked shooter is a circle", [](Editor& ed) { ed.Nodes[1].Trigger = 2; }, 1635, 1635, paper},
         {"gravity dot", [](Editor& ed) { ed.Nodes[1].Gravity = -1; }, 1500, 1500, yellow},
         {"gravity dot is half as wide", [](Editor& ed) { ed.Nodes[1].Gravity = 1; }, 1500, 1600, fill},
         {"selected node, balls off", selected(&Buttons::ball), 1500, 1600, red},
@@ -263,7 +263,7 @@ TEST(Scene, PlacesAndSizesOfAnyMagnitudeArePaintable) {
         for (const std::int32_t y : corners) {
             const std::int32_t i = scenes::addNode(ed, x, y);
             nodeAt(ed, i).Locked = i % 2 == 0;
-            nodeAt(ed, i).Res1 = i % 4 == 0 ? i - 1 : none;
+            nodeAt(ed, i).Trigger = i % 4 == 0 ? i - 1 : none;
             nodeAt(ed, i).Gravity = 1;
             Link& link = linkAt(ed, scenes::addLink(ed, i - 1, i));
             link.Barrier = i % 3 == 0;

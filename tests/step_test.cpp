@@ -30,11 +30,11 @@ std::uint32_t bits(float value) {
 }
 
 std::vector<std::int64_t> stateOf(const Node& n) {
-    return {n.Used,     n.X,        n.Y,        n.Locked,   n.Res3,        n.color,
+    return {n.Used,     n.X,        n.Y,        n.Locked,   n.Marked,      n.color,
             bits(n.Vx), bits(n.Vy), bits(n.Fx), bits(n.Fy), bits(n.Rotate)};
 }
 std::vector<std::int64_t> stateOf(const Link& link) {
-    return {link.Used, link.Res3, link.Res1, link.Res4, bits(link.CurrentLength)};
+    return {link.Used, link.Marked, link.DiscX, link.DiscY, bits(link.CurrentLength)};
 }
 
 std::vector<std::int64_t> stateOf(const PathDot& dot) { return {dot.x, dot.y, dot.color}; }

@@ -5,6 +5,7 @@
 #include "edit/mouse.h"
 #include "effects/fireworks.h"
 #include "model/redraw.h"
+#include "model/store.h"
 #include "project/library.h"
 #include "sim/run.h"
 #include "ui/layout.h"

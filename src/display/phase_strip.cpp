@@ -42,12 +42,12 @@ void drawDiscs(const Canvas& canvas, const Editor& ed) {
     for (std::int32_t j = 1; j <= lastLink(ed); ++j) {
         if (!hasDisc(ed, j)) continue;
         const Link& link = linkAt(ed, j);
-        disc.paint(link.Res1, link.Res4, ed.NodeColor, black);
-        if (link.Res4 > ed.phaseHeight) continue;
-        letters.print(canvas.painter, canvas.place(link.Res1, link.Res4), " " + std::to_string(j));
+        disc.paint(link.DiscX, link.DiscY, ed.NodeColor, black);
+        if (link.DiscY > ed.phaseHeight) continue;
+        letters.print(canvas.painter, canvas.place(link.DiscX, link.DiscY), " " + std::to_string(j));
     }
     const auto again = [&](std::int32_t j, std::int32_t fill) {
-        if (hasDisc(ed, j)) disc.paint(linkAt(ed, j).Res1, linkAt(ed, j).Res4, fill, black);
+        if (hasDisc(ed, j)) disc.paint(linkAt(ed, j).DiscX, linkAt(ed, j).DiscY, fill, black);
     };
     again(ed.SelectedAnimatorLink, blue);
     again(ed.PhaseOverLink, white);

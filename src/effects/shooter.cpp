@@ -16,13 +16,13 @@ namespace zentrik {
 namespace {
 
 bool isShooter(const Editor& ed, std::int32_t i) {
-    return nodeExists(ed, i) && nodeAt(ed, i).Used && nodeAt(ed, i).Res1 != none;
+    return nodeExists(ed, i) && nodeAt(ed, i).Used && nodeAt(ed, i).Trigger != none;
 }
 
 // Shooters may stand in a chain, each the trigger of the next; the last of them fires.
 std::int32_t endOfChain(const Editor& ed, std::int32_t shooter) {
     forEachNode(ed, [&](std::int32_t j, const Node& node) {
-        if (node.Res1 == shooter) shooter = j;
+        if (node.Trigger == shooter) shooter = j;
     });
     return shooter;
 }
@@ -31,9 +31,9 @@ std::int32_t endOfChain(const Editor& ed, std::int32_t shooter) {
 void launch(const Editor& ed, const Node& shooter, Node& ball) {
     double speed = ed.ShooterVelocity;
     double angle = ed.ShooterDirection;
-    if (nodeExists(ed, shooter.Res1)) {
-        const double dx = static_cast<double>(shooter.X) - nodeAt(ed, shooter.Res1).X;
-        const double dy = static_cast<double>(shooter.Y) - nodeAt(ed, shooter.Res1).Y;
+    if (nodeExists(ed, shooter.Trigger)) {
+        const double dx = static_cast<double>(shooter.X) - nodeAt(ed, shooter.Trigger).X;
+        const double dy = static_cast<double>(shooter.Y) - nodeAt(ed, shooter.Trigger).Y;
         speed = toReal(10 * std::sqrt(dx * dx + dy * dy));
         angle = barrelAngle(ed, shooter);
     }

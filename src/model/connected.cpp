@@ -30,9 +30,10 @@ std::vector<std::int32_t> connectedObjects(const Editor& ed) {
 }
 
 void markObject(Editor& ed, const std::vector<std::int32_t>& objects, std::int32_t object) {
-    for (std::size_t i = 0; i < ed.Nodes.size(); ++i) ed.Nodes[i].Res3 = objects[i] == object;
+    for (std::size_t i = 0; i < ed.Nodes.size(); ++i) ed.Nodes[i].Marked = objects[i] == object;
     for (Link& link : ed.Links)
-        link.Res3 = link.Used && endsExist(ed, link) && objects[static_cast<std::size_t>(link.N1)] == object;
+        link.Marked =
+            link.Used && endsExist(ed, link) && objects[static_cast<std::size_t>(link.N1)] == object;
 }
 
 void MarkConnectedNodes(Editor& ed, std::int32_t& iSel, std::int32_t iSelLink) {

@@ -15,7 +15,7 @@ std::int32_t spriteEntryOf(const Editor& ed, const std::string& name) {
 void DisplayNodeData(Editor& ed, std::int32_t i) {
     const Node& node = nodeAt(ed, i);
     ed.buttons.locked = node.Locked;
-    ed.buttons.shooter = node.Res1 != none;
+    ed.buttons.shooter = node.Trigger != none;
     ed.tips.mass = "Mass: " + realText(node.Mass);
     ed.tips.gforce = "Gravitational Force: " + realText(node.Gravity);
     ed.tips.vxo = "Initial X-Velocity: " + realText(node.Vxo);

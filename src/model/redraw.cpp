@@ -18,12 +18,12 @@ void aimShooters(Editor& ed) {
     std::vector<std::int32_t> triggers;
     forEachNode(ed, [&](std::int32_t i, Node& node) {
         if (!takesAim(node)) return;
-        if (node.Res1 == 0) {
+        if (node.Trigger == 0) {
             if (triggers.empty()) triggers = triggerNodes(ed);
-            node.Res1 = triggers[static_cast<std::size_t>(i)];
+            node.Trigger = triggers[static_cast<std::size_t>(i)];
         }
-        if (!nodeExists(ed, node.Res1)) return;
-        nodeAt(ed, node.Res1).Locked = true;
+        if (!nodeExists(ed, node.Trigger)) return;
+        nodeAt(ed, node.Trigger).Locked = true;
         panel(ed, 1) = fixedText(barrelAngle(ed, node) * radiansToDegrees, 1);
     });
 }
@@ -49,9 +49,9 @@ void DrawPhaseManager(Editor& ed, float phase) {
     const double width = ed.phaseWidth;
     forEachLink(ed, [&](std::int32_t, Link& link) {
         if (!link.Animator) return;
-        link.Res1 = toInt(link.Angle * 0.8 * width / 360 + 0.1 * width);
+        link.DiscX = toInt(link.Angle * 0.8 * width / 360 + 0.1 * width);
         auto& height = stack[static_cast<std::size_t>(std::clamp(toInt(link.Angle), 0, 360))];
-        link.Res4 = height * 200 + 300;
+        link.DiscY = height * 200 + 300;
         ++height;
     });
     ed.phaseShift = phase;

@@ -11,7 +11,7 @@ namespace zentrik {
 // clock, and marks the scene stale.
 void DisplayScene(Editor& ed, float PX, float PY);
 
-// Lays every animated link's disc out in the phase strip (into the link's Res1, Res4) and shifts the
+// Lays every animated link's disc out in the phase strip (into the link's DiscX, DiscY) and shifts the
 // strip's sine curve by phase, radians. Angles outside 0 to 360 stack at the nearer end.
 void DrawPhaseManager(Editor& ed, float phase);
 // The same, only while the strip is shown.

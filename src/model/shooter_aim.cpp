@@ -39,7 +39,7 @@ float GetVectorAngle(float dx, float dy) {
 }
 
 float barrelAngle(const Editor& ed, const Node& shooter) {
-    const Node& trigger = nodeAt(ed, shooter.Res1);
+    const Node& trigger = nodeAt(ed, shooter.Trigger);
     return GetVectorAngle(toReal(static_cast<double>(shooter.X) - trigger.X),
                           toReal(static_cast<double>(shooter.Y) - trigger.Y));
 }

@@ -41,7 +41,7 @@ Node standardNode(Editor& ed, double x, double y) {
     node.X = toInt(x);
     node.Y = toInt(y);
     node.Mass = 1;
-    node.Res1 = none;
+    node.Trigger = none;
     node.Sprite = noSprite;
     node.color = ed.marks.mnuUseRandom ? GetRandomColor(ed.chance) : ed.NodeColor;
     return node;
