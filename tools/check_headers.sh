@@ -10,6 +10,6 @@ find src tests bench tools -name '*.h' | sort | xargs -P 2 -n 8 sh -c '
     for header; do
         # shellcheck disable=SC2086 # several flags
         printf "#include \"%s\"\n" "$PWD/$header" |
-            c++ $flags -fPIC -Isrc -Itests -Itests/scenes -Itools -fsyntax-only -x c++ - ||
+            c++ $flags -DZENTRIK_SOURCE_DIR=\"\" -fPIC -Isrc -Itests -Itests/scenes -Itools -fsyntax-only -x c++ - ||
             { echo "$header does not compile alone"; exit 255; }
     done' sh

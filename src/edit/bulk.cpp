@@ -2,6 +2,7 @@
 
 #include "edit/command.h"
 #include "model/host.h"
+#include "model/no_doubles.h"
 #include "model/numbers.h"
 #include "model/questions.h"
 #include "model/redraw.h"
@@ -107,6 +108,7 @@ constexpr BulkCommand commands[] = {
      "Object links removed!", "All links removed!"},
 };
 // clang-format on
+static_assert(!anyShared(commands, [](const BulkCommand& row) { return std::string_view(row.name); }));
 
 // A misspelled name does not compile.
 consteval const BulkCommand& command(std::string_view name) {

@@ -3,6 +3,7 @@
 // the records. A column's form is that of the member it stands for: a truth value, a whole number, a
 // real or a text.
 
+#include "model/no_doubles.h"
 #include "model/records.h"
 
 #include <cstdint>
@@ -102,5 +103,9 @@ inline constexpr Column<Node> nodeColumns[] = {
     {"Res8", &Node::Res8, ""},
 };
 inline constexpr std::string_view nodeCommentStart = "; i ; ";
+
+constexpr auto columnName = [](const auto& column) { return std::string_view(column.name); };
+static_assert(!anyShared(globalColumns, columnName) && !anyShared(linkColumns, columnName) &&
+              !anyShared(nodeColumns, columnName));
 
 }  // namespace zentrik

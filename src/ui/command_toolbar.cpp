@@ -5,12 +5,12 @@
 #include "edit/transforms.h"
 #include "effects/shooter.h"
 #include "model/host.h"
+#include "model/no_doubles.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
 #include "project/library.h"
 #include "sim/run.h"
-#include "ui/no_doubles.h"
 #include "ui/online.h"
 #include "ui/options.h"
 

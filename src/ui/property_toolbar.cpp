@@ -1,12 +1,12 @@
 #include "ui/property_toolbar.h"
 
 #include "model/host.h"
+#include "model/no_doubles.h"
 #include "model/numbers.h"
 #include "model/questions.h"
 #include "model/rate.h"
 #include "model/redraw.h"
 #include "model/store.h"
-#include "ui/no_doubles.h"
 #include "ui/property_commands.h"
 
 namespace zentrik {
