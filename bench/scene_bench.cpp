@@ -10,6 +10,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
+#include <array>
 
 namespace {
 
@@ -31,44 +32,63 @@ void redraw(benchmark::State& state, const Editor& ed, const SpritePictures& spr
     state.counters["links"] = UsedLinks(ed);
 }
 
-// 10,000 nodes with two links each.
-Editor sparseLattice() {
-    Editor ed = scenes::latticeOf(10000);
+// Nodes with two links each.
+Editor sparseLattice(int nodes) {
+    Editor ed = scenes::latticeOf(nodes);
     for (std::size_t j = 1; j < ed.Links.size(); ++j) ed.Links[j].Used = j % 4 < 2;
     return ed;
 }
 
 void scene(benchmark::State& state) { redraw(state, scenes::latticeOf(static_cast<int>(state.range(0)))); }
-BENCHMARK(scene)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+BENCHMARK(scene)->Arg(100)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 
-void sceneTwoLinksANode(benchmark::State& state) { redraw(state, sparseLattice()); }
-BENCHMARK(sceneTwoLinksANode)->Unit(benchmark::kMillisecond);
+void sceneTwoLinks(benchmark::State& state) {
+    redraw(state, sparseLattice(static_cast<int>(state.range(0))));
+}
+BENCHMARK(sceneTwoLinks)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 
 void sceneDoublePixels(benchmark::State& state) {
     redraw(state, scenes::latticeOf(static_cast<int>(state.range(0))), {}, 2);
 }
-BENCHMARK(sceneDoublePixels)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+BENCHMARK(sceneDoublePixels)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+
+// Nodes in sixteen colours, with two links each.
+void sceneMixedColours(benchmark::State& state) {
+    Editor ed = sparseLattice(static_cast<int>(state.range(0)));
+    std::array<std::int32_t, 16> colours{};
+    for (std::int32_t& colour : colours) colour = GetRandomColor(ed.chance);
+    for (Node& node : ed.Nodes) node.color = colours[static_cast<std::size_t>(ed.chance.next() * 16)];
+    redraw(state, ed);
+}
+BENCHMARK(sceneMixedColours)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 
 void sceneRandomColours(benchmark::State& state) {
-    Editor ed = scenes::latticeOf(10000);
+    Editor ed = sparseLattice(static_cast<int>(state.range(0)));
     for (Node& node : ed.Nodes) node.color = GetRandomColor(ed.chance);
     redraw(state, ed);
 }
-BENCHMARK(sceneRandomColours)->Unit(benchmark::kMillisecond);
+BENCHMARK(sceneRandomColours)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 
 void sceneWithGrid(benchmark::State& state) {
     Editor ed = scenes::latticeOf(1000);
     ed.buttons.grid = true;
     redraw(state, ed);
 }
-BENCHMARK(sceneWithGrid)->Unit(benchmark::kMillisecond);
+BENCHMARK(sceneWithGrid)->Unit(benchmark::kMicrosecond);
+
+void sceneNumbers(benchmark::State& state) {
+    Editor ed = sparseLattice(static_cast<int>(state.range(0)));
+    ed.buttons.numbers = true;
+    redraw(state, ed);
+}
+BENCHMARK(sceneNumbers)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 
 void sceneWithAllTexts(benchmark::State& state) {
     Editor ed = scenes::latticeOf(static_cast<int>(state.range(0)));
     ed.buttons.numbers = ed.buttons.data = ed.buttons.simple = true;
     redraw(state, ed);
 }
-BENCHMARK(sceneWithAllTexts)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+BENCHMARK(sceneWithAllTexts)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
 
 // The baseline: one drawLine and one drawEllipse an item, in the same quality.
 void itemByItem(benchmark::State& state) {
@@ -88,7 +108,7 @@ void itemByItem(benchmark::State& state) {
         forEachNode(ed, [&](std::int32_t, const Node& node) { painter.drawEllipse(place(node), 4, 4); });
     }
 }
-BENCHMARK(itemByItem)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+BENCHMARK(itemByItem)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 
 void tenThousandSprites(benchmark::State& state) {
     const int side = static_cast<int>(state.range(0));
@@ -110,6 +130,6 @@ void tenThousandSprites(benchmark::State& state) {
     sprites.read(folder.path().toStdString());
     redraw(state, ed, sprites);
 }
-BENCHMARK(tenThousandSprites)->Arg(16)->Arg(32)->Arg(48)->Unit(benchmark::kMillisecond);
+BENCHMARK(tenThousandSprites)->Arg(16)->Arg(32)->Arg(48)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -28,7 +28,7 @@ void step(benchmark::State& state) {
     for (auto _ : state) CalculatePositions(ed);
     state.counters["links"] = static_cast<double>(lastLink(ed));
 }
-BENCHMARK(step)->Arg(100)->Arg(1000)->Arg(10000)->Arg(32000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(step)->Arg(100)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 
 void attraction(benchmark::State& state) {
     Editor ed = running(static_cast<int>(state.range(0)));
@@ -63,7 +63,7 @@ void connectedObject(benchmark::State& state) {
         MarkConnectedNodes(ed, start, none);
     }
 }
-BENCHMARK(connectedObject)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(connectedObject)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 
 struct alignas(64) PlainNode {
     float x, y, fx, fy;
@@ -97,7 +97,7 @@ void plainSprings(benchmark::State& state) {
     }
     state.counters["springs"] = static_cast<double>(springs.size());
 }
-BENCHMARK(plainSprings)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(plainSprings)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 

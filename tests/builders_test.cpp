@@ -57,7 +57,7 @@ TEST(Builders, RingsStandWhereTheyShouldWithTheirLinks) {
         Site site("4:500", c.builder);
         EXPECT_EQ(site.host.transcript, "input: Enter parameters (nodes:radius):|" + c.title + "|20:1000\n");
         EXPECT_EQ(placesOf(site.ed, 2), "3000,3500 3500,3000 3000,2500 2500,3000 ");
-        EXPECT_EQ(nodeAt(site.ed, 2).Res1, none);
+        EXPECT_EQ(nodeAt(site.ed, 2).Trigger, none);
         EXPECT_EQ(linksOf(site.ed), c.links);
         EXPECT_EQ(selections(site.ed), (Selections{5, 5, none, none}));
         EXPECT_EQ(panel(site.ed, 5), c.message + " created (4 : 500)");

@@ -168,7 +168,7 @@ TEST(PropertyToolbar, ButtonsOfANodeAndALinkTell) {
         EXPECT_EQ(ed.buttons.locked, ed.Nodes[1].Locked) << c.told;
         EXPECT_EQ(ed.Nodes[1].Vx, c.vx);
     }
-    EXPECT_EQ(ed.Nodes[1].Res1, none);
+    EXPECT_EQ(ed.Nodes[1].Trigger, none);
     desk.host.colour = 255;
     desk.pressProperty("color");
     EXPECT_EQ(ed.Nodes[1].color, 255);
@@ -217,11 +217,11 @@ Desk withStrip(float angle1, float angle2, float angle3) {
 
 TEST(PhaseManager, DiscsStackByWholeDegree) {
     const Desk near = withStrip(90, 90.4F, 89.6F);
-    EXPECT_EQ(near.ed.Links[1].Res1, 3000);
-    for (std::size_t j = 1; j <= 3; ++j) EXPECT_EQ(near.ed.Links[j].Res4, 100 + 200 * static_cast<int>(j));
+    EXPECT_EQ(near.ed.Links[1].DiscX, 3000);
+    for (std::size_t j = 1; j <= 3; ++j) EXPECT_EQ(near.ed.Links[j].DiscY, 100 + 200 * static_cast<int>(j));
     const Desk outside = withStrip(-50, 1e30F, 360);
-    EXPECT_EQ(outside.ed.Links[1].Res4, 300);
-    EXPECT_EQ(outside.ed.Links[3].Res4, 500) << "beyond the end stacks at the end";
+    EXPECT_EQ(outside.ed.Links[1].DiscY, 300);
+    EXPECT_EQ(outside.ed.Links[3].DiscY, 500) << "beyond the end stacks at the end";
 }
 
 TEST(PhaseManager, DragsSnapAndClamp) {
@@ -230,7 +230,8 @@ TEST(PhaseManager, DragsSnapAndClamp) {
     ed.buttons.snap = true;
     for (const auto& [x, angle] :
          {std::pair{1240.F, 0.F}, {1260.F, 22.5F}, {99999.F, 360.F}, {-500.F, 0.F}}) {
-        picPhase_MouseDown(ed, 1, static_cast<float>(ed.Links[1].Res1), static_cast<float>(ed.Links[1].Res4));
+        picPhase_MouseDown(ed, 1, static_cast<float>(ed.Links[1].DiscX),
+                           static_cast<float>(ed.Links[1].DiscY));
         EXPECT_EQ(ed.SelectedLink, 1);
         picPhase_MouseMove(ed, x, 300);
         picPhase_MouseUp(ed);

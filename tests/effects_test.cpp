@@ -22,7 +22,7 @@ struct Shooter : testing::Test {
 
     Shooter() {
         scenes::addNodes(ed, {{1300, 1000}, {1000, 1000}});
-        nodeAt(ed, 1).Res1 = 0;
+        nodeAt(ed, 1).Trigger = 0;
         ed.buttons.ball = false;  // a redraw then leaves the trigger alone
         ed.Timer1.enabled = true;
         ed.SelectedNode = 1;
@@ -40,17 +40,17 @@ TEST_F(Shooter, FiresByTheGlobalSettingsOrAwayFromItsTrigger) {
     EXPECT_EQ(placesOf(ed, 3), "1300,1000 ");
     EXPECT_NEAR(ball->Vx, 5673, 1);
     EXPECT_NEAR(ball->Vy, -5640, 1);
-    EXPECT_EQ(ball->Res1, none);
+    EXPECT_EQ(ball->Trigger, none);
     EXPECT_EQ(ed.SelectedNode, 1);
     EXPECT_EQ(ed.LastShooter, 1);
-    nodeAt(ed, 1).Res1 = 2;
+    nodeAt(ed, 1).Trigger = 2;
     ed.marks.mnuCannonBallFocus = true;
     ball = fire();
     EXPECT_EQ(ball->Vx, 3000);
     EXPECT_NEAR(ball->Vy, 0, 0.1);
     EXPECT_EQ(ed.SelectedNode, 4);
-    nodeAt(ed, 1).Res1 = 900;  // no such trigger
-    ball = fire();             // the last shooter again
+    nodeAt(ed, 1).Trigger = 900;  // no such trigger
+    ball = fire();                // the last shooter again
     EXPECT_NEAR(ball->Vx, 5673, 1);
 }
 
@@ -62,10 +62,10 @@ TEST_F(Shooter, LooksForItsTriggerUntilItHasALink) {
     freed.Used = false;
     for (const Link& link : {freed, hanging, loop}) appendLink(ed, link);
     DisplayScene(ed, -1, -1);
-    EXPECT_EQ(nodeAt(ed, 1).Res1, 0);
+    EXPECT_EQ(nodeAt(ed, 1).Trigger, 0);
     scenes::addLinks(ed, {{2, 1}, {1, 3}});
     DisplayScene(ed, -1, -1);
-    EXPECT_EQ(nodeAt(ed, 1).Res1, 2);
+    EXPECT_EQ(nodeAt(ed, 1).Trigger, 2);
     EXPECT_TRUE(nodeAt(ed, 2).Locked);
     const std::vector<std::int32_t> triggers = triggerNodes(ed);
     EXPECT_EQ(triggers, (std::vector<std::int32_t>{0, 2, 1, 3}));
@@ -74,7 +74,7 @@ TEST_F(Shooter, LooksForItsTriggerUntilItHasALink) {
 
 TEST_F(Shooter, FiresNothingWhenItCannot) {
     addNode(ed, 0, 0);
-    ed.Nodes.back().Res1 = 0;
+    ed.Nodes.back().Trigger = 0;
     ed.Nodes.back().Used = false;
     ed.SelectedNode = 2;  // no shooter
     EXPECT_FALSE(fire());
@@ -93,7 +93,7 @@ TEST_F(Shooter, FiresNothingWhenItCannot) {
 TEST_F(Shooter, AChainFiresFromItsEnd) {
     for (const std::int32_t trigger : {1, 3, 2}) {
         addNode(ed, 3000, 3000);
-        ed.Nodes.back().Res1 = trigger;
+        ed.Nodes.back().Trigger = trigger;
     }
     const Node* ball = fire();  // 1 triggers 3, 3 triggers 4; 5 belongs to node 2
     ASSERT_TRUE(ball);

@@ -44,8 +44,8 @@ void initialVelocities(Editor& ed) {
     }
 }
 
-void drive(const Editor& ed, Node& n1, Node& n2) {
-    const double S = f64(ed.RotationScale), R1 = f64(n1.Rotate), R2 = f64(n2.Rotate);
+void drive(Node& n1, Node& n2) {
+    const double S = 1000, R1 = f64(n1.Rotate), R2 = f64(n2.Rotate);
     const float dx = f32(static_cast<double>(n1.X) - n2.X);
     const float dy = f32(static_cast<double>(n1.Y) - n2.Y);
     if (std::fabs(dx) < 50) {
@@ -173,7 +173,7 @@ bool wall(Editor& ed, std::int32_t i, int side, double line) {
     }
     markConnected(ed, i);
     for (Node& n : ed.Nodes) {
-        if (!n.Used || !n.Res3 || !beyond(n)) continue;
+        if (!n.Used || !n.Marked || !beyond(n)) continue;
         n.X = toInt(line);
         turn(ed, n);
     }
@@ -246,10 +246,10 @@ void stop(Editor& ed, const std::string& problem) {
 void putNodesBack(Editor& ed, const std::vector<Node>& before) {
     for (std::size_t i = 0; i < before.size(); ++i) {
         const std::int32_t color = ed.Nodes[i].color;
-        const bool mark = ed.Nodes[i].Res3;
+        const bool mark = ed.Nodes[i].Marked;
         ed.Nodes[i] = before[i];
         ed.Nodes[i].color = color;
-        ed.Nodes[i].Res3 = mark;
+        ed.Nodes[i].Marked = mark;
     }
 }
 
@@ -271,8 +271,7 @@ void step(Editor& ed) {
     if (ed.marks.mnuDisplayAngleManager && toInt(f64(ed.AnimationTime) / dt) % 100 != 0)
         DrawPhaseManager(ed, ed.AnimationTime);
     showClock(ed);
-    forEachLink(ed,
-                [&](std::int32_t, const Link& link) { drive(ed, nodeAt(ed, link.N1), nodeAt(ed, link.N2)); });
+    forEachLink(ed, [&](std::int32_t, const Link& link) { drive(nodeAt(ed, link.N1), nodeAt(ed, link.N2)); });
     forEachLink(
         ed, [&](std::int32_t, Link& link) { spring(ed, link, nodeAt(ed, link.N1), nodeAt(ed, link.N2)); });
     std::string problem;
@@ -302,18 +301,18 @@ void step(Editor& ed) {
 }
 
 void markConnected(Editor& ed, std::int32_t start) {
-    for (Node& n : ed.Nodes) n.Res3 = false;
-    for (Link& link : ed.Links) link.Res3 = false;
-    nodeAt(ed, start).Res3 = true;
+    for (Node& n : ed.Nodes) n.Marked = false;
+    for (Link& link : ed.Links) link.Marked = false;
+    nodeAt(ed, start).Marked = true;
     std::deque<std::int32_t> queue{start};
     for (; !queue.empty(); queue.pop_front()) {
         const std::int32_t h = queue.front();
         forEachLink(ed, [&](std::int32_t, Link& link) {
             if (link.N1 != h && link.N2 != h) return;
             const std::int32_t other = link.N1 == h ? link.N2 : link.N1;
-            link.Res3 = true;
-            if (nodeAt(ed, other).Res3) return;
-            nodeAt(ed, other).Res3 = true;
+            link.Marked = true;
+            if (nodeAt(ed, other).Marked) return;
+            nodeAt(ed, other).Marked = true;
             queue.push_back(other);
         });
     }

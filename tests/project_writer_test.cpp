@@ -14,13 +14,13 @@ namespace {
 
 auto everyField(const Link& l) {
     return std::tie(l.Used, l.N1, l.N2, l.RestLength, l.CurrentLength, l.k, l.Animator, l.Angle, l.Force,
-                    l.Barrier, l.Res1, l.Res2, l.Res3, l.Res4, l.Res5, l.Res6);
+                    l.Barrier, l.DiscX, l.Res2, l.Marked, l.DiscY, l.Res5, l.Res6);
 }
 
 auto everyField(const Node& n) {
     return std::tie(n.Used, n.X, n.Y, n.Vx, n.Vy, n.Fx, n.Fy, n.Mass, n.Locked, n.JustReleased,
-                    n.BeingDragged, n.Gravity, n.Vxo, n.Vyo, n.Rotate, n.Sprite, n.color, n.Res1, n.Res2,
-                    n.Res3, n.Res4, n.Res5, n.Res6, n.Res7, n.Res8);
+                    n.BeingDragged, n.Gravity, n.Vxo, n.Vyo, n.Rotate, n.Sprite, n.color, n.Trigger, n.Res2,
+                    n.Marked, n.Res4, n.Res5, n.Res6, n.Res7, n.Res8);
 }
 
 Project readBack(const Editor& ed) {
@@ -72,10 +72,10 @@ TEST(ProjectWriter, RoundTripKeepsEverySlotAndField) {
     ed.Nodes = {Node{}, node, Node{}, node, Node{}};
     ed.Nodes[3].Used = false;
     ed.Nodes[3].Locked = false, ed.Nodes[3].JustReleased = true, ed.Nodes[3].BeingDragged = false;
-    ed.Nodes[3].Res3 = false, ed.Nodes[3].Res7 = false;
+    ed.Nodes[3].Marked = false, ed.Nodes[3].Res7 = false;
     const Link link{true, 3, -4, 1.25F, 2.5F, 3, true, 359.5F, 0.3F, false, 5, 6, true, 7, 8, false};
     ed.Links = {Link{}, Link{}, link, Link{}, link};
-    ed.Links[4].Animator = false, ed.Links[4].Barrier = true, ed.Links[4].Res3 = false,
+    ed.Links[4].Animator = false, ed.Links[4].Barrier = true, ed.Links[4].Marked = false,
     ed.Links[4].Res6 = true;
 
     const Project project = readBack(ed);

@@ -76,7 +76,7 @@ void addNodes(Editor& ed, Dice& dice, std::int32_t count) {
         n.Vxo = dice.real(-400, 400);
         n.Vyo = dice.real(-3, 3);
         n.Rotate = dice.percent(driving) ? dice.real(-2, 2) : 0;
-        n.Res1 = dice.percent(95) ? none : dice.between(-2, count + 2);
+        n.Trigger = dice.percent(95) ? none : dice.between(-2, count + 2);
         appendNode(ed, n);
     }
 }

@@ -53,8 +53,8 @@ TEST(Readout, PressedButtonsFollowWhateverChangesTheSelected) {
     EXPECT_FALSE(ed.Links[1].Barrier);
     ed.Links[1].Animator = ed.buttons.animator = true;
     desk.ed.marks.mnuDisplayAngleManager = true;
-    picPhase_MouseDown(ed, leftButton, static_cast<float>(ed.Links[1].Res1),
-                       static_cast<float>(ed.Links[1].Res4));
+    picPhase_MouseDown(ed, leftButton, static_cast<float>(ed.Links[1].DiscX),
+                       static_cast<float>(ed.Links[1].DiscY));
     picPhase_DblClick(ed);
     EXPECT_FALSE(ed.buttons.animator);
 }
@@ -63,7 +63,7 @@ TEST(Readout, FireWhileStoppedShowsTheShooterItSelects) {
     Desk desk = withPair();
     Editor& ed = desk.ed;
     ed.Nodes[3].Locked = true;
-    ed.Nodes[3].Res1 = 0;
+    ed.Nodes[3].Trigger = 0;
     ed.LastShooter = 3;
     DisplayScene(ed, -1, -1);
     ed.sceneStale = false;
@@ -90,11 +90,11 @@ TEST(Readout, TheStripFollowsLoadsDeletionsAndColours) {
     ed.savedText = "strip";
     desk.host.colour = 255;
     const auto follows = [&](auto act, const char* what) {
-        for (Link& link : ed.Links) link.Res1 = 0;
+        for (Link& link : ed.Links) link.DiscX = 0;
         ed.phaseStale = false;
         act();
         EXPECT_TRUE(ed.phaseStale) << what;
-        return ed.Links[1].Res1 == 3000;
+        return ed.Links[1].DiscX == 3000;
     };
     EXPECT_TRUE(follows([&] { desk.press("refresh"); }, "reload"));
     EXPECT_TRUE(follows([&] { lstSaved_Click(ed, desk.host, 0); }, "choice from the list"));

@@ -2,6 +2,7 @@
 
 #include "display/scene.h"
 
+#include "display/lettering.h"
 #include "display/path.h"
 #include "display/phase_strip.h"
 #include "display/stamp.h"
@@ -67,7 +68,7 @@ struct Probe {
 TEST(Scene, EveryLayerShowsWhereItsSwitchesSay) {
     const auto nothing = [](Editor&) {};
     const auto locked = [](std::int32_t trigger) {
-        return [trigger](Editor& ed) { ed.Nodes[1].Locked = true, ed.Nodes[1].Res1 = trigger; };
+        return [trigger](Editor& ed) { ed.Nodes[1].Locked = true, ed.Nodes[1].Trigger = trigger; };
     };
     // As a mark of node 1, or with the node's gravity or lock.
     const auto selected = [](bool Buttons::*off, float gravity = 0, bool isLocked = false) {
@@ -124,7 +125,7 @@ TEST(Scene, EveryLayerShowsWhereItsSwitchesSay) {
         {"shooter without trigger: no barrel", locked(0), 1215, 1500, paper},
         {"barrel, away from the trigger", locked(2), 1215, 1500, green},
         {"trigger that does not exist", locked(99), 1215, 1500, paper},
-        {"unlocked shooter is a circle", [](Editor& ed) { ed.Nodes[1].Res1 = 2; }, 1635, 1635, paper},
+        {"unlocked shooter is a circle", [](Editor& ed) { ed.Nodes[1].Trigger = 2; }, 1635, 1635, paper},
         {"gravity dot", [](Editor& ed) { ed.Nodes[1].Gravity = -1; }, 1500, 1500, yellow},
         {"gravity dot is half as wide", [](Editor& ed) { ed.Nodes[1].Gravity = 1; }, 1500, 1600, fill},
         {"selected node, balls off", selected(&Buttons::ball), 1500, 1600, red},
@@ -208,6 +209,50 @@ TEST(Stamps, LookLikeShapesDrawnOneByOne) {
             }
 }
 
+TEST(Stamps, KeepMoreColoursApartThanTheyKeepPictures) {
+    QImage image = blankImage(15000, 3000, 1);
+    QPainter painter(&image);
+    const Canvas canvas(painter, 15000, 3000);
+    Stamp stamp(canvas, Shape::square, 60);
+    const auto place = [](int n) { return QPointF(105 + n % 70 * 210, 105 + n / 70 * 210); };
+    const auto colour = [](int n) { return n * 7919 % 0xFFFFFF; };
+    for (int n = 0; n < 700; ++n) {
+        const int again = n < 350 ? n : n % 19;  // many, then few
+        stamp.paint(place(n).x(), place(n).y(), colour(again), colour(again + 1 + n % 2));
+    }
+    for (int n = 0; n < 700; ++n) {
+        const int again = n < 350 ? n : n % 19;
+        EXPECT_EQ(at(image, place(n).x(), place(n).y()), colour(again)) << n;
+        EXPECT_EQ(at(image, place(n).x() + 60, place(n).y()), colour(again + 1 + n % 2)) << n;
+    }
+}
+
+TEST(Lettering, NumbersByGroupsLookLikeDigitsOneByOne) {
+    for (const double ratio : {1.0, 2.0})
+        for (const QColor ground : {QColor(Qt::white), QColor(Qt::magenta)}) {
+            QImage grouped = blankImage(2400, 600, ratio);
+            grouped.fill(ground);
+            QImage single = grouped;
+            QPainter onGrouped(&grouped), onSingle(&single);
+            for (QPainter* painter : {&onGrouped, &onSingle}) painter->scale(1 / ratio, 1 / ratio);
+            Lettering& letters = lettering(ratio, black, white);
+            const std::string text = " 7 42 817 9058172633 ";
+            letters.print(onGrouped, {10, 10}, text);
+            letters.print(onSingle, {10, 10}, text + "    .");  // with a letter in it, it is no number
+            const int end = static_cast<int>(10 + letters.width(text));
+            int apart = 0, inked = 0;
+            for (int y = 0; y < single.height(); ++y)
+                for (int x = 0; x < end; ++x) {
+                    const int a = single.pixelColor(x, y).green(), b = grouped.pixelColor(x, y).green();
+                    inked += single.pixelColor(x, y).red() < 128;
+                    apart += std::abs(a - b) > 4;
+                }
+            EXPECT_GT(inked, 100) << ratio;
+            // Where groups meet, a few pixels of one halo are missing; on a ground of its colour nothing is.
+            EXPECT_LE(apart, ground == QColor(Qt::white) ? 0 : 40 * ratio * ratio) << ratio;
+        }
+}
+
 TEST(Scene, PlacesAndSizesOfAnyMagnitudeArePaintable) {
     constexpr auto least = std::numeric_limits<std::int32_t>::min();
     constexpr auto most = std::numeric_limits<std::int32_t>::max();
@@ -218,7 +263,7 @@ TEST(Scene, PlacesAndSizesOfAnyMagnitudeArePaintable) {
         for (const std::int32_t y : corners) {
             const std::int32_t i = scenes::addNode(ed, x, y);
             nodeAt(ed, i).Locked = i % 2 == 0;
-            nodeAt(ed, i).Res1 = i % 4 == 0 ? i - 1 : none;
+            nodeAt(ed, i).Trigger = i % 4 == 0 ? i - 1 : none;
             nodeAt(ed, i).Gravity = 1;
             Link& link = linkAt(ed, scenes::addLink(ed, i - 1, i));
             link.Barrier = i % 3 == 0;

@@ -2,6 +2,8 @@
 
 #include "model/store.h"
 
+#include "edit/compact.h"
+
 #include "model/connected.h"
 #include "plain_step.h"
 #include "random_model.h"
@@ -95,8 +97,8 @@ TEST(Connected, MarksWhatThePlainSearchMarks) {
             plain::markConnected(expected, start);
             std::int32_t from = start;
             MarkConnectedNodes(ed, from, none);  // on top of the marks of the last search
-            ASSERT_EQ(flags(ed.Nodes, &Node::Res3), flags(expected.Nodes, &Node::Res3)) << seed;
-            ASSERT_EQ(flags(ed.Links, &Link::Res3), flags(expected.Links, &Link::Res3)) << seed;
+            ASSERT_EQ(flags(ed.Nodes, &Node::Marked), flags(expected.Nodes, &Node::Marked)) << seed;
+            ASSERT_EQ(flags(ed.Links, &Link::Marked), flags(expected.Links, &Link::Marked)) << seed;
         }
     }
 }
@@ -108,11 +110,11 @@ TEST_F(Store, AnObjectIsFoundFromItsLinkWhenNoNodeIsGiven) {
     std::int32_t node = none;
     MarkConnectedNodes(ed, node, 2);
     EXPECT_EQ(node, 1);
-    EXPECT_EQ(flags(ed.Nodes, &Node::Res3) + flags(ed.Links, &Link::Res3), "11100110");
+    EXPECT_EQ(flags(ed.Nodes, &Node::Marked) + flags(ed.Links, &Link::Marked), "11100110");
     for (const auto& [from, link] : {std::pair{none, none}, {none, 0}, {none, 77}, {77, none}}) {
         node = from;
         MarkConnectedNodes(ed, node, link);
-        EXPECT_EQ(flags(ed.Nodes, &Node::Res3) + flags(ed.Links, &Link::Res3), "00000000");
+        EXPECT_EQ(flags(ed.Nodes, &Node::Marked) + flags(ed.Links, &Link::Marked), "00000000");
     }
 }
 

@@ -145,8 +145,9 @@ void frmMain::showRecord() {
     panels_.show(ed_.panels);
     showLayout();
     showTimers();
-    if (std::exchange(ed_.sceneStale, false)) picS_->pacer.request();
-    if (std::exchange(ed_.phaseStale, false)) picPhase_->pacer.request();
+    if (std::exchange(ed_.sceneStale, false)) picS_->showRecord();
+    if (std::exchange(ed_.marksStale, false)) picS_->pacer.request();
+    if (std::exchange(ed_.phaseStale, false)) picPhase_->showRecord();
     if (frmPath_->isVisible()) frmPath_->pacer.request();
 }
 

@@ -11,6 +11,7 @@
 #include "history/history.h"
 #include "history/timeline.h"
 #include "model/editor.h"
+#include "model/pointing.h"
 #include "ui/menus.h"
 #include "ui/time_travel.h"
 
@@ -111,6 +112,17 @@ private:
     void follow(Procedure procedure) {
         if (host_.isAsking()) return;
         procedure(ed_, host_);
+        picS_->recordChanged();
+        picPhase_->recordChanged();
+        showRecord();
+    }
+    // Runs what the pointer does that drags nothing.
+    template <class Procedure>
+    void point(Procedure procedure) {
+        if (host_.isAsking()) return;
+        const Pointing pointing(ed_);
+        procedure(ed_, host_);
+        pointing.end(ed_, picS_->isCurrent(), picPhase_->isCurrent());
         showRecord();
     }
 

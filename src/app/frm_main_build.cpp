@@ -5,6 +5,7 @@
 #include "edit/mouse.h"
 #include "effects/fireworks.h"
 #include "model/redraw.h"
+#include "model/store.h"
 #include "project/library.h"
 #include "sim/run.h"
 #include "ui/layout.h"
@@ -170,7 +171,7 @@ void frmMain::connectViews() {
             if (ed_.MouseIsDown || ed_.PhaseDragging)
                 run(Event::mouse, what, move);
             else
-                follow(move);  // pointing alone costs nothing
+                point(move);
         };
         mouse.up = [this, what, release](int b, float x, float y) {
             run(Event::mouse, what, [&](Editor& ed, Host&) { release(ed, b, x, y); });

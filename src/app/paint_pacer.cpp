@@ -19,21 +19,21 @@ int refreshPeriod(const QWidget& widget) {
 PaintPacer::PaintPacer(QWidget& widget) : widget_(widget) {
     next_.setSingleShot(true);
     next_.setTimerType(Qt::PreciseTimer);
-    connect(&next_, &QTimer::timeout, this, &PaintPacer::repaint);
+    connect(&next_, &QTimer::timeout, this, &PaintPacer::request);  // there may be a paint since
+}
+
+qint64 PaintPacer::wait() const {
+    if (!told_.isValid()) return 0;
+    const qint64 refresh = refreshPeriod(widget_) - told_.elapsed();
+    if (!painted_.isValid()) return refresh;
+    constexpr qint64 longest = 100;  // milliseconds from paint to paint
+    return std::max(refresh, std::min(lastPaint_, longest - lastPaint_) - painted_.elapsed());
 }
 
 void PaintPacer::request() {
     if (next_.isActive()) return;
-    const int period = refreshPeriod(widget_);
-    const qint64 waited = last_.isValid() ? last_.elapsed() : period;
-    if (waited >= period)
-        repaint();
-    else
-        next_.start(static_cast<int>(period - waited));
-}
-
-void PaintPacer::repaint() {
-    last_.start();
+    if (const qint64 rest = wait(); rest > 0) return next_.start(static_cast<int>(rest));
+    told_.start();
     widget_.update();
 }
 

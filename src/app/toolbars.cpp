@@ -15,6 +15,8 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <algorithm>
+#include <span>
+#include <utility>
 
 namespace zentrik {
 
@@ -77,10 +79,22 @@ void setTip(QToolButton& button, const QString& tip) {
     button.setAccessibleName(tip);
 }
 
-// Two separators in a row close one group.
-void closeGroup(QToolBar& bar, bool& open) {
-    if (open) bar.addSeparator();
-    open = false;
+// Fills a bar from its table: buttons as add places them, groups between separators, two of which in a row
+// close one, and the list once where the rows leave room.
+template <class Row, class Add>
+void build(QToolBar& bar, std::span<const Row> rows, QWidget& list, Add add) {
+    bool groupOpen = false, roomTaken = false;
+    for (const Row& row : rows) {
+        if (row.style == ButtonStyle::separator) {
+            if (std::exchange(groupOpen, false)) bar.addSeparator();
+            continue;
+        }
+        groupOpen = true;
+        if (row.isButton())
+            add(row, *makeButton(row.key, row.pressed != nullptr, bar));
+        else if (!std::exchange(roomTaken, true))
+            bar.addWidget(&list);
+    }
 }
 
 void fill(QComboBox& list, const std::vector<std::string>& names) {
@@ -107,26 +121,15 @@ Toolbars::Toolbars(QWidget& window)
 }
 
 void Toolbars::buildCommands() {
-    bool groupOpen = false, roomTaken = false;
-    for (const CommandRow& row : commandRows()) {
-        if (row.style == ButtonStyle::separator) {
-            closeGroup(*Toolbar1, groupOpen);
-        } else if (row.style == ButtonStyle::room) {
-            if (!roomTaken) Toolbar1->addWidget(lstSaved);
-            roomTaken = true;
-        } else {
-            QToolButton* button = makeButton(row.key, row.pressed != nullptr, *Toolbar1);
-            setTip(*button, row.tip);
-            QObject::connect(button, &QToolButton::clicked, Toolbar1, [this, &row] { commandPressed(row); });
-            Toolbar1->addWidget(button);
-            commands_.push_back({&row, button});
-        }
-        groupOpen |= row.style != ButtonStyle::separator;
-    }
+    build(*Toolbar1, commandRows(), *lstSaved, [this](const CommandRow& row, QToolButton& button) {
+        setTip(button, row.tip);
+        QObject::connect(&button, &QToolButton::clicked, Toolbar1, [this, &row] { commandPressed(row); });
+        Toolbar1->addWidget(&button);
+        commands_.push_back({&row, &button});
+    });
 }
 
 void Toolbars::buildProperties() {
-    bool groupOpen = false, roomTaken = false;
     const auto filler = [this] {
         auto* empty = new QWidget(Toolbar2);
         empty->setFixedWidth(0);
@@ -135,26 +138,16 @@ void Toolbars::buildProperties() {
     };
     lstSprites->setFixedWidth(smallList);
     fillers_ = {filler(), lstSprites, nullptr};
-    for (const PropertyRow& row : propertyRows()) {
+    build(*Toolbar2, propertyRows(), *lstSprites, [&](const PropertyRow& row, QToolButton& button) {
         if (row.owner == Owner::link && fillers_[2] == nullptr) fillers_[2] = filler();
-        if (row.style == ButtonStyle::separator) {
-            closeGroup(*Toolbar2, groupOpen);
-        } else if (row.style == ButtonStyle::room) {
-            if (!roomTaken) Toolbar2->addWidget(lstSprites);
-            roomTaken = true;
-        } else {
-            QToolButton* button = makeButton(row.key, row.pressed != nullptr, *Toolbar2);
-            QObject::connect(button, &QToolButton::clicked, Toolbar2, [this, &row] { propertyPressed(row); });
-            const bool dropDown = row.style == ButtonStyle::dropDown;
-            if (dropDown) addPresets(*button, row);
-            button->setIconSize({smallIcon, smallIcon});
-            const int arrow = row.owner == Owner::global ? globalArrowWidth : arrowWidth;
-            button->setFixedSize(smallButton + (dropDown ? arrow : 0), height - 4);
-            QAction* place = Toolbar2->addWidget(button);
-            properties_.push_back({&row, button, place});
-        }
-        groupOpen |= row.style != ButtonStyle::separator;
-    }
+        QObject::connect(&button, &QToolButton::clicked, Toolbar2, [this, &row] { propertyPressed(row); });
+        const bool dropDown = row.style == ButtonStyle::dropDown;
+        if (dropDown) addPresets(button, row);
+        button.setIconSize({smallIcon, smallIcon});
+        const int arrow = row.owner == Owner::global ? globalArrowWidth : arrowWidth;
+        button.setFixedSize(smallButton + (dropDown ? arrow : 0), height - 4);
+        properties_.push_back({&row, &button, Toolbar2->addWidget(&button)});
+    });
 }
 
 void Toolbars::addPresets(QToolButton& button, const PropertyRow& row) {

@@ -65,9 +65,37 @@ SceneView::SceneView(const Editor& ed, QWidget* parent) : DrawingView(ed, parent
 }
 
 void SceneView::paintEvent(QPaintEvent*) {
+    pacer.measure([this] { paintScene(); });
+}
+
+void SceneView::paintScene() {
     sprites.setRatio(devicePixelRatioF());
     QPainter painter(this);
-    drawScene(painter, ed_, sprites);
+    if (ed_.Timer1.enabled || ed_.MouseIsDown) {
+        under_ = over_ = QPixmap();
+        return drawScene(painter, ed_, sprites);
+    }
+    if (!current_ || under_.size() != size() * devicePixelRatioF()) keepLayers();
+    painter.drawPixmap(0, 0, under_);
+    drawMarksAndBand(Canvas(painter, ed_.sceneWidth, ed_.sceneHeight), ed_);
+    if (!over_.isNull()) painter.drawPixmap(0, 0, over_);
+}
+
+void SceneView::keepLayers() {
+    const auto layer = [this](QColor ground, auto draw) {
+        QPixmap picture(size() * devicePixelRatioF());
+        picture.setDevicePixelRatio(devicePixelRatioF());
+        picture.fill(ground);
+        QPainter painter(&picture);
+        draw(Canvas(painter, ed_.sceneWidth, ed_.sceneHeight));
+        return picture;
+    };
+    under_ = layer(colorOf(ed_.BackColor), [this](const Canvas& canvas) { drawUnderMarks(canvas, ed_); });
+    over_ = QPixmap();
+    if (anythingOverMarks(ed_))
+        over_ =
+            layer(Qt::transparent, [this](const Canvas& canvas) { drawOverMarks(canvas, ed_, sprites); });
+    current_ = true;
 }
 
 PhaseView::PhaseView(const Editor& ed, QWidget* parent) : DrawingView(ed, parent) {
@@ -76,8 +104,11 @@ PhaseView::PhaseView(const Editor& ed, QWidget* parent) : DrawingView(ed, parent
 }
 
 void PhaseView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    drawPhaseStrip(painter, ed_);
+    pacer.measure([this] {
+        QPainter painter(this);
+        drawPhaseStrip(painter, ed_);
+    });
+    current_ = true;
 }
 
 }  // namespace zentrik

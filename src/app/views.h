@@ -6,6 +6,7 @@
 #include "display/sprites.h"
 #include "model/editor.h"
 
+#include <QPixmap>
 #include <QWidget>
 #include <functional>
 
@@ -26,8 +27,17 @@ public:
     MouseCalls mouse;
     PaintPacer pacer;
 
+    // Whether it shows the record as it is, but for what the pointer alone changes.
+    bool isCurrent() const { return current_; }
+    void recordChanged() { current_ = false; }
+    void showRecord() {
+        current_ = false;
+        pacer.request();
+    }
+
 protected:
     const Editor& ed_;
+    bool current_ = false;
 
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -45,6 +55,13 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    // What lies under and over the marks of a scene at rest; nothing while it moves.
+    QPixmap under_, over_;
+
+    void paintScene();
+    void keepLayers();
 };
 
 // picPhase

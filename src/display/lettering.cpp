@@ -5,6 +5,8 @@
 #include <QFontMetricsF>
 #include <QPainterPath>
 #include <QPen>
+#include <algorithm>
+#include <list>
 
 namespace zentrik {
 
@@ -32,6 +34,15 @@ std::int32_t mixed(std::int32_t from, std::int32_t to, int eighths) {
     return color;
 }
 
+// The part of a picture that is not transparent.
+QRect inked(const QImage& image) {
+    QRect found;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qAlpha(image.pixel(x, y)) != 0) found |= QRect(x, y, 1, 1);
+    return found;
+}
+
 constexpr double haloReach = 0.14;  // of the font's size
 
 void strokeHalo(QPainter& painter, QPointF baseline, const QFont& font, const QString& text, QColor paper) {
@@ -50,6 +61,7 @@ QFont sceneFont(double ratio, double size, bool bold) {
     QFont font;
     font.setFamilies({"Arial", "Liberation Sans", "Nimbus Sans", "DejaVu Sans"});
     font.setStyleHint(QFont::SansSerif);
+    font.setStyleStrategy(QFont::NoSubpixelAntialias);    // alike on every layer of the scene
     font.setHintingPreference(QFont::PreferFullHinting);  // whole-pixel advances: even spacing
     font.setPixelSize(static_cast<int>(std::lround(size * 96 / 72 * ratio)));
     font.setBold(bold);
@@ -120,8 +132,15 @@ const Lettering::Letter& Lettering::letter(char c) {
     return made;
 }
 
-// All halos first, so that none covers its neighbour's ink.
 void Lettering::print(QPainter& painter, QPointF topLeft, std::string_view text) {
+    if (text.find_first_not_of(" 0123456789") == std::string_view::npos)
+        printNumber(painter, topLeft, text);
+    else
+        printLetters(painter, topLeft, text);
+}
+
+// All halos first, so that none covers its neighbour's ink.
+void Lettering::printLetters(QPainter& painter, QPointF topLeft, std::string_view text) {
     for (const auto part : {&Letter::halo, &Letter::ink}) {
         QPointF corner = topLeft;
         for (const char c : text) {
@@ -133,10 +152,70 @@ void Lettering::print(QPainter& painter, QPointF topLeft, std::string_view text)
     }
 }
 
+// A picture costs about the same whether it holds one digit or three, halo and ink or one of them.
+void Lettering::printNumber(QPainter& painter, QPointF topLeft, std::string_view text) {
+    bool first = true;
+    for (QPointF corner = topLeft; !text.empty();) {
+        const std::string_view digits = text.substr(0, std::min(text.find(' '), longestGroup));
+        if (digits.empty()) {
+            corner.rx() += letter(' ').advance;
+            text.remove_prefix(1);
+            first = true;
+            continue;
+        }
+        const Picture& picture = digitsPicture(digits, first);
+        painter.drawImage(corner.toPoint() + picture.offset, picture.image);
+        corner.rx() += picture.advance;
+        text.remove_prefix(digits.size());
+        first = false;
+    }
+}
+
+// Behind other digits the halo's left edge is cut off, which would cover their ink.
+const Lettering::Picture& Lettering::digitsPicture(std::string_view digits, bool first) {
+    std::size_t place = first ? 1 : 2;  // tells numbers apart by their length and by where they stand
+    for (const char c : digits) place = place * 10 + static_cast<std::size_t>(c - '0');
+    Picture& picture = digits_[place];
+    if (!picture.image.isNull()) return picture;
+    QRect box;
+    QPointF corner;
+    for (const char c : digits) {
+        const Letter& made = letter(c);
+        for (const Picture* part : {&made.halo, &made.ink})
+            box |= QRect(corner.toPoint() + part->offset, part->image.size());
+        corner.rx() += made.advance;
+    }
+    if (!first) box.setLeft(0);
+    picture = {box.topLeft(), QImage(box.size(), QImage::Format_ARGB32_Premultiplied), corner.x()};
+    picture.image.fill(Qt::transparent);
+    QPainter painter(&picture.image);
+    printLetters(painter, -box.topLeft(), digits);
+    painter.end();
+    const QRect ink = inked(picture.image);
+    picture.image = picture.image.copy(ink);
+    picture.offset += ink.topLeft();
+    return picture;
+}
+
 double Lettering::width(std::string_view text) {
     double sum = 0;
     for (const char c : text) sum += letter(c).advance;
     return sum;
+}
+
+Lettering& lettering(double ratio, std::int32_t ink, std::int32_t paper) {
+    struct Kept {
+        double ratio;
+        std::int32_t ink, paper;
+        Lettering letters;
+    };
+    constexpr std::size_t most = 8;
+    static thread_local std::list<Kept> kept;
+    for (Kept& it : kept)
+        if (it.ratio == ratio && it.ink == ink && it.paper == paper) return it.letters;
+    if (kept.size() == most) kept.pop_front();
+    kept.push_back({ratio, ink, paper, Lettering(sceneFont(ratio), ink, paper)});
+    return kept.back().letters;
 }
 
 }  // namespace zentrik

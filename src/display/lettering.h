@@ -10,6 +10,7 @@
 #include <QString>
 #include <array>
 #include <string_view>
+#include <vector>
 
 namespace zentrik {
 
@@ -26,8 +27,8 @@ std::int32_t legibleInk(std::int32_t ink, std::int32_t paper);
 void drawHaloText(QPainter& painter, QPointF baseline, const QFont& font, const QString& text, QColor ink,
                   QColor paper);
 
-// Stamps texts letter by letter from pictures made once per letter. Characters outside printable ASCII
-// leave a gap as wide as a blank.
+// Stamps texts from pictures made once: letter by letter, numbers by groups of digits. Characters outside
+// printable ASCII leave a gap as wide as a blank.
 class Lettering {
 public:
     Lettering(const QFont& font, std::int32_t ink, std::int32_t paper);
@@ -40,6 +41,7 @@ private:
     struct Picture {
         QPoint offset;  // from the letter's top-left corner
         QImage image;
+        double advance = 0;  // of a group of digits
     };
     struct Letter {
         bool made = false;
@@ -47,11 +49,21 @@ private:
         Picture halo, ink;
     };
     const Letter& letter(char c);
+    void printLetters(QPainter& painter, QPointF topLeft, std::string_view text);
+    void printNumber(QPainter& painter, QPointF topLeft, std::string_view text);
+    const Picture& digitsPicture(std::string_view digits, bool first);
 
     QFont font_;
     QColor ink_, paper_;
     double ascent_;
     std::array<Letter, 127> letters_;
+    // Groups of digits: of numbers up to 999 as well as in longer ones, by their digits behind a 1 or a 2.
+    static constexpr std::size_t longestGroup = 3;
+    std::vector<Picture> digits_ = std::vector<Picture>(3000);
 };
+
+// The lettering of the scene's font that is kept for these colours. Pictures of letters look alike in every
+// frame; those of the eight sets used last are kept.
+Lettering& lettering(double ratio, std::int32_t ink, std::int32_t paper);
 
 }  // namespace zentrik

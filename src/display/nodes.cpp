@@ -34,11 +34,11 @@ void drawBarrel(NodeStamps& stamps, const Editor& ed, const Node& shooter) {
 void drawNode(NodeStamps& stamps, const Editor& ed, const Node& node) {
     if (!node.Locked) {
         stamps.circle.paint(node.X, node.Y, node.color, black);
-    } else if (node.Res1 == none) {
+    } else if (node.Trigger == none) {
         stamps.square.paint(node.X, node.Y, node.color, black);
     } else {
         stamps.shooter.paint(node.X, node.Y, node.color, black);
-        if (nodeExists(ed, node.Res1)) drawBarrel(stamps, ed, node);
+        if (nodeExists(ed, node.Trigger)) drawBarrel(stamps, ed, node);
     }
     stamps.gravityDot(node);
 }

@@ -2,6 +2,7 @@
 
 #include "display/lettering.h"
 #include "display/stamp.h"
+#include "model/angles.h"
 #include "model/store.h"
 
 #include <QPolygonF>
@@ -22,7 +23,7 @@ void verticalLine(const Canvas& canvas, double x, double top, int width, std::in
 }
 
 void drawAxis(const Canvas& canvas, double unit) {
-    Lettering letters(sceneFont(canvas.ratio), labelInk, paper);
+    Lettering& letters = lettering(canvas.ratio, labelInk, paper);
     for (const int end : {1, 9}) verticalLine(canvas, end * unit, 0, 4, axisInk);
     for (int i = 1; i <= 8; ++i) {
         if (i > 1) verticalLine(canvas, i * unit, 200, 1, gridInk);
@@ -37,18 +38,18 @@ bool hasDisc(const Editor& ed, std::int32_t j) {
 
 void drawDiscs(const Canvas& canvas, const Editor& ed) {
     Stamp disc(canvas, Shape::circle, discRadius);
-    Lettering letters(sceneFont(canvas.ratio), black, paper);
+    Lettering& letters = lettering(canvas.ratio, black, paper);
     for (std::int32_t j = 1; j <= lastLink(ed); ++j) {
         if (!hasDisc(ed, j)) continue;
         const Link& link = linkAt(ed, j);
-        disc.paint(link.Res1, link.Res4, ed.NodeColor, black);
-        if (link.Res4 > ed.phaseHeight) continue;
-        letters.print(canvas.painter, canvas.place(link.Res1, link.Res4), " " + std::to_string(j));
+        disc.paint(link.DiscX, link.DiscY, ed.NodeColor, black);
+        if (link.DiscY > ed.phaseHeight) continue;
+        letters.print(canvas.painter, canvas.place(link.DiscX, link.DiscY), " " + std::to_string(j));
     }
     // A link that is no longer animated still answers the pointer where its disc was last.
     const auto again = [&](std::int32_t j, std::int32_t fill) {
         if (!linkExists(ed, j) || !linkAt(ed, j).Used) return;
-        disc.paint(linkAt(ed, j).Res1, linkAt(ed, j).Res4, fill, black);
+        disc.paint(linkAt(ed, j).DiscX, linkAt(ed, j).DiscY, fill, black);
     };
     again(ed.SelectedAnimatorLink, blue);
     again(ed.PhaseOverLink, white);
@@ -59,7 +60,7 @@ void drawSineCurve(const Canvas& canvas, const Editor& ed, double unit) {
     QPolygonF points;
     for (int d = 0; d <= 360; ++d) {
         const double x = 0.8 * ed.phaseWidth / 360 * (360 - d) + unit;
-        const double y = (1 - std::sin(6.28 / 360 * d + ed.phaseShift)) * (ed.phaseHeight - 60) / 2;
+        const double y = (1 - std::sin(curveTurn / 360 * d + ed.phaseShift)) * (ed.phaseHeight - 60) / 2;
         points.append({canvas.pixels(x), canvas.pixels(y)});
     }
     QColor faint = colorOf(red);

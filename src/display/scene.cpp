@@ -6,18 +6,15 @@
 #include "display/overlays.h"
 
 #include <QFontMetricsF>
-#include <map>
 
 namespace zentrik {
 
 namespace {
 
 void drawPage(const Canvas& canvas, const TextPage& page, std::int32_t paper) {
-    const QFont font = sceneFont(canvas.ratio);
-    std::map<std::int32_t, Lettering> letterings;  // by colour
     for (const TextRun& run : page.runs)
-        letterings.try_emplace(run.color, font, run.color, paper)
-            .first->second.print(canvas.painter, {canvas.pixels(run.x), canvas.pixels(run.y)}, run.text);
+        lettering(canvas.ratio, run.color, paper)
+            .print(canvas.painter, {canvas.pixels(run.x), canvas.pixels(run.y)}, run.text);
 }
 
 void drawTitle(const Canvas& canvas, const Editor& ed, std::int32_t ink) {
@@ -31,27 +28,48 @@ void drawTitle(const Canvas& canvas, const Editor& ed, std::int32_t ink) {
                  colorOf(ed.BackColor));
 }
 
+bool spritesShown(const Editor& ed) {
+    return ed.buttons.sprite && (ed.drawnRunning || ed.marks.mnuAllowSprites);
+}
+
 }  // namespace
 
-void drawScene(QPainter& painter, const Editor& ed, const SpritePictures& sprites) {
-    const Canvas canvas(painter, ed.sceneWidth, ed.sceneHeight);
-    painter.fillRect(canvas.frame, colorOf(ed.BackColor));
+void drawUnderMarks(const Canvas& canvas, const Editor& ed) {
+    canvas.painter.fillRect(canvas.frame, colorOf(ed.BackColor));
     if (ed.sceneBlank) return;
-
-    const bool running = ed.drawnRunning;
-    if (!running || ed.marks.mnuAllowGrid) DisplayGrid(canvas, ed);
+    if (!ed.drawnRunning || ed.marks.mnuAllowGrid) DisplayGrid(canvas, ed);
     if (ed.buttons.line) drawLinks(canvas, ed);
     if (ed.buttons.activeline) drawAnimatedLinks(canvas, ed);
     if (ed.buttons.ball) drawNodes(canvas, ed);
+}
+
+void drawMarksAndBand(const Canvas& canvas, const Editor& ed) {
+    if (ed.sceneBlank) return;
     drawMarks(canvas, ed);
     drawRubberBand(canvas, ed);
+}
 
+void drawOverMarks(const Canvas& canvas, const Editor& ed, const SpritePictures& sprites) {
+    if (ed.sceneBlank) return;
     const double lineHeight = sceneLineHeight();
     const TextPage overlays = overlayPage(ed, lineHeight);
     drawPage(canvas, overlays, ed.BackColor);
     if (ed.marks.mnuDisplayTitle) drawTitle(canvas, ed, overlays.color);
-    if (ed.buttons.sprite && (running || ed.marks.mnuAllowSprites)) ShowImages(canvas, ed, sprites);
+    if (spritesShown(ed)) ShowImages(canvas, ed, sprites);
     if (ed.instructionsShown) drawPage(canvas, instructionsPage(ed, lineHeight), ed.BackColor);
+}
+
+bool anythingOverMarks(const Editor& ed) {
+    const Buttons& pressed = ed.buttons;
+    return pressed.numbers || pressed.data || pressed.simple || ed.marks.mnuDisplayTitle ||
+           spritesShown(ed) || ed.instructionsShown;
+}
+
+void drawScene(QPainter& painter, const Editor& ed, const SpritePictures& sprites) {
+    const Canvas canvas(painter, ed.sceneWidth, ed.sceneHeight);
+    drawUnderMarks(canvas, ed);
+    drawMarksAndBand(canvas, ed);
+    drawOverMarks(canvas, ed, sprites);
 }
 
 }  // namespace zentrik

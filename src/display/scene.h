@@ -1,4 +1,5 @@
 #pragma once
+#include "display/canvas.h"
 #include "display/sprites.h"
 #include "model/editor.h"
 
@@ -9,5 +10,13 @@ namespace zentrik {
 // Paints the whole scene, layer by layer, from the painter's origin; window, screenshots and tests use
 // the same procedure. Changes nothing in the record: what a redraw changes is done by DisplayScene.
 void drawScene(QPainter& painter, const Editor& ed, const SpritePictures& sprites);
+
+// The same in three parts, one over the other: the marks of selection and hovering with the rubber band lie
+// between what stays while the pointer moves over a still scene.
+void drawUnderMarks(const Canvas& canvas, const Editor& ed);
+void drawMarksAndBand(const Canvas& canvas, const Editor& ed);
+void drawOverMarks(const Canvas& canvas, const Editor& ed, const SpritePictures& sprites);
+// False where drawOverMarks would draw nothing.
+bool anythingOverMarks(const Editor& ed);
 
 }  // namespace zentrik

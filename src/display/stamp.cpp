@@ -47,11 +47,10 @@ void Stamp::paint(double x, double y, std::int32_t fill, std::int32_t outline) {
         return;
     }
     if (weights_.isNull()) makeWeights();
-    if (coloured_.isNull() || fill != fill_ || outline != outline_) colour(fill, outline);
     const int half = weights_.width() / 2;
     canvas_.painter.drawImage(QPoint(static_cast<int>(std::floor(centre.x())) - half,
                                      static_cast<int>(std::floor(centre.y())) - half),
-                              coloured_);
+                              picture(fill, outline));
 }
 
 void Stamp::makeWeights() {
@@ -63,13 +62,31 @@ void Stamp::makeWeights() {
               QColor(0, 255, 0));
 }
 
-void Stamp::colour(std::int32_t fill, std::int32_t outline) {
-    fill_ = fill;
-    outline_ = outline;
-    const QRgb in = colorOf(fill).rgb(), rim = colorOf(outline).rgb();
-    if (coloured_.isNull()) coloured_ = QImage(weights_.size(), weights_.format());
+// A colour has a few places where its picture may be kept; when others have them all, the first one yields.
+const QImage& Stamp::picture(std::int32_t fill, std::int32_t outline) {
+    constexpr std::size_t places = 4;
+    const std::uint32_t mixed =
+        (static_cast<std::uint32_t>(fill) ^ static_cast<std::uint32_t>(outline) << 4) * 0x9E3779B1U;
+    const std::size_t first = mixed >> 26;
+    static_assert(std::tuple_size_v<decltype(kept_)> == 1 << (32 - 26));
+    for (std::size_t n = 0; n < places; ++n) {
+        Coloured& kept = kept_[(first + n) % kept_.size()];
+        const bool fresh = kept.image.isNull();
+        if (!fresh && (kept.fill != fill || kept.outline != outline)) continue;
+        if (fresh) colour(kept = {fill, outline, QImage(weights_.size(), weights_.format())});
+        return kept.image;
+    }
+    Coloured& kept = kept_[first];
+    kept.fill = fill;
+    kept.outline = outline;
+    colour(kept);
+    return kept.image;
+}
+
+void Stamp::colour(Coloured& coloured) const {
+    const QRgb in = colorOf(coloured.fill).rgb(), rim = colorOf(coloured.outline).rgb();
     const auto* from = reinterpret_cast<const QRgb*>(weights_.constBits());
-    auto* to = reinterpret_cast<QRgb*>(coloured_.bits());
+    auto* to = reinterpret_cast<QRgb*>(coloured.image.bits());
     std::transform(from, from + weights_.width() * weights_.height(), to, [&](QRgb weight) {
         const int fillPart = qRed(weight), rimPart = qGreen(weight), coverage = qAlpha(weight);
         // Rounding must not lift a premultiplied part above the coverage: blending would overflow.

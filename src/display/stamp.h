@@ -1,12 +1,13 @@
 #pragma once
 // Filled circles and squares with an outline, drawn by the ten thousand. A shape is drawn once, as a
-// picture of weights (how much fill and how much outline each pixel holds), and coloured from there:
-// recolouring costs about as much as stamping, so even a random colour for every node and frame stays
-// cheap, and no pictures pile up.
+// picture of weights (how much fill and how much outline each pixel holds), and coloured from there. The
+// pictures of some colours are kept; colouring one costs a few times as much as stamping it, so even a
+// random colour for every node and frame stays bearable, and no pictures pile up.
 
 #include "display/canvas.h"
 
 #include <QImage>
+#include <array>
 
 namespace zentrik {
 
@@ -26,16 +27,21 @@ public:
     void paint(double x, double y, std::int32_t fill, std::int32_t outline);
 
 private:
+    struct Coloured {
+        std::int32_t fill = 0, outline = 0;
+        QImage image;
+    };
+
     void makeWeights();
-    void colour(std::int32_t fill, std::int32_t outline);
+    const QImage& picture(std::int32_t fill, std::int32_t outline);
+    void colour(Coloured& to) const;
 
     const Canvas& canvas_;
     const Shape shape_;
     const double radius_;  // device pixels
     const double reach_;   // from the centre to beyond the outline, device pixels
     QImage weights_;       // red: fill, green: outline, alpha: coverage
-    QImage coloured_;
-    std::int32_t fill_ = 0, outline_ = 0;
+    std::array<Coloured, 64> kept_;
 };
 
 }  // namespace zentrik

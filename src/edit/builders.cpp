@@ -1,9 +1,11 @@
 #include "edit/builders.h"
 
 #include "edit/command.h"
+#include "model/angles.h"
 #include "model/grid.h"
 #include "model/host.h"
 #include "model/numbers.h"
+#include "model/redraw.h"
 #include "model/store.h"
 
 #include <algorithm>
@@ -13,7 +15,6 @@ namespace zentrik {
 
 namespace {
 
-constexpr double fullTurn = 6.283;  // radians
 constexpr float spokeK = 2, spokeForce = 0.2F;
 
 struct RingParameters {
@@ -54,7 +55,7 @@ bool askParameters(Editor& ed, Host& host, const std::string& title, RingParamet
 Ring appendRing(Editor& ed, const RingParameters& size) {
     const Ring ring{size, ed.SelectedNode, lastNode(ed)};
     const double centreX = nodeAt(ed, ring.centre).X, centreY = nodeAt(ed, ring.centre).Y;
-    const float step = toReal(fullTurn / size.nodes);
+    const float step = toReal(ringTurn / size.nodes);
     for (std::int32_t m = 1; m <= size.nodes; ++m) {
         const double angle = static_cast<double>(step) * (m - 1);
         const float x = toReal(size.radius * std::sin(angle) + centreX);
@@ -137,7 +138,7 @@ void build(Editor& ed, Host& host, const RingBuilder& builder) {
     if (builder.rim) builder.rim(ed, ring);
     if (builder.spokes) builder.spokes(ed, ring);
     selectCreated(ed, ring.node(size.nodes));
-    redrawStripAndScene(ed);
+    redrawModel(ed);
     panel(ed, 5) = builder.message + std::to_string(size.nodes) + " : " + std::to_string(size.radius) + ")";
 }
 
@@ -167,7 +168,7 @@ void mnuCreateNodeAtMidpoint_Click(Editor& ed, Host& host) {
         appendLink(ed, half);
     }
     selectCreated(ed, node);
-    redrawStripAndScene(ed);
+    redrawModel(ed);
     panel(ed, 5) = "Node added to center of selected link!";
 }
 

@@ -2,7 +2,9 @@
 
 #include "edit/command.h"
 #include "model/host.h"
+#include "model/no_doubles.h"
 #include "model/numbers.h"
+#include "model/questions.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
@@ -107,6 +109,7 @@ constexpr BulkCommand commands[] = {
      "Object links removed!", "All links removed!"},
 };
 // clang-format on
+static_assert(!anyShared(commands, [](const BulkCommand& row) { return std::string_view(row.name); }));
 
 // A misspelled name does not compile.
 consteval const BulkCommand& command(std::string_view name) {
@@ -119,10 +122,10 @@ void change(Editor& ed, const BulkCommand& row, Scope scope, float value) {
     const bool all = scope == Scope::all;
     if (row.changeLink)
         for (std::int32_t j = 1; j <= lastLink(ed); ++j)
-            if (all || linkAt(ed, j).Res3) row.changeLink(linkAt(ed, j), value);
+            if (all || linkAt(ed, j).Marked) row.changeLink(linkAt(ed, j), value);
     if (row.changeNode)
         for (std::int32_t i = 1; i <= lastNode(ed); ++i)
-            if (all || nodeAt(ed, i).Res3) row.changeNode(nodeAt(ed, i), scope);
+            if (all || nodeAt(ed, i).Marked) row.changeNode(nodeAt(ed, i), scope);
 }
 
 void finish(Editor& ed, Deselect deselect, Strip strip) {
@@ -154,10 +157,8 @@ void run(Editor& ed, Host& host, const BulkCommand& row) {
 }
 
 void ask(Editor& ed, Host& host, const BulkCommand& row, const char* prompt, const char* title) {
-    const std::string answer = host.numberBox(prompt, title, realText(ed.*row.setting));
-    if (answer.empty()) return;
-    const double value = leadingNumber(answer);
-    run(ed, host, row, toReal(value), realText(value));
+    const auto value = askNumber(host, prompt, title, realText(ed.*row.setting));
+    if (value) run(ed, host, row, toReal(*value), realText(*value));
 }
 
 // The closing message of a command made of others.
@@ -204,13 +205,13 @@ void mnuRemoveNodes_Click(Editor& ed, Host& host) { run(ed, host, command("mnuRe
 void mnuRemoveLinks_Click(Editor& ed, Host& host) { run(ed, host, command("mnuRemoveLinks")); }
 
 void mnuRemoveFreeNodes_Click(Editor& ed, Host&) {
-    for (std::int32_t i = 1; i <= lastNode(ed); ++i) nodeAt(ed, i).Res3 = true;
+    for (std::int32_t i = 1; i <= lastNode(ed); ++i) nodeAt(ed, i).Marked = true;
     for (const Link& link : ed.Links) {
         if (!link.Used) continue;
         for (const std::int32_t end : {link.N1, link.N2})
-            if (nodeExists(ed, end)) nodeAt(ed, end).Res3 = false;
+            if (nodeExists(ed, end)) nodeAt(ed, end).Marked = false;
     }
-    forEachNode(ed, [](std::int32_t, Node& node) { node.Used = !node.Res3; });
+    forEachNode(ed, [](std::int32_t, Node& node) { node.Used = !node.Marked; });
     panel(ed, 5) = "All free nodes removed!";
     finish(ed, Deselect::everything, Strip::redraw);
 }

@@ -3,7 +3,6 @@
 #include "model/connected.h"
 #include "model/host.h"
 #include "model/readout.h"
-#include "model/redraw.h"
 #include "model/store.h"
 
 namespace zentrik {
@@ -38,12 +37,6 @@ void selectCreated(Editor& ed, std::int32_t node) {
     ed.SelectedLink = none;
     ed.HoverLink = none;
     DisplayNodeData(ed, node);
-}
-
-void redrawStripAndScene(Editor& ed) {
-    redrawPhaseManager(ed, ed.AnimationTime);
-    showCounts(ed);
-    DisplayScene(ed, -1, -1);
 }
 
 void refuse(Editor& ed, Host& host, const std::string& message) {

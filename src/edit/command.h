@@ -14,7 +14,7 @@ inline constexpr const char* selectNodeMessage = "Select a node to execute this 
 // True when a node, or a link with its first end, is selected that is there.
 bool objectSelected(const Editor& ed);
 
-// Marks the selected object in the Res3 fields; a link selected without a node makes its first end the
+// Marks the selected object as Marked; a link selected without a node makes its first end the
 // selected node. False, with nothing marked anew, when nothing is selected.
 bool markSelectedObject(Editor& ed);
 
@@ -24,9 +24,6 @@ Link* usedSelectedLink(Editor& ed);
 
 // Makes a node just created the selection.
 void selectCreated(Editor& ed, std::int32_t node);
-
-// The phase strip, if shown, the counts, then the scene.
-void redrawStripAndScene(Editor& ed);
 
 // A prerequisite is missing: says so in status panel 5 and beeps.
 void refuse(Editor& ed, Host& host, const std::string& message);

@@ -4,6 +4,7 @@
 #include "edit/hit.h"
 #include "model/connected.h"
 #include "model/numbers.h"
+#include "model/redraw.h"
 #include "model/store.h"
 
 namespace zentrik {
@@ -23,7 +24,7 @@ std::int32_t appendShiftedCopy(Editor& ed, std::int32_t i) {
 std::vector<std::int32_t> copyMarkedNodes(Editor& ed) {
     std::vector<std::int32_t> copies(ed.Nodes.size(), 0);
     for (std::int32_t i = 1; i < static_cast<std::int32_t>(copies.size()); ++i)
-        if (nodeAt(ed, i).Used && nodeAt(ed, i).Res3)
+        if (nodeAt(ed, i).Used && nodeAt(ed, i).Marked)
             copies[static_cast<std::size_t>(i)] = appendShiftedCopy(ed, i);
     return copies;
 }
@@ -37,7 +38,7 @@ std::vector<std::int32_t> shiftedEnds(const Editor& ed, const std::vector<std::i
     std::vector<PointF> points;
     for (std::size_t i = 1; i < copies.size(); ++i) {
         const Node& node = ed.Nodes[i];
-        if (!node.Res3) continue;
+        if (!node.Marked) continue;
         marked.push_back(i);
         points.push_back({toReal(static_cast<double>(node.X) + ed.GridSize),
                           toReal(static_cast<double>(node.Y) + ed.GridSize)});
@@ -54,7 +55,7 @@ void copyMarkedLinks(Editor& ed, const std::vector<std::int32_t>& ends) {
     const std::int32_t last = lastLink(ed);
     for (std::int32_t j = 1; j <= last; ++j) {
         Link link = linkAt(ed, j);
-        if (!link.Used || !link.Res3 || !endsExist(ed, link)) continue;
+        if (!link.Used || !link.Marked || !endsExist(ed, link)) continue;
         link.N1 = ends[static_cast<std::size_t>(link.N1)];
         link.N2 = ends[static_cast<std::size_t>(link.N2)];
         if (link.N1 != 0 && link.N2 != 0) appendLink(ed, link);
@@ -65,21 +66,21 @@ void copyMarkedLinks(Editor& ed, const std::vector<std::int32_t>& ends) {
 
 void ConvertObjectToBarrier(Editor& ed, Host& host) {
     if (markSelectedObject(ed)) {
-        for (Link& link : ed.Links) link.Barrier = link.Barrier || link.Res3;
-        for (Node& node : ed.Nodes) node.Locked = node.Locked || node.Res3;
+        for (Link& link : ed.Links) link.Barrier = link.Barrier || link.Marked;
+        for (Node& node : ed.Nodes) node.Locked = node.Locked || node.Marked;
         panel(ed, 5) = "Object converted to barrier!";
     } else {
         refuse(ed, host, selectNodeMessage);
     }
     ed.SelectedNode = none;
     ed.HoverNode = none;
-    redrawStripAndScene(ed);
+    redrawModel(ed);
 }
 
 void mnuDuplicateNode_Click(Editor& ed, Host& host) {
     if (!usedSelectedNode(ed)) return refuse(ed, host, selectFirst);
     selectCreated(ed, appendShiftedCopy(ed, ed.SelectedNode));
-    redrawStripAndScene(ed);
+    redrawModel(ed);
     panel(ed, 5) = "Duplicate node created!";
 }
 
@@ -89,7 +90,7 @@ void mnuDuplicateObject_Click(Editor& ed, Host& host) {
     const std::vector<std::int32_t> copies = copyMarkedNodes(ed);
     copyMarkedLinks(ed, shiftedEnds(ed, copies));
     selectCreated(ed, lastNode(ed));
-    redrawStripAndScene(ed);
+    redrawModel(ed);
     panel(ed, 5) = "Duplicate object created!";
 }
 
@@ -109,7 +110,7 @@ void mnuCreateRoad_Click(Editor& ed, Host& host) {
     appendLink(ed, Link{});  // a road takes as many link slots as nodes
     ed.SelectedNode = lastNode(ed);
     ConvertObjectToBarrier(ed, host);
-    redrawStripAndScene(ed);
+    redrawModel(ed);
     panel(ed, 5) = "Road Barrier Created";
 }
 

@@ -25,7 +25,7 @@ struct Box {
 Box boundingBox(const Editor& ed, Target target) {
     Box box{toReal(ed.sceneWidth), 0, toReal(ed.sceneHeight), 0};
     forEachNode(ed, [&](std::int32_t, const Node& node) {
-        if (target == Target::object && !node.Res3) return;
+        if (target == Target::object && !node.Marked) return;
         const double X = node.X, Y = node.Y;
         if (X < box.minX) box.minX = toReal(X);
         if (X > box.maxX) box.maxX = toReal(X);
@@ -45,7 +45,7 @@ template <class Move>
 void moveNodes(Editor& ed, Target target, Move move) {
     for (std::int32_t i = 1; i <= lastNode(ed); ++i) {
         Node& node = nodeAt(ed, i);
-        if (target == Target::project || (node.Used && node.Res3)) move(node);
+        if (target == Target::project || (node.Used && node.Marked)) move(node);
     }
 }
 
@@ -53,7 +53,7 @@ void moveNodes(Editor& ed, Target target, Move move) {
 void keepShape(Editor& ed, Target target) {
     for (std::int32_t j = 1; j <= lastLink(ed); ++j) {
         Link& link = linkAt(ed, j);
-        if (target == Target::object && !link.Res3) continue;
+        if (target == Target::object && !link.Marked) continue;
         if (endsExist(ed, link)) link.RestLength = link.CurrentLength = linkLength(ed, link);
     }
 }
@@ -109,7 +109,7 @@ void moveProject(Editor& ed, int dx, int dy) {
     const double step = ed.GridSize;
     for (std::int32_t i = 1; i <= lastNode(ed); ++i) {
         Node& node = nodeAt(ed, i);
-        if (!whole && !node.Res3) continue;
+        if (!whole && !node.Marked) continue;
         node.X = toInt(node.X + dx * step);
         node.Y = toInt(node.Y + dy * step);
     }

@@ -1,5 +1,6 @@
 #include "effects/fireworks.h"
 
+#include "model/angles.h"
 #include "model/numbers.h"
 #include "model/redraw.h"
 #include "model/store.h"
@@ -32,7 +33,7 @@ std::int32_t between(Editor& ed, double extent, double from, double to) {
 Burst addBurst(Editor& ed, Point centre, bool scattered) {
     ed.chance.reseed();
     Burst burst{wholePart(ed.chance.next() * 51.0 + 10), 0};
-    const double step = toReal(6.283 / burst.sparks);
+    const double step = toReal(ringTurn / burst.sparks);
     for (std::int32_t m = 0; m < burst.sparks; ++m) {
         if (scattered) burst.radius = wholePart(static_cast<double>(ed.chance.next()) * scatter);
         const double sine = std::sin(step * m), cosine = std::cos(step * m);
@@ -61,9 +62,7 @@ void timerFireWorks_Timer(Editor& ed) {
     Burst last;
     if (ed.FireworksTicks % 5 == 0) last = addBurst(ed, centre, true);
     if (ed.FireworksTicks % 2 != 0) last = addBurst(ed, centre, false);
-    redrawPhaseManager(ed, ed.AnimationTime);
-    showCounts(ed);
-    DisplayScene(ed, -1, -1);
+    redrawModel(ed);
     panel(ed, 5) =
         "Node ring created (" + std::to_string(last.sparks) + " : " + std::to_string(last.radius) + ")";
 }

@@ -1,7 +1,9 @@
 #include "effects/shooter.h"
 
+#include "model/angles.h"
 #include "model/host.h"
 #include "model/numbers.h"
+#include "model/questions.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/shooter_aim.h"
@@ -14,13 +16,13 @@ namespace zentrik {
 namespace {
 
 bool isShooter(const Editor& ed, std::int32_t i) {
-    return nodeExists(ed, i) && nodeAt(ed, i).Used && nodeAt(ed, i).Res1 != none;
+    return nodeExists(ed, i) && nodeAt(ed, i).Used && nodeAt(ed, i).Trigger != none;
 }
 
 // Shooters may stand in a chain, each the trigger of the next; the last of them fires.
 std::int32_t endOfChain(const Editor& ed, std::int32_t shooter) {
     forEachNode(ed, [&](std::int32_t j, const Node& node) {
-        if (node.Res1 == shooter) shooter = j;
+        if (node.Trigger == shooter) shooter = j;
     });
     return shooter;
 }
@@ -29,9 +31,9 @@ std::int32_t endOfChain(const Editor& ed, std::int32_t shooter) {
 void launch(const Editor& ed, const Node& shooter, Node& ball) {
     double speed = ed.ShooterVelocity;
     double angle = ed.ShooterDirection;
-    if (nodeExists(ed, shooter.Res1)) {
-        const double dx = static_cast<double>(shooter.X) - nodeAt(ed, shooter.Res1).X;
-        const double dy = static_cast<double>(shooter.Y) - nodeAt(ed, shooter.Res1).Y;
+    if (nodeExists(ed, shooter.Trigger)) {
+        const double dx = static_cast<double>(shooter.X) - nodeAt(ed, shooter.Trigger).X;
+        const double dy = static_cast<double>(shooter.Y) - nodeAt(ed, shooter.Trigger).Y;
         speed = toReal(10 * std::sqrt(dx * dx + dy * dy));
         angle = barrelAngle(ed, shooter);
     }
@@ -58,24 +60,20 @@ void mnuFire_Click(Editor& ed, Host&) {
     const std::int32_t fired = appendNode(ed, ball);
     if (ed.marks.mnuCannonBallFocus) ed.SelectedNode = fired;
     DisplayNodeData(ed, ed.SelectedNode);
-    redrawPhaseManager(ed, ed.AnimationTime);
-    showCounts(ed);
-    DisplayScene(ed, -1, -1);
+    redrawModel(ed);
 }
 
 void mnuShooterDirection_Click(Editor& ed, Host& host) {
-    const std::string answer =
-        host.numberBox("Enter shooter direction (0-360 degrees).", "Set Shooter Direction",
-                       fixedText(static_cast<double>(ed.ShooterDirection) * 57.296, 1));
-    const double degrees = leadingNumber(answer);
-    if (!answer.empty() && degrees >= 0 && degrees <= 360) ed.ShooterDirection = toReal(degrees * 0.01745);
+    const auto degrees = askNumber(host, "Enter shooter direction (0-360 degrees).", "Set Shooter Direction",
+                                   fixedText(ed.ShooterDirection * radiansToDegrees, 1));
+    if (degrees && *degrees >= 0 && *degrees <= 360)
+        ed.ShooterDirection = toReal(*degrees * degreesToRadians);
 }
 
 void mnuShooterVelocity_Click(Editor& ed, Host& host) {
-    const std::string answer =
-        host.numberBox("Enter shooter velocity.", "Set Shooter Velocity", realText(ed.ShooterVelocity));
-    const double velocity = leadingNumber(answer);
-    if (!answer.empty() && velocity > -30000 && velocity <= 30000) ed.ShooterVelocity = toReal(velocity);
+    const auto velocity =
+        askNumber(host, "Enter shooter velocity.", "Set Shooter Velocity", realText(ed.ShooterVelocity));
+    if (velocity && *velocity > -30000 && *velocity <= 30000) ed.ShooterVelocity = toReal(*velocity);
 }
 
 }  // namespace zentrik

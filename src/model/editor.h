@@ -51,6 +51,8 @@ struct Timer {
 
 struct PointF {
     float x = 0, y = 0;  // twips
+
+    bool operator==(const PointF&) const = default;
 };
 
 struct PathDot {
@@ -88,7 +90,6 @@ struct Editor {
     // Run state.
     float AnimationTime = 0;
     std::int32_t TimeDirection = 1;
-    float RotationScale = 1000;
     std::int32_t Cycles = 0, LastShooter = 0, FireworksTicks = 0;
     bool SingleStep = false, InitialVelocityPending = false;
     Timer Timer1{false, 20}, timerFireWorks{false, 500};
@@ -99,7 +100,6 @@ struct Editor {
     std::int32_t HoverNode = none, HoverLink = none;
     std::int32_t SelectedAnimatorLink = none, PhaseOverLink = none;
     bool MouseIsDown = false, DrawMode = false, SelectedNodeClicked = false, PhaseDragging = false;
-    float PhaseGridStep = 22.5F;  // degrees
 
     // What the controls show.
     Marks marks;
@@ -124,6 +124,7 @@ struct Editor {
     // What waits to be painted.
     bool sceneStale = true, phaseStale = true;
     bool drawnRunning = false;         // the last redraw was one of the running animation
+    bool marksStale = false;           // of the scene only its marks and the rubber band
     bool sceneBlank = false;           // cleared to the background until the next redraw
     bool instructionsShown = false;    // likewise, on top of the scene
     std::optional<PointF> rubberBand;  // free end of the link being drawn

@@ -11,7 +11,7 @@ namespace {
 
 void showStates(Editor& ed, const Node& node) {
     ed.buttons.locked = node.Locked;
-    ed.buttons.shooter = node.Res1 != none;
+    ed.buttons.shooter = node.Trigger != none;
 }
 
 void showStates(Editor& ed, const Link& link) {

@@ -33,9 +33,9 @@ struct alignas(64) Node {
     std::string Sprite;
     std::int32_t SpriteIndex = 0;  // place in the sprite list; not stored in files
     std::int32_t color = 0;        // red + 256 * green + 65536 * blue
-    std::int32_t Res1 = 0;         // trigger node of a shooter; -1 = no shooter
+    std::int32_t Trigger = 0;      // node of a shooter; -1 = no shooter
     float Res2 = 0;
-    bool Res3 = false;  // object mark
+    bool Marked = false;  // of the object that a command works on
     std::string Res4;
     std::int32_t Res5 = 0;
     float Res6 = 0;
@@ -55,10 +55,10 @@ struct alignas(64) Link {
     float Angle = 0;          // animator phase, degrees
     float Force = 0;          // animator amplitude, fraction of the rest length
     bool Barrier = false;     // deflects nodes
-    std::int32_t Res1 = 0;    // x of its disc in the phase strip, twips
+    std::int32_t DiscX = 0;   // place of its disc in the phase strip, twips
     float Res2 = 0;
-    bool Res3 = false;      // object mark
-    std::int32_t Res4 = 0;  // y of its disc in the phase strip, twips
+    bool Marked = false;  // of the object that a command works on
+    std::int32_t DiscY = 0;
     float Res5 = 0;
     bool Res6 = false;
 };
@@ -70,15 +70,15 @@ concept RecordLike = std::same_as<std::remove_const_t<T>, Record>;
 
 auto meaningOf(RecordLike<Node> auto& n) {
     return std::tie(n.Used, n.X, n.Y, n.Vx, n.Vy, n.Fx, n.Fy, n.Mass, n.Locked, n.Gravity, n.Vxo, n.Vyo,
-                    n.Rotate, n.Sprite, n.SpriteIndex, n.color, n.Res1, n.Res2, n.Res4, n.Res5, n.Res6,
+                    n.Rotate, n.Sprite, n.SpriteIndex, n.color, n.Trigger, n.Res2, n.Res4, n.Res5, n.Res6,
                     n.Res7, n.Res8);
 }
-auto tracesOf(RecordLike<Node> auto& n) { return std::tie(n.JustReleased, n.BeingDragged, n.Res3); }
+auto tracesOf(RecordLike<Node> auto& n) { return std::tie(n.JustReleased, n.BeingDragged, n.Marked); }
 
 auto meaningOf(RecordLike<Link> auto& l) {
     return std::tie(l.Used, l.N1, l.N2, l.RestLength, l.CurrentLength, l.k, l.Animator, l.Angle, l.Force,
                     l.Barrier, l.Res2, l.Res5, l.Res6);
 }
-auto tracesOf(RecordLike<Link> auto& l) { return std::tie(l.Res1, l.Res3, l.Res4); }
+auto tracesOf(RecordLike<Link> auto& l) { return std::tie(l.DiscX, l.Marked, l.DiscY); }
 
 }  // namespace zentrik

@@ -1,5 +1,6 @@
 #include "model/redraw.h"
 
+#include "model/angles.h"
 #include "model/grid.h"
 #include "model/numbers.h"
 #include "model/readout.h"
@@ -18,20 +19,20 @@ void aimShooters(Editor& ed) {
     std::vector<std::int32_t> triggers;
     forEachNode(ed, [&](std::int32_t i, Node& node) {
         if (!takesAim(node)) return;
-        if (node.Res1 == 0) {
+        if (node.Trigger == 0) {
             if (triggers.empty()) triggers = triggerNodes(ed);
-            node.Res1 = triggers[static_cast<std::size_t>(i)];
+            node.Trigger = triggers[static_cast<std::size_t>(i)];
         }
-        if (!nodeExists(ed, node.Res1)) return;
-        nodeAt(ed, node.Res1).Locked = true;
-        panel(ed, 1) = fixedText(barrelAngle(ed, node) * 57.296, 1);
+        if (!nodeExists(ed, node.Trigger)) return;
+        nodeAt(ed, node.Trigger).Locked = true;
+        panel(ed, 1) = fixedText(barrelAngle(ed, node) * radiansToDegrees, 1);
     });
 }
 
 }  // namespace
 
-void DisplayScene(Editor& ed, float PX, float PY, bool anyTakesAim) {
-    if (ed.buttons.ball && anyTakesAim) aimShooters(ed);
+void DisplayScene(Editor& ed, float PX, float PY) {
+    if (ed.buttons.ball) aimShooters(ed);
     ed.rubberBand.reset();
     if (PX >= 0 && PY >= 0 && ed.DrawMode && ed.SelectedNode != none)
         ed.rubberBand = PointF{SnapToGrid(ed, PX), SnapToGrid(ed, PY)};
@@ -51,9 +52,9 @@ void DrawPhaseManager(Editor& ed, float time) {
     const double width = ed.phaseWidth;
     forEachLink(ed, [&](std::int32_t, Link& link) {
         if (!link.Animator) return;
-        link.Res1 = toInt(link.Angle * 0.8 * width / 360 + 0.1 * width);
+        link.DiscX = toInt(link.Angle * 0.8 * width / 360 + 0.1 * width);
         auto& height = stack[static_cast<std::size_t>(std::clamp(toInt(link.Angle), 0, 360))];
-        link.Res4 = height * 200 + 300;
+        link.DiscY = height * 200 + 300;
         ++height;
     });
     ed.phaseShift = toReal(static_cast<double>(ed.DeltaAngle) * time);
@@ -64,14 +65,19 @@ void redrawPhaseManager(Editor& ed, float time) {
     if (ed.marks.mnuDisplayAngleManager) DrawPhaseManager(ed, time);
 }
 
+void redrawStripAndScene(Editor& ed) {
+    redrawPhaseManager(ed, ed.AnimationTime);
+    DisplayScene(ed, -1, -1);
+}
+
+void redrawModel(Editor& ed) {
+    showCounts(ed);
+    redrawStripAndScene(ed);
+}
+
 void DisplayOnscreenInstructions(Editor& ed) {
     ed.instructionsShown = true;
     ed.sceneStale = true;
-}
-
-void clearPath(Editor& ed) {
-    ed.pathDots.clear();
-    ++ed.pathErased;
 }
 
 void showClock(Editor& ed) { panel(ed, 4) = "Time: " + clockText(ed.AnimationTime); }

@@ -8,22 +8,23 @@ namespace zentrik {
 
 // The full redraw of the scene. PX, PY: the pointer in twips from mouse handlers, -1, -1 from every
 // other caller. Locks the trigger nodes of shooters, enables the property toolbar's groups and presses their
-// buttons, shows the clock, and marks the scene stale. anyTakesAim: false where the caller has just seen that
-// no node does, which saves looking at all of them.
-void DisplayScene(Editor& ed, float PX, float PY, bool anyTakesAim = true);
+// buttons, shows the clock, and marks the scene stale.
+void DisplayScene(Editor& ed, float PX, float PY);
 
-// Lays every animated link's disc out in the phase strip (into the link's Res1, Res4) and shifts the
+// Lays every animated link's disc out in the phase strip (into the link's DiscX, DiscY) and shifts the
 // strip's sine curve by the phase that the animators have at a time of the clock. Angles outside 0 to 360
 // stack at the nearer end.
 void DrawPhaseManager(Editor& ed, float time);
 // The same, only while the strip is shown.
 void redrawPhaseManager(Editor& ed, float time);
 
+// The phase strip, if shown, for the clock's time, then the scene.
+void redrawStripAndScene(Editor& ed);
+// The same where nodes or links came or went: with their counts.
+void redrawModel(Editor& ed);
+
 // The text printed over the scene until the next redraw.
 void DisplayOnscreenInstructions(Editor& ed);
-
-// Erases the dots of the node path window.
-void clearPath(Editor& ed);
 
 // Status panel 4.
 void showClock(Editor& ed);

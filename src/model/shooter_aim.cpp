@@ -1,5 +1,6 @@
 #include "model/shooter_aim.h"
 
+#include "model/angles.h"
 #include "model/numbers.h"
 #include "model/store.h"
 
@@ -30,15 +31,15 @@ std::vector<std::int32_t> triggerNodes(const Editor& ed) {
 }
 
 float GetVectorAngle(float dx, float dy) {
-    if (dx == 0) return dy < 0 ? 1.5708F : dy > 0 ? 4.7124F : 0;
-    if (dy == 0) return dx < 0 ? 3.1416F : 0;
+    if (dx == 0) return dy < 0 ? toReal(aimQuarter) : dy > 0 ? toReal(aimThreeQuarters) : 0;
+    if (dy == 0) return dx < 0 ? toReal(aimHalf) : 0;
     const double a = std::fabs(std::atan(static_cast<double>(dy) / static_cast<double>(dx)));
-    if (dx > 0) return toReal(dy < 0 ? a : 6.2832 - a);
-    return toReal(dy < 0 ? 3.1416 - a : 3.1416 + a);
+    if (dx > 0) return toReal(dy < 0 ? a : aimTurn - a);
+    return toReal(dy < 0 ? aimHalf - a : aimHalf + a);
 }
 
 float barrelAngle(const Editor& ed, const Node& shooter) {
-    const Node& trigger = nodeAt(ed, shooter.Res1);
+    const Node& trigger = nodeAt(ed, shooter.Trigger);
     return GetVectorAngle(toReal(static_cast<double>(shooter.X) - trigger.X),
                           toReal(static_cast<double>(shooter.Y) - trigger.Y));
 }

@@ -6,7 +6,7 @@
 namespace zentrik {
 
 // Whether a used node takes aim at a redraw: a shooter does while it is locked.
-inline bool takesAim(const Node& node) { return node.Locked && node.Res1 != none; }
+inline bool takesAim(const Node& node) { return node.Locked && node.Trigger != none; }
 
 // The node at the other end of the first used link that touches node i; 0 when there is none.
 std::int32_t GetTriggerNode(const Editor& ed, std::int32_t i);

@@ -1,8 +1,6 @@
 #include "model/store.h"
 
-#include "model/host.h"
 #include "model/numbers.h"
-#include "model/redraw.h"
 
 #include <algorithm>
 #include <cmath>
@@ -43,7 +41,7 @@ Node standardNode(Editor& ed, double x, double y) {
     node.X = toInt(x);
     node.Y = toInt(y);
     node.Mass = 1;
-    node.Res1 = none;
+    node.Trigger = none;
     node.Sprite = noSprite;
     node.color = ed.marks.mnuUseRandom ? GetRandomColor(ed.chance) : ed.NodeColor;
     return node;
@@ -113,42 +111,11 @@ void ClearAnimation(Editor& ed) {
     showCounts(ed);
     panel(ed, 3) = "Cycles: 0";
     clearPath(ed);
-    DisplayScene(ed, -1, -1);
 }
 
-void mnuCompact_Click(Editor& ed, Host& host) {
-    const std::int32_t oldNodes = lastNode(ed);
-    const std::int32_t oldLinks = lastLink(ed);
-    const std::int32_t usedNodes = UsedNodes(ed);
-    const std::int32_t usedLinks = UsedLinks(ed);
-
-    std::vector<Node> nodes(1);
-    std::vector<std::int32_t> newNumber(ed.Nodes.size(), 0);
-    forEachNode(ed, [&](std::int32_t i, const Node& node) {
-        newNumber[static_cast<std::size_t>(i)] = static_cast<std::int32_t>(nodes.size());
-        nodes.push_back(node);
-    });
-    if (std::cmp_not_equal(nodes.size() - 1, usedNodes))
-        host.messageBox("Compact node error", "Zentrik", BoxIcon::plain);
-
-    std::vector<Link> links(1);
-    for (std::int32_t j = 1; j <= oldLinks; ++j) {
-        if (!linkAt(ed, j).Used) continue;
-        Link link = linkAt(ed, j);
-        link.N1 = nodeExists(ed, link.N1) ? newNumber[static_cast<std::size_t>(link.N1)] : 0;
-        link.N2 = nodeExists(ed, link.N2) ? newNumber[static_cast<std::size_t>(link.N2)] : 0;
-        links.push_back(link);
-    }
-    if (std::cmp_not_equal(links.size() - 1, usedLinks))
-        host.messageBox("Compact link error", "Zentrik", BoxIcon::plain);
-
-    ed.Nodes = std::move(nodes);
-    ed.Links = std::move(links);
-    redrawPhaseManager(ed, ed.AnimationTime);
-    showCounts(ed);
-    DisplayScene(ed, -1, -1);
-    panel(ed, 5) = "Compact complete.   Nodes: " + number(oldNodes) + " to " + number(lastNode(ed)) +
-                   "      Links: " + number(oldLinks) + " to " + number(lastLink(ed));
+void clearPath(Editor& ed) {
+    ed.pathDots.clear();
+    ++ed.pathErased;
 }
 
 }  // namespace zentrik

@@ -1,12 +1,10 @@
 #pragma once
-// Creating, deleting, counting and compacting nodes and links, and the selection they affect.
+// Creating, deleting and counting nodes and links, and the selection they affect.
 
 #include "model/editor.h"
 #include "model/prefetch.h"
 
 namespace zentrik {
-
-class Host;
 
 inline std::int32_t lastNode(const Editor& ed) { return static_cast<std::int32_t>(ed.Nodes.size()) - 1; }
 inline std::int32_t lastLink(const Editor& ed) { return static_cast<std::int32_t>(ed.Links.size()) - 1; }
@@ -54,7 +52,7 @@ void forEachNode(EditorType& ed, Visit visit) {
     const std::int32_t last = lastNode(ed);
     for (std::int32_t i = 1; i <= last; ++i) {
         auto& node = nodeAt(ed, i);
-        prefetchAhead(node, 16);
+        prefetchAhead(node);
         if (node.Used) visit(i, node);
     }
 }
@@ -82,10 +80,10 @@ std::int32_t UsedNodes(const Editor& ed);
 std::int32_t UsedLinks(const Editor& ed);
 
 void NoSelections(Editor& ed);
-// Empties the model and the path window; the clock and the cycle counter go on.
+// Empties the model and the path window; the clock and the cycle counter go on. Draws nothing.
 void ClearAnimation(Editor& ed);
-// Renumbers the model so that only used records remain, in their old order.
-void mnuCompact_Click(Editor& ed, Host& host);
+// Erases the dots of the node path window.
+void clearPath(Editor& ed);
 
 // Status panels 1 and 2.
 void showCounts(Editor& ed);

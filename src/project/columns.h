@@ -3,6 +3,7 @@
 // the records. A column's form is that of the member it stands for: a truth value, a whole number, a
 // real or a text.
 
+#include "model/no_doubles.h"
 #include "model/records.h"
 
 #include <cstdint>
@@ -65,10 +66,10 @@ inline constexpr Column<Link> linkColumns[] = {
     {"Angle", &Link::Angle},
     {"Force", &Link::Force},
     {"Barrier", &Link::Barrier},
-    {"Res1", &Link::Res1},
+    {"Res1", &Link::DiscX},
     {"Res2", &Link::Res2},
-    {"Res3", &Link::Res3},
-    {"Res4", &Link::Res4},
+    {"Res3", &Link::Marked},
+    {"Res4", &Link::DiscY},
     {"Res5", &Link::Res5},
     {"Res6", &Link::Res6, ""},
 };
@@ -92,9 +93,9 @@ inline constexpr Column<Node> nodeColumns[] = {
     {"Rotate", &Node::Rotate},
     {"Sprite", &Node::Sprite},
     {"color", &Node::color},
-    {"Res1", &Node::Res1},
+    {"Res1", &Node::Trigger},
     {"Res2", &Node::Res2},
-    {"Res3", &Node::Res3},
+    {"Res3", &Node::Marked},
     {"Res4", &Node::Res4},
     {"Res5", &Node::Res5},
     {"Res6", &Node::Res6},
@@ -102,5 +103,9 @@ inline constexpr Column<Node> nodeColumns[] = {
     {"Res8", &Node::Res8, ""},
 };
 inline constexpr std::string_view nodeCommentStart = "; i ; ";
+
+constexpr auto columnName = [](const auto& column) { return std::string_view(column.name); };
+static_assert(!anyShared(globalColumns, columnName) && !anyShared(linkColumns, columnName) &&
+              !anyShared(nodeColumns, columnName));
 
 }  // namespace zentrik

@@ -41,9 +41,7 @@ void restore(Editor& ed, Host& host, RecoveryCopy copy) {
     ClearAnimation(ed);
     handOver(ed, host, std::move(copy.project));
     ed.savedText = std::move(copy.name);
-    showCounts(ed);
-    redrawPhaseManager(ed, ed.AnimationTime);
-    DisplayScene(ed, -1, -1);
+    redrawModel(ed);
     panel(ed, 5) = "Project " + ed.savedText + " recovered!";
 }
 

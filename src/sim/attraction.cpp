@@ -130,10 +130,6 @@ void Attraction::update(std::int32_t i, const Node& node) {
     *found = attractorOf(i, node);
 }
 
-void Attraction::updateAll(const Editor& ed) {
-    for (const Attractor& a : attractors_) update(a.number, nodeAt(ed, a.number));
-}
-
 void Attraction::pull(NodeLanes& lanes) const {
     if (lanes.count == 1) return pullOne(attractors_, lanes);
     Pulls pulls;

@@ -20,8 +20,6 @@ public:
     double expectedTime(const Editor& ed) const;
     // A node moved or left the model.
     void update(std::int32_t i, const Node& node);
-    // Any node may have moved.
-    void updateAll(const Editor& ed);
     // Adds the pull of all attracting nodes, in index order, to the forces.
     void pull(NodeLanes& lanes) const;
 

@@ -54,7 +54,7 @@ void driveSlanted(const Drive& drive, float dx, float dy, double scale, float R1
 }  // namespace
 
 void applyRotationalDrive(const Editor& ed, ForcePoints& points) {
-    const double scale = ed.RotationScale;
+    constexpr double scale = 1000;
     forEachLink(ed, [&](std::int32_t, const Link& link) {
         const float R1 = nodeAt(ed, link.N1).Rotate;
         const float R2 = nodeAt(ed, link.N2).Rotate;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace zentrik {
 
@@ -28,18 +29,20 @@ std::string problemText(std::int32_t i, const char* reason) {
 
 }  // namespace
 
-NodeStage::NodeStage(Editor& editor, const ForcePoints& points, Attraction& attraction, Barriers& barriers)
+NodeStage::NodeStage(Editor& editor, const ForcePoints& points, Attraction& attraction, Barriers& barriers,
+                     Walls& walls)
     : ed(editor),
       points_(points),
       attraction_(attraction),
       barriers_(barriers),
+      walls_(walls),
       bounds_(boundsOf(editor)),
       attracts_(!attraction.empty()),
-      testBarriers_(!editor.marks.mnuIgnoreBarriers),
       recolour_(editor.marks.mnuRandom && editor.Cycles % 10 == 0) {}
 
 std::string NodeStage::run(float dt, std::int32_t lastFree) {
     lastFree_ = lastFree;
+    walls_.begin(ed, bounds_);
     const Motion motion(ed, dt, bounds_);
     std::string problem;
     for (std::int32_t i = 1; i <= lastNode(ed) && problem.empty();) {
@@ -53,8 +56,10 @@ std::string NodeStage::run(float dt, std::int32_t lastFree) {
             i = commitRun(i, end, problem);
         }
     }
-    if (problem.empty() && contacts_.touched) return checkVelocities();
-    return problem;
+    walls_.end();
+    if (!problem.empty()) return problem;
+    if (barriers_.empty() && lastFree > 0) reportDistance(nodeAt(ed, lastFree));
+    return walls_.touched() ? checkVelocities() : std::string();
 }
 
 // Fills the run with free nodes; gives the node behind it.
@@ -68,11 +73,12 @@ std::int32_t NodeStage::gatherRun(std::int32_t from) {
     while (i <= last && m < NodeRun::size) {
         const std::int32_t here = i++;
         Node& node = nodes[here];
-        prefetchAhead(node, 64);
+        prefetchAhead(node);
         if (!node.Used || node.Locked) [[unlikely]] {
             if (hold(here, node) != nullptr) run_.plain = false;
             continue;
         }
+        if (walls_.owes(here)) walls_.settle(here);
         run_.node[m] = &node;
         store(&run_.place[2 * m], placeOf(node));
         store(&run_.velocity[2 * m], velocityOf(node));
@@ -109,7 +115,7 @@ void NodeStage::attract() {
 // Whether the arrivals are all there is to do for the nodes of this run.
 bool NodeStage::nothingComesBetween() const {
     const bool plotting = ed.marks.mnuDisplayPath && selectedNode(ed) != nullptr;
-    return run_.plain && arrivals_.clear && !testBarriers_ && !recolour_ && !plotting;
+    return run_.plain && arrivals_.clear && barriers_.empty() && !recolour_ && !plotting;
 }
 
 void NodeStage::commitPlainRun() const {
@@ -125,23 +131,21 @@ void NodeStage::commitPlainRun() const {
     }
 }
 
-// Hands a run's arrivals to its nodes, up to the first one at a wall; gives the node to go on with.
+// Hands a run's arrivals to its nodes, up to the first that a wall contact has given another way; gives the
+// node to go on with.
 std::int32_t NodeStage::commitRun(std::int32_t from, std::int32_t to, std::string& problem) {
     std::size_t lane = 0;
     for (std::int32_t i = from; i < to; ++i) {
         Node& node = nodeAt(ed, i);
-        if (node.Used && recolour_) node.color = GetRandomColor(ed.chance);
         const bool free = node.Used && !node.Locked;
+        if (free && walls_.owes(i)) return i;
+        if (node.Used && recolour_) node.color = GetRandomColor(ed.chance);
         const char* reason = free ? move(i, node, lane++) : hold(i, node);
         if (reason != nullptr) {
             problem = problemText(i, reason);
             return to;
         }
-        if (contacts_.othersChanged) {
-            contacts_.othersChanged = false;
-            attraction_.updateAll(ed);
-            return i + 1;
-        }
+        if (std::exchange(attractorMoved_, false)) return i + 1;
     }
     return to;
 }
@@ -164,7 +168,7 @@ const char* NodeStage::move(std::int32_t i, Node& node, std::size_t lane) {
     node.Fx = 0;
     node.Fy = 0;
     const char* problem = nullptr;
-    if (testBarriers_ || bounds_.touchedBy(node)) problem = meetContacts(i, node);
+    if (!barriers_.empty() || bounds_.touchedBy(node)) problem = meetContacts(i, node);
     if (node.Gravity != 0) attraction_.update(i, node);
     if (i == ed.SelectedNode) plotPath(node);
     return problem;
@@ -178,22 +182,33 @@ void NodeStage::plotPath(const Node& node) {
 const char* NodeStage::meetContacts(std::int32_t i, Node& node) {
     floorAndCeiling(ed, i, bounds_);
     if (!node.Used) removed_ = true;
-    if (ed.marks.mnuWalls) walls(ed, i, bounds_, contacts_);
-    if (testBarriers_) meetBarriers(i, node);
+    if (ed.marks.mnuWalls) meetWalls(i);
+    if (!barriers_.empty()) meetBarriers(i, node);
     return isFinite(node) ? nullptr : notFinite;
 }
 
-// Status panel 5 shows what the last node's test found; the other nodes' are overwritten unseen.
-void NodeStage::meetBarriers(std::int32_t i, Node& node) {
-    if (contacts_.othersChanged)
-        barriers_.update(ed);
-    else
-        barriers_.nodeMoved(ed, i);
-    if (i < lastFree_) {
-        barriers_.deflect(ed, i);
-    } else if (const auto distance = barriers_.BarrierTest(ed, node)) {
-        panel(ed, 5) = realText(*distance);
+void NodeStage::meetWalls(std::int32_t i) {
+    walls_.meet(i);
+    for (const std::int32_t moved : walls_.takeMoved()) {
+        barriers_.nodeMoved(ed, moved);
+        attraction_.update(moved, nodeAt(ed, moved));
+        attractorMoved_ = attracts_;
     }
+}
+
+void NodeStage::meetBarriers(std::int32_t i, Node& node) {
+    barriers_.nodeMoved(ed, i);
+    if (i < lastFree_)
+        barriers_.deflect(ed, i);
+    else
+        reportDistance(node);
+    walls_.nodeDeflected(i);
+}
+
+// Status panel 5 shows what the last node's test found; the other nodes' are overwritten unseen.
+void NodeStage::reportDistance(Node& node) {
+    if (ed.marks.mnuIgnoreBarriers) return;
+    if (const auto distance = barriers_.BarrierTest(ed, node)) panel(ed, 5) = realText(*distance);
 }
 
 // A wall contact scales the velocities of nodes that were looked at already.

@@ -3,9 +3,11 @@
 
 #include "model/editor.h"
 #include "sim/attraction.h"
+#include "sim/barriers.h"
 #include "sim/contacts.h"
 #include "sim/forces.h"
 #include "sim/node_run.h"
+#include "sim/walls.h"
 
 #include <string>
 
@@ -13,17 +15,18 @@ namespace zentrik {
 
 // Moves every free node and meets its contacts, in index order: later nodes see where earlier ones have
 // gone. Everything that is known ahead is computed for a run of nodes at once; a run ends where a node
-// changes what the next ones see, that is at an attracting node and at a wall contact.
+// changes what the next ones see, that is at an attracting node and where a wall contact turns or moves them.
 class NodeStage {
 public:
-    // points, attraction and barriers must hold this step's forces, attracting nodes and barriers.
-    NodeStage(Editor& editor, const ForcePoints& points, Attraction& attraction, Barriers& barriers);
+    // points, attraction and barriers must hold this step's forces, attracting nodes and the barriers that
+    // are heeded.
+    NodeStage(Editor& editor, const ForcePoints& points, Attraction& attraction, Barriers& barriers,
+              Walls& walls);
 
     // dt: time units. lastFree: the last node that will move. Gives what went wrong, or the empty text.
     std::string run(float dt, std::int32_t lastFree);
     // Names the first used node whose velocity is not finite, moved or not; the empty text for none.
     std::string checkVelocities() const;
-    bool wallTouched() const { return contacts_.touched; }
     bool anyRemoved() const { return removed_; }
 
 private:
@@ -31,11 +34,12 @@ private:
     const ForcePoints& points_;
     Attraction& attraction_;
     Barriers& barriers_;
-    Bounds bounds_;
-    WallContacts contacts_;
+    Walls& walls_;
+    const Bounds bounds_;
     std::int32_t lastFree_ = 0;
-    bool attracts_, testBarriers_, recolour_;
-    bool removed_ = false;  // the floor took a node out of the model
+    bool attracts_, recolour_;
+    bool attractorMoved_ = false;  // by the last wall contact
+    bool removed_ = false;         // the floor took a node out of the model
     NodeRun run_;
     Arrivals arrivals_;  // where the run's nodes go, if nothing comes in between
 
@@ -48,7 +52,9 @@ private:
     const char* move(std::int32_t i, Node& node, std::size_t lane);
     [[gnu::noinline]] void plotPath(const Node& node);
     [[gnu::noinline]] const char* meetContacts(std::int32_t i, Node& node);
+    void meetWalls(std::int32_t i);
     void meetBarriers(std::int32_t i, Node& node);
+    void reportDistance(Node& node);
 };
 
 }  // namespace zentrik

@@ -10,8 +10,18 @@ void Timer1_Timer(Editor& ed) {
     // Counts up for as long as the program runs, so it must survive its own end.
     ed.Cycles = static_cast<std::int32_t>(static_cast<std::uint32_t>(ed.Cycles) + 1);
     panel(ed, 3) = "Cycles: " + std::to_string(ed.Cycles);
-    CalculatePositions(ed);
+    stepOrStop(ed);
     if (ed.SingleStep) ed.Timer1.enabled = false;
+}
+
+void stepOrStop(Editor& ed) {
+    const std::string problem = CalculatePositions(ed);
+    if (problem.empty()) return;
+    ed.buttons.start = false;
+    StartStop(ed);
+    panel(ed, 5) = problem + ": animation stopped!";
+    showClock(ed);
+    DisplayScene(ed, -1, -1);
 }
 
 void StartStop(Editor& ed) {

@@ -8,6 +8,8 @@ namespace zentrik {
 class Host;
 
 void Timer1_Timer(Editor& ed);
+// One step; one that cannot go on stops the animation and says why in status panel 5.
+void stepOrStop(Editor& ed);
 
 // Makes the timer and the tool tip follow the start button.
 void StartStop(Editor& ed);

@@ -1,12 +1,10 @@
 #include "sim/step.h"
 
+#include "model/angles.h"
 #include "model/numbers.h"
-#include "model/prefetch.h"
 #include "model/redraw.h"
-#include "model/shooter_aim.h"
 #include "model/store.h"
 #include "sim/node_stage.h"
-#include "sim/run.h"
 
 #include <cmath>
 
@@ -29,6 +27,7 @@ struct Scratch {
     Attraction attraction;
     std::vector<std::int32_t> barrierLinks;
     Barriers barriers;
+    Walls walls;
 };
 
 Scratch& scratch() {
@@ -39,7 +38,6 @@ Scratch& scratch() {
 // What must be known of the nodes before the forces.
 struct Survey {
     bool anyRotate = false;
-    bool anyTakesAim = false;
     bool placesAreSmall = true;  // the difference of any two coordinates is exact as a 32-bit real
     std::int32_t lastFree = 0;   // the last node that the step will move
     std::int32_t massless = 0;   // the first node that cannot be moved
@@ -57,7 +55,6 @@ Survey survey(const Editor& ed, Scratch& work) {
     PlaceSpread spread;
     for (std::int32_t i = 0; i <= last; ++i) {
         const Node& n = nodes[i];
-        prefetchAhead(n, 24);
         before[i] = {placeOf(n), velocityOf(n), forceOf(n), n.Rotate, n.Used};
         points[i] = {round32(placeOf(n)), forceOf(n)};
         spread.add(n.X, n.Y);
@@ -65,10 +62,7 @@ Survey survey(const Editor& ed, Scratch& work) {
         if (n.Rotate != 0) result.anyRotate = true;
         if (!n.Used) continue;
         if (n.Gravity != 0) work.attraction.add(i, n);
-        if (n.Locked) {
-            if (takesAim(n)) result.anyTakesAim = true;
-            continue;
-        }
+        if (n.Locked) continue;
         result.lastFree = i;
         if (n.Mass == 0 && result.massless == 0) result.massless = i;
     }
@@ -90,7 +84,7 @@ void putBack(Editor& ed, const std::vector<NodeState>& before) {
 void setDirectionalVelocity(Node& node) {
     const std::int32_t a = toInt(wide(node.Vxo));
     const float V = real(node.Vyo * 1000.0);
-    const float r = real(a * 0.01745);
+    const float r = real(a * degreesToRadians);
     const double across = std::fabs(std::cos(wide(r))) * V;
     const double along = std::fabs(std::sin(wide(r))) * V;
     if (a >= 360) return;
@@ -130,27 +124,18 @@ std::string durationText(double seconds) {
     return std::to_string(toInt(minutes ? seconds / 60 : seconds)) + (minutes ? " minutes" : " seconds");
 }
 
-void stopWith(Editor& ed, const std::string& problem) {
-    ed.buttons.start = false;
-    StartStop(ed);
-    panel(ed, 5) = problem + ": animation stopped!";
-    showClock(ed);
-    DisplayScene(ed, -1, -1);
-}
-
 }  // namespace
 
 float stepSize(const Editor& ed) { return ed.buttons.slow ? 0.005F : real(ed.TimeInterval / 1000.0); }
 
-void CalculatePositions(Editor& ed) {
+std::string CalculatePositions(Editor& ed) {
     Scratch& work = scratch();
     const float dt = stepSize(ed);
     const Survey found = survey(ed, work);
-    if (found.massless != 0) return stopWith(ed, nodeText(found.massless) + "has a mass of 0");
+    if (found.massless != 0) return nodeText(found.massless) + "has a mass of 0";
 
     if (const double seconds = work.attraction.expectedTime(ed); seconds > longestStep)
-        return stopWith(
-            ed, "So many nodes attract each other that a step would take about " + durationText(seconds));
+        return "So many nodes attract each other that a step would take about " + durationText(seconds);
 
     const float time = ed.AnimationTime;
     const bool pending = ed.InitialVelocityPending;
@@ -160,8 +145,9 @@ void CalculatePositions(Editor& ed) {
     if (found.anyRotate) applyRotationalDrive(ed, work.points);
     work.barrierLinks.clear();
     applySprings(ed, work.points, found.placesAreSmall, work.barrierLinks);
+    work.barriers.clear();
     if (!ed.marks.mnuIgnoreBarriers) work.barriers.set(ed, work.barrierLinks);
-    NodeStage nodes(ed, work.points, work.attraction, work.barriers);
+    NodeStage nodes(ed, work.points, work.attraction, work.barriers, work.walls);
     std::string problem = nodes.run(dt, found.lastFree);
     if (problem.empty() && started) problem = nodes.checkVelocities();  // those of locked nodes, too
     if (problem.empty() && !std::isfinite(ed.AnimationTime)) problem = "The clock is not finite";
@@ -170,11 +156,12 @@ void CalculatePositions(Editor& ed) {
         ed.AnimationTime = time;
         ed.InitialVelocityPending = pending;
         ed.SelectedNode = selected;
-        return stopWith(ed, problem);
+        return problem;
     }
     if (nodes.anyRemoved()) showCounts(ed);
-    DisplayScene(ed, -1, -1, found.anyTakesAim);
-    if (nodes.wallTouched()) ed.TimeDirection = -ed.TimeDirection;
+    DisplayScene(ed, -1, -1);
+    if (work.walls.touched()) ed.TimeDirection = -ed.TimeDirection;
+    return {};
 }
 
 }  // namespace zentrik

@@ -5,6 +5,7 @@
 #include "edit/transforms.h"
 #include "effects/shooter.h"
 #include "model/host.h"
+#include "model/no_doubles.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
@@ -12,6 +13,8 @@
 #include "sim/run.h"
 #include "ui/online.h"
 #include "ui/options.h"
+
+#include <string_view>
 
 namespace zentrik {
 
@@ -21,8 +24,7 @@ void newClicked(Editor& ed, Host&) {
     stopAnimation(ed);
     ClearAnimation(ed);
     ed.AnimationTime = 0;
-    redrawPhaseManager(ed, ed.AnimationTime);
-    showClock(ed);
+    redrawStripAndScene(ed);
 }
 
 void refreshClicked(Editor& ed, Host& host) {
@@ -40,7 +42,7 @@ void deleteClicked(Editor& ed, Host& host) {
         return;
     DeleteNode(ed);
     DeleteLink(ed);
-    redrawStripAndScene(ed, host);
+    redrawStripAndScene(ed);
     showCounts(ed);
 }
 
@@ -133,6 +135,9 @@ constexpr CommandRow rows[] = {
     button("email", "Email Author", "email", mnuEmail_Click),
 };
 // clang-format on
+static_assert(!anyShared(rows, [](const CommandRow& row) { return std::string_view(row.key); }) &&
+                  !anyShared(rows, [](const CommandRow& row) { return row.pressed; }),
+              "two buttons share a key or a state");
 
 }  // namespace
 

@@ -37,8 +37,7 @@ void layOut(Editor& ed) {
     ed.layout.HScroll1 = {sceneLeft, barTop, width, bar};
     ed.layout.Frame1 = {sceneLeft, barTop - 720, width, sprites};
 
-    redrawPhaseManager(ed, ed.AnimationTime);
-    DisplayScene(ed, -1, -1);
+    redrawStripAndScene(ed);
     panel(ed, 5) = "H: " + std::to_string(ed.sceneHeight) + "     W: " + std::to_string(ed.sceneWidth);
 }
 

@@ -2,9 +2,11 @@
 
 #include "edit/builders.h"
 #include "edit/bulk.h"
+#include "edit/compact.h"
 #include "edit/objects.h"
 #include "effects/fireworks.h"
 #include "effects/shooter.h"
+#include "model/no_doubles.h"
 #include "model/store.h"
 #include "project/library.h"
 #include "sim/run.h"
@@ -77,7 +79,7 @@ constexpr MenuRow rows[] = {
     line("mnuSel03"),
     entry("mnuDefaultK", "Set Default &Spring Constant", no, mnuDefaultK_Click),
     entry("mnuDefaultForce", "Set Default Li&nk Force", no, mnuDefaultForce_Click),
-    toggle("mnuAllowZero", "Allow &Zero Length Links", no, &Marks::mnuAllowZero, redrawStripAndScene),
+    toggle("mnuAllowZero", "Allow &Zero Length Links", no, &Marks::mnuAllowZero, redrawDrawings),
 
     menu("mnuStructures", "&Structures"),
     entry("mnuDuplicateNode", "Create &Duplicate Node", "Ctrl+D", mnuDuplicateNode_Click),
@@ -150,19 +152,11 @@ constexpr MenuRow rows[] = {
 };
 // clang-format on
 
-constexpr bool same(const char* a, const char* b) {
-    return a != nullptr && b != nullptr && std::string_view(a) == b;
-}
-
-constexpr bool hasDuplicates() {
-    for (const MenuRow& a : rows)
-        for (const MenuRow& b : rows)
-            if (&a < &b && (same(a.name, b.name) || same(a.shortcut, b.shortcut) ||
-                            (a.mark != nullptr && a.mark == b.mark)))
-                return true;
-    return false;
-}
-static_assert(!hasDuplicates(), "two menu entries share a name, a shortcut or a check mark");
+constexpr std::string_view textOf(const char* text) { return text != nullptr ? text : ""; }
+static_assert(!anyShared(rows, [](const MenuRow& row) { return textOf(row.name); }) &&
+                  !anyShared(rows, [](const MenuRow& row) { return textOf(row.shortcut); }) &&
+                  !anyShared(rows, [](const MenuRow& row) { return row.mark; }),
+              "two menu entries share a name, a shortcut or a check mark");
 
 }  // namespace
 

@@ -3,6 +3,7 @@
 #include "edit/command.h"
 #include "model/host.h"
 #include "model/numbers.h"
+#include "model/questions.h"
 #include "model/rate.h"
 #include "model/redraw.h"
 #include "ui/layout.h"
@@ -16,12 +17,11 @@ constexpr std::int32_t smallestGrid = 50;  // twips
 void askColor(Editor& ed, Host& host, std::int32_t Editor::*color) {
     const std::int32_t chosen = host.SelectColor();
     if (chosen != none) ed.*color = chosen;
-    redrawStripAndScene(ed, host);  // the strip's discs have the node colour
+    redrawStripAndScene(ed);  // the strip's discs have the node colour
 }
 
 void askReal(Editor& ed, Host& host, const char* prompt, const char* title, float Editor::*value) {
-    const std::string answer = host.numberBox(prompt, title, realText(ed.*value));
-    if (!answer.empty()) ed.*value = toReal(leadingNumber(answer));
+    if (const auto answer = askNumber(host, prompt, title, realText(ed.*value))) ed.*value = toReal(*answer);
 }
 
 }  // namespace
@@ -39,8 +39,8 @@ void mnuResetGlobal_Click(Editor& ed, Host&) {
 }
 
 void mnuGridSize_Click(Editor& ed, Host& host) {
-    const std::string answer = host.numberBox("Enter grid size.", "Grid Size", realText(ed.GridSize));
-    const std::int32_t size = toInt(leadingNumber(answer));
+    const auto answer = askNumber(host, "Enter grid size.", "Grid Size", realText(ed.GridSize));
+    const std::int32_t size = toInt(answer.value_or(0));
     if (size >= smallestGrid) ed.GridSize = static_cast<float>(size);
     DisplayScene(ed, -1, -1);
 }
@@ -51,12 +51,12 @@ void setNodeRadius(Editor& ed, std::int32_t radius) {
 }
 
 void mnuSetRadius_Click(Editor& ed, Host& host) {
-    const std::string answer =
-        host.numberBox("Enter node radius.", "Set Node Radius", std::to_string(ed.NodeRadius));
-    const std::int32_t radius = toInt(leadingNumber(answer));
-    if (!answer.empty() && radius < smallestRadius)
+    const auto answer =
+        askNumber(host, "Enter node radius.", "Set Node Radius", std::to_string(ed.NodeRadius));
+    const std::int32_t radius = toInt(answer.value_or(0));
+    if (answer && radius < smallestRadius)
         refuse(ed, host, "The node radius takes " + std::to_string(smallestRadius) + " twips or more!");
-    else if (!answer.empty())
+    else if (answer)
         setNodeRadius(ed, radius);
     DisplayScene(ed, -1, -1);
 }
@@ -75,10 +75,7 @@ void mnuBackgroundColor_Click(Editor& ed, Host& host) { askColor(ed, host, &Edit
 
 void redrawScene(Editor& ed, Host&) { DisplayScene(ed, -1, -1); }
 
-void redrawStripAndScene(Editor& ed, Host&) {
-    redrawPhaseManager(ed, ed.AnimationTime);
-    DisplayScene(ed, -1, -1);
-}
+void redrawDrawings(Editor& ed, Host&) { redrawStripAndScene(ed); }
 
 void layOutAgain(Editor& ed, Host&) { layOut(ed); }
 

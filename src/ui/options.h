@@ -23,7 +23,7 @@ void setNodeRadius(Editor& ed, std::int32_t radius);
 
 // Follow-ups of check marks.
 void redrawScene(Editor& ed, Host& host);
-void redrawStripAndScene(Editor& ed, Host& host);
+void redrawDrawings(Editor& ed, Host& host);
 void layOutAgain(Editor& ed, Host& host);
 void followPathMark(Editor& ed, Host& host);
 

@@ -39,7 +39,7 @@ bool OverPhase(Editor& ed, float X, float Y, std::int32_t& iOver) {
     iOver = none;
     for (std::int32_t j = 1; j <= lastLink(ed); ++j) {
         const Link& link = linkAt(ed, j);
-        if (!link.Used || !within(X, link.Res1, ed.HitRadius) || !within(Y, link.Res4, ed.HitRadius))
+        if (!link.Used || !within(X, link.DiscX, ed.HitRadius) || !within(Y, link.DiscY, ed.HitRadius))
             continue;
         iOver = j;
         panel(ed, 5) = linkText(ed, j);
@@ -52,7 +52,7 @@ float SnapToPhaseGrid(const Editor& ed, float X) {
     const double axis = 0.8 * ed.phaseWidth;
     const double offset = X - 0.1 * ed.phaseWidth;
     double angle = axis > 0 ? offset / axis * 360 : 0;
-    const double step = static_cast<double>(ed.PhaseGridStep);
+    constexpr double step = 22.5;  // degrees
     const double cell = step / 360 * axis;
     const std::int32_t c = toInt(cell);
     if (ed.buttons.snap && c > 0) {

@@ -30,12 +30,13 @@ void shooterClicked(Editor& ed, Host&) {
     Node& node = nodeAt(ed, ed.SelectedNode);
     ed.buttons.locked = node.Locked = ed.buttons.shooter;
     if (node.Locked) {
-        node.Res1 = GetTriggerNode(ed, ed.SelectedNode);
-        if (node.Res1 > 0) nodeAt(ed, node.Res1).Locked = true;
-        tell(ed, "Node ", ed.SelectedNode, " is now a shooter (trigger = " + std::to_string(node.Res1) + "!");
+        node.Trigger = GetTriggerNode(ed, ed.SelectedNode);
+        if (node.Trigger > 0) nodeAt(ed, node.Trigger).Locked = true;
+        tell(ed, "Node ", ed.SelectedNode,
+             " is now a shooter (trigger = " + std::to_string(node.Trigger) + "!");
     } else {
-        if (nodeExists(ed, node.Res1)) nodeAt(ed, node.Res1).Locked = false;
-        node.Res1 = none;
+        if (nodeExists(ed, node.Trigger)) nodeAt(ed, node.Trigger).Locked = false;
+        node.Trigger = none;
         bringToRest(node);
         tell(ed, "Node ", ed.SelectedNode, " is now a standard node!");
     }

@@ -2,7 +2,9 @@
 
 #include "edit/command.h"
 #include "model/host.h"
+#include "model/no_doubles.h"
 #include "model/numbers.h"
+#include "model/questions.h"
 #include "model/rate.h"
 #include "model/redraw.h"
 #include "model/store.h"
@@ -31,78 +33,8 @@ constexpr Access timerPeriod{[](Editor& ed, double value) { return setRate(ed, t
                              "The rate takes 1 to 65535 milliseconds!"};
 static_assert(shortestPeriod == 1 && longestPeriod == 65535, "as the refusal says");
 
-// The rows' parts that most buttons of a kind share.
-constexpr PropertyRow plain(ButtonStyle style) {
-    return {"", "",      style,   Owner::global, Pair::always, nullptr, "",    nullptr, "",
-            "", nullptr, nullptr, nullptr,       "",           "",      false, nullptr, nullptr};
-}
-constexpr PropertyRow line = plain(ButtonStyle::separator);
-constexpr PropertyRow room = plain(ButtonStyle::room);
-
-struct Words {
-    const char* label;
-    const char* prompt;
-    const char* confirmation;
-};
-
-constexpr PropertyRow dropDown(const char* key, const char* icon, Owner owner, std::string Tips::*tip,
-                               const Access& access, std::string_view presets, Words words) {
-    PropertyRow row = plain(ButtonStyle::dropDown);
-    row.key = key;
-    row.icon = icon;
-    row.owner = owner;
-    row.tip = row.presetTip = tip;
-    row.access = &access;
-    row.presets = presets;
-    row.presetLabel = row.label = words.label;
-    row.prompt = words.prompt;
-    row.confirmation = words.confirmation;
-    return row;
-}
-constexpr PropertyRow forAll(const char* key, const char* icon, std::string Tips::*tip, const Access& access,
-                             std::string_view presets, const char* startLabel, Words words) {
-    PropertyRow row = dropDown(key, icon, Owner::global, tip, access, presets, words);
-    row.startLabel = startLabel;
-    return row;
-}
-constexpr PropertyRow forNode(const char* key, const char* icon, std::string Tips::*tip, const Access& access,
-                              std::string_view presets, Words words) {
-    return dropDown(key, icon, Owner::node, tip, access, presets, words);
-}
-constexpr PropertyRow inPair(Pair pair, PropertyRow row) {
-    row.pair = pair;
-    return row;
-}
-// Set by its presets alone; the chosen value shows on another button's tip.
-constexpr PropertyRow presetsOnly(const char* key, const char* icon, std::string Tips::*tip,
-                                  std::string Tips::*presetTip, const Access& access,
-                                  std::string_view presets, const char* label) {
-    PropertyRow row = dropDown(key, icon, Owner::node, tip, access, presets, {label, nullptr, ""});
-    row.pair = Pair::directional;
-    row.presetTip = presetTip;
-    return row;
-}
-constexpr PropertyRow forLink(const char* key, const char* icon, std::string Tips::*tip, const Access& access,
-                              std::string_view presets, const char* presetLabel, Words words) {
-    PropertyRow row = dropDown(key, icon, Owner::link, tip, access, presets, words);
-    row.presetLabel = presetLabel;
-    return row;
-}
-constexpr PropertyRow onStrip(PropertyRow row) {
-    row.redrawStrip = true;
-    return row;
-}
-constexpr PropertyRow button(const char* key, const char* tip, const char* icon, Owner owner,
-                             bool Buttons::*pressed, Command command) {
-    PropertyRow row = plain(pressed != nullptr ? ButtonStyle::check : ButtonStyle::button);
-    row.key = key;
-    row.icon = icon;
-    row.owner = owner;
-    row.fixedTip = tip;
-    row.pressed = pressed;
-    row.command = command;
-    return row;
-}
+constexpr ButtonStyle drop = ButtonStyle::dropDown, check = ButtonStyle::check;
+constexpr PropertyRow line{.style = ButtonStyle::separator}, room{.style = ButtonStyle::room};
 
 constexpr const char* tenths = "0.0 0.1 0.2 0.3 0.4 0.5 0.6 0.7 0.8 0.9 1.0";
 constexpr const char* milliseconds = "1 2 5 10 15 20 30 40 50 100 500";
@@ -111,55 +43,91 @@ constexpr const char* velocities = "-100 -75 -50 -25 -10 -5 -2 -1 0 1 2 5 10 25 
 // clang-format off
 constexpr PropertyRow rows[] = {
     line,
-    forAll("gravity", "g", &Tips::gravity, global<&Editor::Gravity>, "-5 -4 -3 -2 -1 -0.5 -0.1 0 0.1 0.5 1 2 3 4 5",
-           "Gravity: ", {"Gravity: ", "Enter custom value for gravity:", "Gravity changed to "}),
-    forAll("friction", "f", &Tips::friction, global<&Editor::Friction>, tenths,
-           "Friction: ", {"Surface Friction: ", "Enter custom value for surface friction:", "Surface friction changed to "}),
-    forAll("viscosity", "v", &Tips::viscosity, global<&Editor::Viscosity>, "0.0 0.1 0.2 0.3 0.4 0.5 0.6 0.7 0.8 0.9",
-           "Viscosity: ", {"Viscosity: ", "Enter custom value for viscosity:", "Viscosity changed to "}),
-    forAll("wind", "w", &Tips::wind, global<&Editor::LeftWind>, "-10 -5 -2 -1 0 1 2 5 10",
-           "Wind: ", {"Wind: ", "Enter custom value for wind:", ""}),
-    forAll("bounce", "b", &Tips::bounce, global<&Editor::Bounce>, tenths,
-           "Bounce: ", {"Bounce: ", "Enter custom value for bounce:", "Bounce changed to "}),
-    forAll("interval", "t", &Tips::interval, global<&Editor::TimeInterval>, milliseconds,
-           "Interval: ", {"Time Interval: ", "Enter custom value for time interval:", "Time Interval changed to "}),
-    forAll("rate", "r", &Tips::rate, timerPeriod, milliseconds,
-           "Rate: ", {"Rate: ", "Enter custom value for rate:", "Rate changed to "}),
-    forAll("speed", "c", &Tips::speed, global<&Editor::DeltaAngle>, "1 2 3 4 5 6 7 8 9 10 15 20 25 30 35",
-           "Animation: ", {"Animator Speed: ", "Enter custom value for animator speed:", "Animator Speed changed to "}),
+    {.key = "gravity", .icon = "g", .style = drop, .tip = &Tips::gravity, .access = &global<&Editor::Gravity>,
+     .presets = "-5 -4 -3 -2 -1 -0.5 -0.1 0 0.1 0.5 1 2 3 4 5",
+     .label = "Gravity: ", .prompt = "Enter custom value for gravity:", .confirmation = "Gravity changed to ",
+     .startLabel = "Gravity: "},
+    {.key = "friction", .icon = "f", .style = drop, .tip = &Tips::friction, .access = &global<&Editor::Friction>,
+     .presets = tenths,
+     .label = "Surface Friction: ", .prompt = "Enter custom value for surface friction:", .confirmation = "Surface friction changed to ",
+     .startLabel = "Friction: "},
+    {.key = "viscosity", .icon = "v", .style = drop, .tip = &Tips::viscosity, .access = &global<&Editor::Viscosity>,
+     .presets = "0.0 0.1 0.2 0.3 0.4 0.5 0.6 0.7 0.8 0.9",
+     .label = "Viscosity: ", .prompt = "Enter custom value for viscosity:", .confirmation = "Viscosity changed to ",
+     .startLabel = "Viscosity: "},
+    {.key = "wind", .icon = "w", .style = drop, .tip = &Tips::wind, .access = &global<&Editor::LeftWind>,
+     .presets = "-10 -5 -2 -1 0 1 2 5 10",
+     .label = "Wind: ", .prompt = "Enter custom value for wind:",
+     .startLabel = "Wind: "},
+    {.key = "bounce", .icon = "b", .style = drop, .tip = &Tips::bounce, .access = &global<&Editor::Bounce>,
+     .presets = tenths,
+     .label = "Bounce: ", .prompt = "Enter custom value for bounce:", .confirmation = "Bounce changed to ",
+     .startLabel = "Bounce: "},
+    {.key = "interval", .icon = "t", .style = drop, .tip = &Tips::interval, .access = &global<&Editor::TimeInterval>,
+     .presets = milliseconds,
+     .label = "Time Interval: ", .prompt = "Enter custom value for time interval:", .confirmation = "Time Interval changed to ",
+     .startLabel = "Interval: "},
+    {.key = "rate", .icon = "r", .style = drop, .tip = &Tips::rate, .access = &timerPeriod,
+     .presets = milliseconds,
+     .label = "Rate: ", .prompt = "Enter custom value for rate:", .confirmation = "Rate changed to ",
+     .startLabel = "Rate: "},
+    {.key = "speed", .icon = "c", .style = drop, .tip = &Tips::speed, .access = &global<&Editor::DeltaAngle>,
+     .presets = "1 2 3 4 5 6 7 8 9 10 15 20 25 30 35",
+     .label = "Animator Speed: ", .prompt = "Enter custom value for animator speed:", .confirmation = "Animator Speed changed to ",
+     .startLabel = "Animation: "},
     line, line,
     room, room, room, room, room,
-    button("locked", "Lock Selected Node", "lock", Owner::node, &Buttons::locked, lockedClicked),
-    button("shooter", "Shooter", "shoot", Owner::node, &Buttons::shooter, shooterClicked),
-    button("color", "Node Color", "color", Owner::node, nullptr, colorClicked),
-    forNode("mass", "m", &Tips::mass, ofNode<&Node::Mass>, "0.1 0.5 1 2 5 10 25 50 100 ''",
-            {"Mass: ", "Enter custom value for mass:", "Mass changed to "}),
-    forNode("gforce", "g", &Tips::gforce, ofNode<&Node::Gravity>,
-            "-100 -75 -50 -25 -20 -15 -10 -5 -2 -1 0 1 2 5 10 15 20 25 50 75 100",
-            {"Gravitational Force: ", "Enter custom value for gravitational force:", "Gravitational Force changed to "}),
-    forNode("rotate", "r", &Tips::rotate, ofNode<&Node::Rotate>,
-            "-5 -4 -3 -2 -1 -0.5 -0.2 -0.1 0 0.1 0.2 0.5 1 2 3 4 5",
-            {"Rotational Force: ", "Enter custom value for rotational force:", "Rotational Force changed to "}),
-    presetsOnly("direction", "direction", &Tips::direction, &Tips::vxo, ofNode<&Node::Vxo>,
-                "0 30 45 60 90 120 135 150 180 210 225 240 270 300 315 330 360", "Initial Direction: "),
-    presetsOnly("velocity", "magnitude", &Tips::velocity, &Tips::vyo, ofNode<&Node::Vyo>, velocities,
-                "Initial Velocity: "),
-    inPair(Pair::components, forNode("vxo", "vxo", &Tips::vxo, ofNode<&Node::Vxo>, velocities,
-            {"Initial X-Velocity: ", "Enter custom value for initial X-velocity:", "Node Initial X-Velocity changed to "})),
-    inPair(Pair::components, forNode("vyo", "vyo", &Tips::vyo, ofNode<&Node::Vyo>,
-            "-100 -50 -25 -10 -5 -2 -1 0 1 2 5 10 25 50 100",
-            {"Initial Y-Velocity: ", "Enter custom value for initial Y-velocity:", "Node Initial Y-Velocity changed to "})),
+    {.key = "locked", .icon = "lock", .style = check, .owner = Owner::node, .fixedTip = "Lock Selected Node",
+     .pressed = &Buttons::locked, .command = lockedClicked},
+    {.key = "shooter", .icon = "shoot", .style = check, .owner = Owner::node, .fixedTip = "Shooter",
+     .pressed = &Buttons::shooter, .command = shooterClicked},
+    {.key = "color", .icon = "color", .owner = Owner::node, .fixedTip = "Node Color",
+     .command = colorClicked},
+    {.key = "mass", .icon = "m", .style = drop, .owner = Owner::node, .tip = &Tips::mass, .access = &ofNode<&Node::Mass>,
+     .presets = "0.1 0.5 1 2 5 10 25 50 100 ''",
+     .label = "Mass: ", .prompt = "Enter custom value for mass:", .confirmation = "Mass changed to "},
+    {.key = "gforce", .icon = "g", .style = drop, .owner = Owner::node, .tip = &Tips::gforce, .access = &ofNode<&Node::Gravity>,
+     .presets = "-100 -75 -50 -25 -20 -15 -10 -5 -2 -1 0 1 2 5 10 15 20 25 50 75 100",
+     .label = "Gravitational Force: ", .prompt = "Enter custom value for gravitational force:", .confirmation = "Gravitational Force changed to "},
+    {.key = "rotate", .icon = "r", .style = drop, .owner = Owner::node, .tip = &Tips::rotate, .access = &ofNode<&Node::Rotate>,
+     .presets = "-5 -4 -3 -2 -1 -0.5 -0.2 -0.1 0 0.1 0.2 0.5 1 2 3 4 5",
+     .label = "Rotational Force: ", .prompt = "Enter custom value for rotational force:", .confirmation = "Rotational Force changed to "},
+    {.key = "direction", .icon = "direction", .style = drop, .owner = Owner::node, .pair = Pair::directional,
+     .tip = &Tips::direction, .access = &ofNode<&Node::Vxo>,
+     .presets = "0 30 45 60 90 120 135 150 180 210 225 240 270 300 315 330 360",
+     .label = "Initial Direction: ", .presetTip = &Tips::vxo},
+    {.key = "velocity", .icon = "magnitude", .style = drop, .owner = Owner::node, .pair = Pair::directional,
+     .tip = &Tips::velocity, .access = &ofNode<&Node::Vyo>, .presets = velocities,
+     .label = "Initial Velocity: ", .presetTip = &Tips::vyo},
+    {.key = "vxo", .icon = "vxo", .style = drop, .owner = Owner::node, .pair = Pair::components, .tip = &Tips::vxo, .access = &ofNode<&Node::Vxo>,
+     .presets = velocities,
+     .label = "Initial X-Velocity: ", .prompt = "Enter custom value for initial X-velocity:", .confirmation = "Node Initial X-Velocity changed to "},
+    {.key = "vyo", .icon = "vyo", .style = drop, .owner = Owner::node, .pair = Pair::components, .tip = &Tips::vyo, .access = &ofNode<&Node::Vyo>,
+     .presets = "-100 -50 -25 -10 -5 -2 -1 0 1 2 5 10 25 50 100",
+     .label = "Initial Y-Velocity: ", .prompt = "Enter custom value for initial Y-velocity:", .confirmation = "Node Initial Y-Velocity changed to "},
     line, line,
-    button("animator", "Animation Enabled", "start", Owner::link, &Buttons::animator, animatorClicked),
-    forLink("k", "k", &Tips::k, ofLink<&Link::k>, "0 1 2 3 4 5 10 20 25 50 100 500", "k: ",
-            {"Spring Constant: ", "Enter custom value for spring constant:", "Spring Constant (k) changed to "}),
-    onStrip(forLink("angle", "a", &Tips::angle, ofLink<&Link::Angle>, "0 45 90 135 180 225 270 315 360", "Angle: ",
-            {"Animation Phase Angle: ", "Enter custom value for angle:", "Animation Phase Angle changed to "})),
-    forLink("force", "f", &Tips::force, ofLink<&Link::Force>, "0.1 0.2 0.3 0.4 0.5 0.6 0.7 0.8 0.9", "Force: ",
-            {"Animator Force: ", "Enter custom value for animator force:", "Animator Force changed to "}),
-    button("barrier", "Use as Barrier", "flagred", Owner::link, &Buttons::barrier, linkBarrierClicked),
+    {.key = "animator", .icon = "start", .style = check, .owner = Owner::link, .fixedTip = "Animation Enabled",
+     .pressed = &Buttons::animator, .command = animatorClicked},
+    {.key = "k", .icon = "k", .style = drop, .owner = Owner::link, .tip = &Tips::k, .access = &ofLink<&Link::k>,
+     .presets = "0 1 2 3 4 5 10 20 25 50 100 500",
+     .label = "Spring Constant: ", .prompt = "Enter custom value for spring constant:", .confirmation = "Spring Constant (k) changed to ",
+     .presetLabel = "k: "},
+    {.key = "angle", .icon = "a", .style = drop, .owner = Owner::link, .tip = &Tips::angle, .access = &ofLink<&Link::Angle>,
+     .presets = "0 45 90 135 180 225 270 315 360",
+     .label = "Animation Phase Angle: ", .prompt = "Enter custom value for angle:", .confirmation = "Animation Phase Angle changed to ",
+     .presetLabel = "Angle: ",
+     .redrawStrip = true},
+    {.key = "force", .icon = "f", .style = drop, .owner = Owner::link, .tip = &Tips::force, .access = &ofLink<&Link::Force>,
+     .presets = "0.1 0.2 0.3 0.4 0.5 0.6 0.7 0.8 0.9",
+     .label = "Animator Force: ", .prompt = "Enter custom value for animator force:", .confirmation = "Animator Force changed to ",
+     .presetLabel = "Force: "},
+    {.key = "barrier", .icon = "flagred", .style = check, .owner = Owner::link, .fixedTip = "Use as Barrier",
+     .pressed = &Buttons::barrier, .command = linkBarrierClicked},
 };
 // clang-format on
+static_assert(!anyShared(rows, [](const PropertyRow& row) { return std::string_view(row.key); }) &&
+                  !anyShared(rows, [](const PropertyRow& row) { return row.pressed; }),
+              "two buttons share a key or a state");
 
 bool ownerExists(const Editor& ed, const PropertyRow& row) {
     if (row.owner == Owner::node) return nodeExists(ed, ed.SelectedNode);
@@ -168,9 +136,9 @@ bool ownerExists(const Editor& ed, const PropertyRow& row) {
 }
 
 void askForValue(Editor& ed, Host& host, const PropertyRow& row) {
-    const std::string answer = host.numberBox(row.prompt, "Custom Value", row.access->text(ed));
-    if (answer.empty()) return;
-    if (!row.access->store(ed, leadingNumber(answer))) return refuse(ed, host, row.access->refusal);
+    const auto answer = askNumber(host, row.prompt, "Custom Value", row.access->text(ed));
+    if (!answer) return;
+    if (!row.access->store(ed, *answer)) return refuse(ed, host, row.access->refusal);
     const std::string value = row.access->text(ed);
     ed.tips.*row.tip = row.label + value;
     if (row.redrawStrip) redrawPhaseManager(ed, ed.AnimationTime);
@@ -196,7 +164,8 @@ std::vector<std::string> presetTexts(const PropertyRow& row) {
 void choosePreset(Editor& ed, Host&, const PropertyRow& row, const std::string& text) {
     if (!ownerExists(ed, row)) return;
     row.access->store(ed, leadingNumber(text));
-    ed.tips.*row.presetTip = row.presetLabel + row.access->text(ed);
+    const auto tip = row.presetTip != nullptr ? row.presetTip : row.tip;
+    ed.tips.*tip = (row.presetLabel != nullptr ? row.presetLabel : row.label) + row.access->text(ed);
     if (row.redrawStrip) redrawPhaseManager(ed, ed.AnimationTime);
     if (!ed.buttons.start) DisplayScene(ed, -1, -1);
 }

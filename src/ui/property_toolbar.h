@@ -24,24 +24,28 @@ struct Access {
 };
 
 struct PropertyRow {
-    const char* key;
-    const char* icon;
-    ButtonStyle style;
-    Owner owner;
-    Pair pair;
-    std::string Tips::*tip;        // what hovering shows
-    const char* fixedTip;          // the same for buttons whose tip never changes
-    const Access* access;          // of drop-down buttons
-    std::string_view presets;      // texts of the preset menu, parted by blanks; "''" is an empty text
-    const char* presetLabel;       // before the value in the tip, after a preset was chosen
-    std::string Tips::*presetTip;  // whose tip that is
-    const char* startLabel;        // the same at start-up; nullptr for none
-    const char* prompt;            // nullptr: the face does nothing
-    const char* label;             // the same after an answer
-    const char* confirmation;      // before the value in status panel 5; empty for none
-    bool redrawStrip;              // the phase strip shows this quantity
-    bool Buttons::*pressed;        // of two-state buttons
-    Command command;               // of buttons that are not drop-down
+    const char* key = "";
+    const char* icon = "";
+    ButtonStyle style = ButtonStyle::button;
+    Owner owner = Owner::global;
+    Pair pair = Pair::always;
+
+    // Of buttons that are not drop-down.
+    const char* fixedTip = "";
+    bool Buttons::*pressed = nullptr;  // of two-state buttons
+    Command command = nullptr;
+
+    // Of drop-down buttons.
+    std::string Tips::*tip = nullptr;  // what hovering shows
+    const Access* access = nullptr;
+    std::string_view presets = "";      // texts of the preset menu, parted by blanks; "''" is an empty text
+    const char* label = "";             // before the value in the tip
+    const char* prompt = nullptr;       // nullptr: the face does nothing
+    const char* confirmation = "";      // before the value in status panel 5; empty for none
+    const char* startLabel = nullptr;   // instead of the label at start-up; nullptr: the tip waits
+    const char* presetLabel = nullptr;  // instead of the label after a preset was chosen
+    std::string Tips::*presetTip = nullptr;  // which shows that value instead of the button's own tip
+    bool redrawStrip = false;                // the phase strip shows this quantity
 
     bool isButton() const { return style != ButtonStyle::separator && style != ButtonStyle::room; }
     bool isVisible(const Editor& ed) const {

@@ -1,10 +1,12 @@
 #include "ui/settings.h"
 
+#include "model/no_doubles.h"
 #include "model/numbers.h"
 #include "model/rate.h"
 #include "project/forms.h"
 #include "ui/options.h"
 
+#include <string_view>
 #include <variant>
 
 namespace zentrik {
@@ -19,69 +21,70 @@ using Slot = std::variant<float Placement::*, bool Marks::*, bool Buttons::*, fl
 
 struct SettingRow {
     const char* key;
-    const char* byDefault;
     Slot slot;
+    const char* firstRun = nullptr;  // where it is not what a fresh record holds
 };
 
 // clang-format off
-const SettingRow rows[] = {
-    {"MainLeft", "1200", &Placement::left},
-    {"MainTop", "1200", &Placement::top},
-    {"MainWidth", "13500", &Placement::width},
-    {"MainHeight", "5000", &Placement::height},
-    {"UseDirectional", "True", &Marks::mnuUseDirectional},
-    {"IgnoreBarriers", "True", &Marks::mnuIgnoreBarriers},
-    {"ReverseModel", "True", &Marks::mnuReverseModel},
-    {"Persistent", "False", &Marks::mnuPersistentFireworks},
-    {"CannonBall", "False", &Marks::mnuCannonBallFocus},
-    {"Walls", "True", &Marks::mnuWalls},
-    {"Ceiling", "True", &Marks::mnuCeiling},
-    {"Fireworks", "False", &Marks::mnuDisplayFireWorks},
-    {"UseRandom", "False", &Marks::mnuUseRandom},
-    {"Random", "False", &Marks::mnuRandom},
-    {"AutoResume", "True", &Marks::mnuAutoResume},
-    {"DisplayTitle", "False", &Marks::mnuDisplayTitle},
-    {"AllowZero", "False", &Marks::mnuAllowZero},
-    {"AllowGrid", "False", &Marks::mnuAllowGrid},
-    {"AllowSprites", "False", &Marks::mnuAllowSprites},
-    {"DisplayBrowser", "False", &Marks::mnuDisplayBrowser},
-    {"ApplyChanges", "False", &Marks::mnuApplyChanges},
-    {"DisplayManager", "False", &Marks::mnuDisplayAngleManager},
-    {"AutoWindow", "False", &Marks::mnuAutoWindowSize},
-    {"NodeRadius", "60", &Editor::NodeRadius},
-    {"DefaultLinkK", "5", &Editor::DefaultLinkK},
-    {"DefaultLinkForce", "0.2", &Editor::DefaultLinkForce},
-    {"StructureParm", "20:1000", &Editor::StructureParm},
-    {"Friction", "0.2", &Editor::Friction},
-    {"Viscosity", "0", &Editor::Viscosity},
-    {"LeftWind", "0", &Editor::LeftWind},
-    {"TimeInterval", "20", &Editor::TimeInterval},
-    {"Gravity", "1", &Editor::Gravity},
-    {"Bounce", "0.5", &Editor::Bounce},
-    {"Speed", "20", TimerPeriod{}},
-    {"DeltaAngle", "0.1", &Editor::DeltaAngle},
-    {"LinkColor", "0", &Editor::LinkColor},
-    {"NodeColor", "0", &Editor::NodeColor},
-    {"GridSize", "250", &Editor::GridSize},
-    {"GridRadius", "15", &Editor::GridRadius},
-    {"ShooterDirection", "0.7825", &Editor::ShooterDirection},
-    {"ShooterVelocity", "8000", &Editor::ShooterVelocity},
-    {"BackColor", "16777215", &Editor::BackColor},
-    {"Line", "1", &Buttons::line},
-    {"Ball", "1", &Buttons::ball},
-    {"Slow", "0", &Buttons::slow},
-    {"Draw", "1", &Buttons::draw},
-    {"Same", "1", &Buttons::same},
-    {"Animation", "1", &Buttons::animation},
-    {"DisplayData", "0", &Buttons::data},
-    {"SnapToGrid", "0", &Buttons::snap},
-    {"DisplayGrid", "0", &Buttons::grid},
-    {"PrintNumbers", "0", &Buttons::numbers},
-    {"SimpleNumbers", "1", &Buttons::simple},
-    {"Sprite", "0", &Buttons::sprite},
+constexpr SettingRow rows[] = {
+    {"MainLeft", &Placement::left},
+    {"MainTop", &Placement::top},
+    {"MainWidth", &Placement::width},
+    {"MainHeight", &Placement::height},
+    {"UseDirectional", &Marks::mnuUseDirectional, "True"},
+    {"IgnoreBarriers", &Marks::mnuIgnoreBarriers, "True"},
+    {"ReverseModel", &Marks::mnuReverseModel, "True"},
+    {"Persistent", &Marks::mnuPersistentFireworks},
+    {"CannonBall", &Marks::mnuCannonBallFocus},
+    {"Walls", &Marks::mnuWalls, "True"},
+    {"Ceiling", &Marks::mnuCeiling, "True"},
+    {"Fireworks", &Marks::mnuDisplayFireWorks},
+    {"UseRandom", &Marks::mnuUseRandom},
+    {"Random", &Marks::mnuRandom},
+    {"AutoResume", &Marks::mnuAutoResume, "True"},
+    {"DisplayTitle", &Marks::mnuDisplayTitle},
+    {"AllowZero", &Marks::mnuAllowZero},
+    {"AllowGrid", &Marks::mnuAllowGrid},
+    {"AllowSprites", &Marks::mnuAllowSprites},
+    {"DisplayBrowser", &Marks::mnuDisplayBrowser},
+    {"ApplyChanges", &Marks::mnuApplyChanges},
+    {"DisplayManager", &Marks::mnuDisplayAngleManager},
+    {"AutoWindow", &Marks::mnuAutoWindowSize},
+    {"NodeRadius", &Editor::NodeRadius},
+    {"DefaultLinkK", &Editor::DefaultLinkK},
+    {"DefaultLinkForce", &Editor::DefaultLinkForce},
+    {"StructureParm", &Editor::StructureParm},
+    {"Friction", &Editor::Friction},
+    {"Viscosity", &Editor::Viscosity},
+    {"LeftWind", &Editor::LeftWind},
+    {"TimeInterval", &Editor::TimeInterval},
+    {"Gravity", &Editor::Gravity},
+    {"Bounce", &Editor::Bounce},
+    {"Speed", TimerPeriod{}},
+    {"DeltaAngle", &Editor::DeltaAngle},
+    {"LinkColor", &Editor::LinkColor},
+    {"NodeColor", &Editor::NodeColor},
+    {"GridSize", &Editor::GridSize},
+    {"GridRadius", &Editor::GridRadius},
+    {"ShooterDirection", &Editor::ShooterDirection},
+    {"ShooterVelocity", &Editor::ShooterVelocity},
+    {"BackColor", &Editor::BackColor},
+    {"Line", &Buttons::line},
+    {"Ball", &Buttons::ball},
+    {"Slow", &Buttons::slow},
+    {"Draw", &Buttons::draw},
+    {"Same", &Buttons::same},
+    {"Animation", &Buttons::animation, "1"},
+    {"DisplayData", &Buttons::data},
+    {"SnapToGrid", &Buttons::snap},
+    {"DisplayGrid", &Buttons::grid},
+    {"PrintNumbers", &Buttons::numbers},
+    {"SimpleNumbers", &Buttons::simple, "1"},
+    {"Sprite", &Buttons::sprite},
 };
 // clang-format on
-static_assert(std::size(rows) == 54);
+static_assert(std::size(rows) == 54 &&
+              !anyShared(rows, [](const SettingRow& row) { return std::string_view(row.key); }));
 
 // Stands beside the table: whether the window comes back maximised.
 constexpr const char* maximizedKey = "Maximized";
@@ -104,6 +107,14 @@ struct Place {
 bool convert(const SettingRow& row, const std::string& text, Editor& ed, Placement& placement) {
     const Place<Editor, Placement> place{ed, placement};
     return std::visit([&](auto slot) { return readForm(text, place(slot)); }, row.slot);
+}
+
+void takeFresh(const SettingRow& row, Editor& ed, Placement& placement) {
+    const Editor fresh;
+    const Placement freshPlacement;
+    const Place<Editor, Placement> place{ed, placement};
+    const Place<const Editor, const Placement> from{fresh, freshPlacement};
+    std::visit([&](auto slot) { place(slot) = from(slot); }, row.slot);
 }
 
 bool isAcceptable(const SettingRow& row, const Editor& ed) {
@@ -131,7 +142,10 @@ void getSettings(Editor& ed, Placement& placement, SettingsStore& store) {
     for (const SettingRow& row : rows) {
         const std::optional<std::string> text = store.read(row.key);
         if (text && convert(row, *text, ed, placement) && isAcceptable(row, ed)) continue;
-        convert(row, row.byDefault, ed, placement);
+        if (row.firstRun != nullptr)
+            convert(row, row.firstRun, ed, placement);
+        else
+            takeFresh(row, ed, placement);
     }
     ed.windowMaximized = store.read(maximizedKey) == "True";
     setNodeRadius(ed, ed.NodeRadius);

@@ -12,7 +12,7 @@ std::int32_t addNode(Editor& ed, std::int32_t x, std::int32_t y) {
     node.X = x;
     node.Y = y;
     node.Mass = 1;
-    node.Res1 = none;
+    node.Trigger = none;
     node.Sprite = noSprite;
     node.color = ed.NodeColor;
     return appendNode(ed, node);

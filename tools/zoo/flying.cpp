@@ -112,7 +112,7 @@ Editor range() {
         const std::int32_t cannon = pin(ed, x, y, m == 0 ? coral : navy);
         const std::int32_t trigger = pin(ed, x + aims[m][0], y + aims[m][1], stone);
         join(ed, cannon, trigger, 5);
-        nodeAt(ed, cannon).Res1 = trigger;
+        nodeAt(ed, cannon).Trigger = trigger;
     }
     for (int m = 0; m < 4; ++m) {
         const double x = 4700 + 2250 * m, y = 900 + 450 * (m % 2);

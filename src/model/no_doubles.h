@@ -1,0 +1,17 @@
+#pragma once
+#include <cstddef>
+
+namespace zentrik {
+
+// Whether two rows of a table give the same for a quality that tells rows apart. Rows which have none (a null
+// pointer, an empty text) share nothing. For static_assert beside the table.
+template <class Row, std::size_t count, class Quality>
+constexpr bool anyShared(const Row (&rows)[count], Quality quality) {
+    using Value = decltype(quality(rows[0]));
+    for (std::size_t a = 0; a < count; ++a)
+        for (std::size_t b = a + 1; b < count; ++b)
+            if (quality(rows[a]) != Value() && quality(rows[a]) == quality(rows[b])) return true;
+    return false;
+}
+
+}  // namespace zentrik
