@@ -8,9 +8,11 @@ namespace zentrik {
 template <class Row, std::size_t count, class Quality>
 constexpr bool anyShared(const Row (&rows)[count], Quality quality) {
     using Value = decltype(quality(rows[0]));
+    Value values[count] = {};  // worked out once: a compiler counts the steps it takes
+    for (std::size_t i = 0; i < count; ++i) values[i] = quality(rows[i]);
     for (std::size_t a = 0; a < count; ++a)
-        for (std::size_t b = a + 1; b < count; ++b)
-            if (quality(rows[a]) != Value() && quality(rows[a]) == quality(rows[b])) return true;
+        for (std::size_t b = a + 1; b < count && values[a] != Value(); ++b)
+            if (values[a] == values[b]) return true;
     return false;
 }
 
