@@ -3,6 +3,7 @@
 // the working folder takes its place.
 
 #include "desk.h"
+#include "model/redraw.h"
 #include "project/columns.h"
 #include "project/forms.h"
 #include "temporary_folder.h"
@@ -14,12 +15,12 @@ namespace zentrik {
 namespace {
 
 // Three nodes in a crooked chain and a free one that shoots at the first, no two alike in anything; the
-// second node and the first link are selected.
+// second node and the first link are selected. The last node and link slots are free.
 Editor unlikeModel() {
     Editor ed = scenes::fullScreen();
-    scenes::addNodes(ed, {{2000, 3000}, {4100, 2500}, {5300, 5200}, {9000, 4000}});
-    scenes::addLinks(ed, {{1, 2}, {2, 3}});
-    for (std::int32_t i = 1; i <= 4; ++i) {
+    scenes::addNodes(ed, {{2000, 3000}, {4100, 2500}, {5300, 5200}, {9000, 4000}, {500, 600}});
+    scenes::addLinks(ed, {{1, 2}, {2, 3}, {3, 4}});
+    for (std::int32_t i = 1; i <= 5; ++i) {
         Node& node = nodeAt(ed, i);
         const auto f = static_cast<float>(i);
         node.Mass = 1 + f, node.Gravity = f, node.Vx = 10 * f, node.Vy = 20 * f, node.Fx = f, node.Fy = -f;
@@ -28,7 +29,7 @@ Editor unlikeModel() {
         node.Locked = i == 1 || i == 4;
         node.Sprite = i == 3 ? "ant.svg" : noSprite;
     }
-    for (std::int32_t j = 1; j <= 2; ++j) {
+    for (std::int32_t j = 1; j <= 3; ++j) {
         Link& link = linkAt(ed, j);
         const auto f = static_cast<float>(j);
         link.k = 4 * f, link.Angle = 90 * f, link.Force = f / 4, link.Animator = j == 2,
@@ -36,6 +37,11 @@ Editor unlikeModel() {
     }
     ed.Viscosity = 0.25F, ed.LeftWind = 3, ed.AnimationTime = 1.5F, ed.ProjectTitle = "unlike";
     ed.SelectedNode = 2, ed.SelectedLink = 1, ed.LastShooter = 4;
+    nodeAt(ed, 5).Used = linkAt(ed, 3).Used = false;
+    ed.marks.mnuDisplayAngleManager = true;
+    ed.phaseWidth = 28680;
+    DrawPhaseManager(ed, ed.AnimationTime);
+    ed.phaseStale = ed.sceneStale = false;
     ed.savedText = "unlike";
     ed.spriteNames = {noSprite, "ant.svg"};
     ed.chance.seedSource = [] { return std::uint64_t{7}; };
@@ -117,6 +123,8 @@ void tellSettings(std::string& out, const Editor& a, const Editor& b) {
     tell(out, "Timer1 period", a.Timer1.interval, b.Timer1.interval);
     tell(out, "timerFireWorks runs", a.timerFireWorks.enabled, b.timerFireWorks.enabled);
     tell(out, "title", a.ProjectTitle, b.ProjectTitle);
+    tell(out, "strip redrawn", a.phaseStale, b.phaseStale);
+    tell(out, "scene redrawn", a.sceneStale, b.sceneStale);
     tell(out, "instructions", a.instructionsShown, b.instructionsShown);
     tell(out, "single step", a.SingleStep, b.SingleStep);
 }
@@ -134,13 +142,19 @@ void tellFlags(std::string& out, const Editor& a, const Editor& b) {
     buttons(propertyRows());
 }
 
+// What the commands apply to.
+enum class Scope { everything, selectedObject, missingObject };
+
 class EveryRow : public testing::Test {
 protected:
     std::string text_;
+    Scope scope_ = Scope::everything;
 
     template <class Act>
     void tellRow(const std::string& name, Act act) {
         Editor ed = unlikeModel();
+        ed.marks.mnuApplyChanges = scope_ != Scope::everything;
+        if (scope_ == Scope::missingObject) ed.SelectedNode = ed.SelectedLink = none;
         const Editor before = ed;
         ScriptedHost host;
         host.answers = {"60:700"};
@@ -155,26 +169,40 @@ protected:
         tellRecords(text_, "Link", linkColumns, before.Links, ed.Links);
         tellSettings(text_, before, ed);
         tellFlags(text_, before, ed);
+        if (host.beeps != 0) text_ += "  beeps " + std::to_string(host.beeps) + "\n";
         if (panel(ed, 5) != before.panels[4]) text_ += "  says " + panel(ed, 5) + "\n";
+    }
+
+    void tellAll() {
+        for (const MenuRow& row : menuRows())
+            if (!row.isMenu() && !row.isSeparator())
+                tellRow(
+                    std::string(row.name) + (row.shortcut != nullptr ? std::string(" ") + row.shortcut : ""),
+                    [&](Editor& ed, Host& host) { chooseMenu(ed, host, row); });
+        for (const CommandRow& row : commandRows())
+            if (row.isButton())
+                tellRow(std::string("command ") + row.key,
+                        [&](Editor& ed, Host& host) { pressCommand(ed, host, row); });
+        for (const PropertyRow& row : propertyRows()) {
+            if (!row.isButton()) continue;
+            tellRow(std::string("property ") + row.key,
+                    [&](Editor& ed, Host& host) { pressProperty(ed, host, row); });
+            if (row.style == ButtonStyle::dropDown)
+                tellRow(std::string("preset ") + row.key, [&](Editor& ed, Host& host) {
+                    choosePreset(ed, host, row, presetTexts(row).front());
+                });
+        }
     }
 };
 
 TEST_F(EveryRow, ChangesWhatItIsThereFor) {
-    for (const MenuRow& row : menuRows())
-        if (!row.isMenu() && !row.isSeparator())
-            tellRow(std::string(row.name) + (row.shortcut != nullptr ? std::string(" ") + row.shortcut : ""),
-                    [&](Editor& ed, Host& host) { chooseMenu(ed, host, row); });
-    for (const CommandRow& row : commandRows())
-        if (row.isButton())
-            tellRow(std::string("command ") + row.key,
-                    [&](Editor& ed, Host& host) { pressCommand(ed, host, row); });
-    for (const PropertyRow& row : propertyRows()) {
-        if (!row.isButton()) continue;
-        tellRow(std::string("property ") + row.key,
-                [&](Editor& ed, Host& host) { pressProperty(ed, host, row); });
-        if (row.style == ButtonStyle::dropDown)
-            tellRow(std::string("preset ") + row.key,
-                    [&](Editor& ed, Host& host) { choosePreset(ed, host, row, presetTexts(row).front()); });
+    for (const auto& [scope, title] :
+         {std::pair{Scope::everything, "== the whole model"},
+          {Scope::selectedObject, "== the selected object only"},
+          {Scope::missingObject, "== the selected object only, where there is none"}}) {
+        scope_ = scope;
+        text_ += std::string(title) + "\n";
+        tellAll();
     }
     putFile("rows.txt", text_);  // for whoever changes a row on purpose
     EXPECT_EQ(text_, contentOf(ZENTRIK_SOURCE_DIR "/tests/rows.txt"));
