@@ -93,8 +93,7 @@ void SceneView::keepLayers() {
     under_ = layer(colorOf(ed_.BackColor), [this](const Canvas& canvas) { drawUnderMarks(canvas, ed_); });
     over_ = QPixmap();
     if (anythingOverMarks(ed_))
-        over_ =
-            layer(Qt::transparent, [this](const Canvas& canvas) { drawOverMarks(canvas, ed_, sprites); });
+        over_ = layer(Qt::transparent, [this](const Canvas& canvas) { drawOverMarks(canvas, ed_, sprites); });
     current_ = true;
 }
 
