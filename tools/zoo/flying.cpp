@@ -17,7 +17,7 @@ namespace {
 void bird(Editor& ed, double x, double y, std::int32_t color, double beat) {
     const std::int32_t back = ball(ed, x, y, color, 2), chest = ball(ed, x, y + 280, color, 3);
     const std::int32_t head = ball(ed, x, y + 60, amber, 1);
-    join(ed, pin(ed, x, 200), back, 2);
+    join(ed, pin(ed, x, 420), back, 2);
     join(ed, back, chest, 10);
     join(ed, head, chest, 10);
     join(ed, head, back, 10);
@@ -43,12 +43,23 @@ void jelly(Editor& ed, double x, double y, std::int32_t color, std::int32_t fril
     brace(ed, dome, inside, 6);
     for (const std::int32_t j : rim) drive(ed, j, beat + 180, 0.15);
     for (const std::int32_t j : lining) drive(ed, j, beat, 0.3);
+    // What keeps it from turning inside out.
+    for (std::size_t m = 0; m < 4; ++m) join(ed, dome[m], dome[8 - m], 0.4F);
+    for (const std::size_t m : {0U, 2U, 6U, 8U}) join(ed, dome[m], inside[4], 0.4F);
+    // Tied to each other, the arms hang like a curtain.
+    Numbers before;
     for (const std::size_t m : {1U, 3U, 5U, 7U}) {
         Numbers arm{inside[m]};
         const double ax = x - 420 * std::cos(std::numbers::pi * static_cast<double>(m) / (ribs - 1));
         for (int n = 1; n <= 6; ++n) arm.push_back(ball(ed, ax, y + 230 * n - 150, frill, 0.4F));
         chain(ed, arm, 3);
         for (std::size_t n = 2; n < arm.size(); ++n) join(ed, arm[n - 2], arm[n], 1);
+        for (std::size_t n = 1; n < before.size(); ++n) {
+            join(ed, before[n], arm[n], 0.6F);
+            join(ed, before[n - 1], arm[n], 0.4F);
+            join(ed, before[n], arm[n - 1], 0.4F);
+        }
+        before = arm;
     }
 }
 
@@ -57,70 +68,40 @@ void jelly(Editor& ed, double x, double y, std::int32_t color, std::int32_t fril
 Editor birds() {
     Editor ed = project("Birds on strings", {.gravity = 0.1F, .viscosity = 0.01F, .deltaAngle = 5});
     const std::int32_t colors[] = {navy, coral, teal, plum, leaf, rose, sky};
-    for (int m = 0; m < 7; ++m) bird(ed, 1300 + 1940 * m, 750 + 250 * (m * 3 % 7), colors[m], 75.0 * m);
+    for (int m = 0; m < 7; ++m) bird(ed, 1300 + 1940 * m, 850 + 230 * (m * 3 % 7), colors[m], 75.0 * m);
     return ed;
 }
 
 Editor jellyfish() {
-    Editor ed = project("Jellyfish", {.gravity = 0, .viscosity = 0.08F, .deltaAngle = 3});
-    jelly(ed, 2000, 1100, rose, coral, 0);
-    jelly(ed, 4550, 1300, sky, navy, 90);
-    jelly(ed, 7100, 1000, amber, sand, 200);
-    jelly(ed, 9650, 1350, plum, rose, 300);
-    jelly(ed, 12200, 1100, teal, lime, 140);
+    Editor ed = project("Jellyfish", {.gravity = 0, .viscosity = 0.12F, .deltaAngle = 3});
+    jelly(ed, 2000, 1250, rose, coral, 0);
+    jelly(ed, 4550, 1450, sky, navy, 90);
+    jelly(ed, 7100, 1150, amber, sand, 200);
+    jelly(ed, 9650, 1500, plum, rose, 300);
+    jelly(ed, 12200, 1250, teal, lime, 140);
     return ed;
 }
 
-// Planets on the arms of an orrery, with a moon each. The step damps what it turns, the more the faster
-// it turns; a Viscosity below zero gives just as much back, and more to the lighter ones. So a planet of
-// mass m settles at an angular speed of sqrt(-20 x Viscosity / (m x dt)), whatever its start.
-Editor planets() {
-    Editor ed = project("Three suns and their planets", {.gravity = 0, .viscosity = -0.0012F});
-    const double settled = std::sqrt(-20 * static_cast<double>(ed.Viscosity) / 0.01);  // for a mass of 1
-    for (int s = 0; s < 3; ++s) {
-        const double x = 2000 + 5080 * s, y = 1500;
-        const std::int32_t sun = pin(ed, x, y, coral);
-        nodeAt(ed, sun).Gravity = 0.2F;
-        for (int m = 0; m < 5; ++m) {
-            const double radius = 380 + 220 * m, mass = 0.4 * std::pow(1.7, m);
-            const int degrees = 137 * m + 40 * s;
-            const double angle = degrees * std::numbers::pi / 180;
-            const double px = x + radius * std::cos(angle), py = y - radius * std::sin(angle);
-            const std::int32_t planet = ball(ed, px, py, rainbow[(m * 2 + s * 3) % 9], toReal(mass));
-            nodeAt(ed, planet).Gravity = 0.001F;
-            join(ed, sun, planet, 3);
-            const int forward = (degrees + (s == 1 ? 270 : 90)) % 360;
-            launch(ed, planet, forward, radius * settled / std::sqrt(mass));
-            if (m % 2 == 0 && m != 4) continue;
-            const double away = m == 4 ? -190 : 150;
-            const std::int32_t moon =
-                ball(ed, px + away * std::cos(angle), py - away * std::sin(angle), snow, 0.3F);
-            join(ed, planet, moon, 3);
-            launch(ed, moon, forward, radius * settled / std::sqrt(mass) + away * settled / std::sqrt(0.3));
-        }
-    }
-    return ed;
-}
-
-// Cannons aim away from their triggers. Targets push a ball away when it comes close.
-Editor range() {
-    Editor ed = project("Shooting range: start, select a cannon, and fire",
+// A shooter that is another one's trigger passes the shot on. Targets push a ball away when it comes close.
+Editor gallery() {
+    Editor ed = project("Start, click the red square, press Ctrl+F: the last cannon fires the shot",
                         {.gravity = 0.4F, .friction = 0.02F, .bounce = 0.9F, .deltaAngle = 2});
-    const double aims[][2] = {{-380, 380}, {-480, 260}};
-    for (int m = 0; m < 2; ++m) {
-        const double x = 900 + 1100 * m, y = 2300;
-        const std::int32_t cannon = pin(ed, x, y, m == 0 ? coral : navy);
-        const std::int32_t trigger = pin(ed, x + aims[m][0], y + aims[m][1], stone);
-        join(ed, cannon, trigger, 5);
-        nodeAt(ed, cannon).Trigger = trigger;
+    const std::int32_t trigger = pin(ed, 500, 2750, stone);
+    Numbers cannons{pin(ed, 800, 2600, coral), pin(ed, 1250, 2450, amber), pin(ed, 1600, 2150, navy)};
+    std::int32_t before = trigger;
+    for (const std::int32_t n : cannons) {
+        join(ed, before, n, 5);
+        nodeAt(ed, n).Trigger = before;
+        before = n;
     }
     for (int m = 0; m < 4; ++m) {
-        const double x = 4700 + 2250 * m, y = 900 + 450 * (m % 2);
-        const std::int32_t hook = rocker(ed, x, 250, 110, 90.0 * m);
+        const double x = 4700 + 2250 * m, y = 1150 + 350 * (m % 2);
+        const std::int32_t hook = rocker(ed, x, 500, 110, 90.0 * m);
         const Numbers target = ring(ed, x, y, 420, 12, m % 2 ? coral : sky, 0.5F);
         const Numbers inside = ring(ed, x, y, 210, 12, snow, 0.5F);
         const std::int32_t eye = ball(ed, x, y, amber, 2);
-        nodeAt(ed, eye).Gravity = -0.6F;
+        nodeAt(ed, eye).Gravity = -0.04F;
+        dress(ed, eye, "target.svg");
         chain(ed, target, 8, true);
         chain(ed, inside, 8, true);
         brace(ed, target, inside, 8);
@@ -128,7 +109,33 @@ Editor range() {
         join(ed, hook, target[9], 12);
         launch(ed, eye, m % 2 ? 180 : 0, 3000);
     }
-    for (int m = 0; m < 3; ++m) launch(ed, ball(ed, 2600, 700 + 300 * m, rainbow[m]), 15 * m, 2500 + 600 * m);
+    for (int m = 0; m < 3; ++m) launch(ed, ball(ed, 2600, 900 + 300 * m, rainbow[m]), 15 * m, 2500 + 600 * m);
+    return ed;
+}
+
+// A loose net, drawn together and let go in waves that run along it.
+Editor shoal() {
+    Editor ed = project("Press Display Sprites, release Show Links: a shoal in the current",
+                        {.gravity = 0, .viscosity = 0.15F, .deltaAngle = 1.5F});
+    const int columns = 10, rows = 3;
+    std::vector<Numbers> lines;
+    for (int r = 0; r < rows; ++r) {
+        const double y = 980 + 700 * r, shift = r % 2 * 600;
+        Numbers line{pin(ed, 300, y, sky)};
+        for (int c = 0; c < columns; ++c) {
+            line.push_back(ball(ed, 900 + shift + 1240 * c, y, rainbow[(c + 3 * r) % 9]));
+            dress(ed, line.back(), "fish.svg");
+        }
+        line.push_back(pin(ed, 13980, y, sky));
+        const Numbers along = chain(ed, line, 2);
+        for (std::size_t c = 0; c < along.size(); ++c) drive(ed, along[c], 50.0 * double(c) + 30 * r, 0.35);
+        lines.push_back(line);
+    }
+    for (std::size_t r = 1; r < lines.size(); ++r)
+        for (std::size_t c = 1; c <= columns; ++c) {
+            drive(ed, join(ed, lines[r - 1][c], lines[r][c], 2), 70.0 * double(c), 0.25);
+            if (c > 1 && r == 1) join(ed, lines[r - 1][c], lines[r][c - 1], 1);
+        }
     return ed;
 }
 

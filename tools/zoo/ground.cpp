@@ -3,49 +3,13 @@
 
 #include "model/store.h"
 #include "scenes/scenes.h"
+#include "zoo/creatures.h"
 #include "zoo/kit.h"
 #include "zoo/zoo.h"
 
 #include <algorithm>
 
 namespace zentrik::zoo {
-
-namespace {
-
-struct Nose {
-    float mass, k;
-};
-
-// The one node at an end of a creature that reaches a wall first. A wall turns the whole model round at
-// every touch, so one that trembled there would shake the creature to pieces: a nose is heavy and softly
-// hung, which keeps it out of the gait.
-std::int32_t addNose(Editor& ed, double x, double y, const Numbers& behind, std::int32_t color, Nose nose) {
-    const std::int32_t tip = ball(ed, x, y, color, nose.mass);
-    for (const std::int32_t n : behind) join(ed, tip, n, nose.k);
-    return tip;
-}
-
-// Spokes lengthen one after the other, so that the heavy hub leans out over the floor's side of the rim
-// in step with the clock: the wheel keeps falling forward, a turn of it to a turn of the phase.
-struct Wheel {
-    std::int32_t hub;
-    Numbers rim;
-};
-
-Wheel addWheel(Editor& ed, double x, double y, double radius, std::int32_t color, float hubMass) {
-    const int count = 20;
-    Wheel wheel{ball(ed, x, y, ink, hubMass), ring(ed, x, y, radius, count, color)};
-    chain(ed, wheel.rim, 15, true);
-    for (int m = 0; m < count; ++m) {
-        const auto at = [&](int n) { return wheel.rim[static_cast<std::size_t>(n % count)]; };
-        join(ed, at(m), at(m + 2), 10);
-        drive(ed, join(ed, wheel.hub, at(m), 12), -360.0 * m / count, 0.25);
-    }
-    for (std::size_t m = 0; m < wheel.rim.size(); m += 5) nodeAt(ed, wheel.rim[m]).color = amber;
-    return wheel;
-}
-
-}  // namespace
 
 Editor car() {
     Editor ed =
@@ -124,7 +88,7 @@ Editor tower() {
         project("Towers swaying to a slow tune",
                 {.gravity = 0.25F, .friction = 0.8F, .viscosity = 0.1F, .bounce = 0.1F, .deltaAngle = 2});
     for (int m = 0; m < 4; ++m) {
-        const double x = 2000 + 3400 * m, wide = 420, narrow = 160, top = 500, bottom = 2800;
+        const double x = 2000 + 3400 * m, wide = 420, narrow = 160, top = 720, bottom = 2800;
         const int floors = 8;
         const Numbers left = row(ed, x - wide, bottom, x - narrow, top, floors, rainbow[2 * m]);
         const Numbers right = row(ed, x + wide, bottom, x + narrow, top, floors, rainbow[2 * m]);
@@ -153,26 +117,21 @@ Editor tower() {
 Editor walker() {
     Editor ed =
         project("Six legs out for a walk",
-                {.gravity = 0.25F, .friction = 0.9F, .viscosity = 0.1F, .bounce = 0.1F, .deltaAngle = 2.6F});
-    const Numbers back = row(ed, 1100, 1150, 4700, 1150, 9, navy, 1.5F);
-    const Numbers belly = row(ed, 1100, 1750, 4700, 1750, 9, sky, 1.5F);
-    chain(ed, back, 24);
-    chain(ed, belly, 24);
-    brace(ed, back, belly, 24);
-    // A foot hangs from two hips by struts that take turns, so that it goes round; the feet of a pair are
-    // half a turn apart, and so are neighbouring pairs.
-    for (int m = 0; m < 6; ++m) {
-        const std::size_t hip = static_cast<std::size_t>(m / 2 * 3);
-        const std::int32_t foot = ball(ed, nodeAt(ed, belly[hip + 1]).X, 2700, m % 2 ? coral : amber, 1.5F);
-        const double beat = 180.0 * (m + m / 2);
-        drive(ed, join(ed, belly[hip], foot, 30), beat, 0.15);
-        drive(ed, join(ed, belly[hip + 2], foot, 30), beat + 90, 0.15);
-    }
-    const Nose light{0.7F, 12}, heavy{7, 1.6F};
-    const std::int32_t head = addNose(ed, 5150, 800, {back.back(), belly.back()}, navy, light);
-    addNose(ed, 5600, 1000, {back.back(), belly.back(), head}, coral, heavy);
-    const std::int32_t rump = addNose(ed, 750, 1100, {back[0], back[1], belly[0]}, sky, light);
-    addNose(ed, 330, 750, {back[0], back[1], rump}, coral, heavy);
+                {.gravity = 0.25F, .friction = 0.9F, .viscosity = 0.1F, .bounce = 0.1F, .deltaAngle = 2.4F});
+    addWalker(ed, 1100, 1750);
+    return ed;
+}
+
+// The wind pulls at everything alike, as weight does on a slope.
+Editor climber() {
+    Editor ed =
+        project("Against the wind it climbs as on a hill, with it it comes down again", {.gravity = 0.25F,
+                                                                                         .friction = 0.9F,
+                                                                                         .viscosity = 0.1F,
+                                                                                         .bounce = 0.1F,
+                                                                                         .deltaAngle = 2.6F,
+                                                                                         .wind = -0.3F});
+    addWalker(ed, 1100, 1750);
     return ed;
 }
 
@@ -181,7 +140,7 @@ Editor wheel() {
         project("Wheels that roll by leaning",
                 {.gravity = 0.5F, .friction = 0.5F, .viscosity = 0.02F, .bounce = 0.1F, .deltaAngle = 1.1F});
     addWheel(ed, 1600, 1750, 1000, coral, 25);
-    addWheel(ed, 4600, 2150, 600, teal, 20);
+    addWheel(ed, 4800, 2000, 800, teal, 22);
     return ed;
 }
 

@@ -1,6 +1,7 @@
 // Exhibits that hang from the top of the scene, and so need no floor.
 
 #include "model/store.h"
+#include "zoo/creatures.h"
 #include "zoo/kit.h"
 #include "zoo/zoo.h"
 
@@ -23,14 +24,14 @@ void acrobat(Editor& ed, double x, std::int32_t suit, double beat, double side) 
     const auto at = [&](double dx, double y, std::int32_t color, float mass) {
         return ball(ed, x + side * dx, y, color, mass);
     };
-    const std::int32_t top = rocker(ed, x, 300, 130, beat);
-    const std::int32_t bar = at(0, 980, bark, 1);
-    const std::int32_t shoulder = at(-60, 1290, suit, 1);
-    const std::int32_t head = at(120, 1180, skin, 1);
-    const std::int32_t chest = at(120, 1430, suit, 1);
-    const std::int32_t hip = at(0, 1700, suit, 1);
-    const std::int32_t knee = at(60, 2020, suit, 0.7F);
-    const std::int32_t foot = at(-40, 2320, ink, 0.7F);
+    const std::int32_t top = rocker(ed, x, 480, 130, beat);
+    const std::int32_t bar = at(0, 1160, bark, 1);
+    const std::int32_t shoulder = at(-60, 1470, suit, 1);
+    const std::int32_t head = at(120, 1360, skin, 1);
+    const std::int32_t chest = at(120, 1610, suit, 1);
+    const std::int32_t hip = at(0, 1880, suit, 1);
+    const std::int32_t knee = at(60, 2200, suit, 0.7F);
+    const std::int32_t foot = at(-40, 2500, ink, 0.7F);
     join(ed, top, bar, k);
     chain(ed, {bar, shoulder, hip, knee, foot}, k);
     chain(ed, {shoulder, head, chest, hip}, k);
@@ -48,7 +49,7 @@ Editor acrobats() {
         project("Acrobats on the flying trapeze", {.gravity = 0.6F, .viscosity = 0.02F, .deltaAngle = 1.9F});
     const std::int32_t suits[] = {coral, navy, amber, teal, plum, leaf};
     for (int m = 0; m < 6; ++m) acrobat(ed, 1540 + 2240 * m, suits[m], 100.0 * m, m % 2 == 0 ? 1 : -1);
-    for (int m = 0; m < 5; ++m) bunting(ed, 1980 + 2240 * m, 3340 + 2240 * m, 220, 7);
+    for (int m = 0; m < 5; ++m) bunting(ed, 1980 + 2240 * m, 3340 + 2240 * m, 400, 7);
     return ed;
 }
 
@@ -88,40 +89,11 @@ Editor bridge() {
     return ed;
 }
 
-// Each flag is shaken at its pole; the wind carries the waves along it.
 Editor cloth() {
     Editor ed =
         project("Cloth in the wind", {.gravity = 0.05F, .viscosity = 0.02F, .deltaAngle = 5, .wind = 1.5F});
     const std::int32_t stripes[3][3] = {{coral, snow, navy}, {leaf, amber, coral}, {sky, snow, plum}};
-    const int columns = 12, rows = 6;
-    const double step = 260;
-    for (int flag = 0; flag < 3; ++flag) {
-        const double x = 600 + 4600 * flag, y = 450;
-        chain(ed,
-              {pin(ed, x, 250, amber), pin(ed, x, y), pin(ed, x, y + step * (rows - 1)), pin(ed, x, 2880)},
-              5);
-        Numbers first;
-        for (int r = 0; r < rows; ++r) first.push_back(pin(ed, x, y + step * r));
-        Numbers before = first;
-        for (int c = 1; c < columns; ++c) {
-            Numbers column;
-            for (int r = 0; r < rows; ++r)
-                column.push_back(ball(ed, x + step * c, y + step * r, stripes[flag][r * 3 / rows], 0.5F));
-            chain(ed, column, 5);
-            for (int r = 0; r < rows; ++r) {
-                const std::size_t a = static_cast<std::size_t>(r);
-                join(ed, before[a], column[a], 5);
-                if (r == 0) continue;
-                const float weak = 1;
-                const std::int32_t down = join(ed, before[a - 1], column[a], c == 1 ? 5 : weak);
-                const std::int32_t up = join(ed, before[a], column[a - 1], c == 1 ? 5 : weak);
-                if (c != 1) continue;
-                drive(ed, down, 100.0 * flag, 0.25);
-                drive(ed, up, 100.0 * flag + 180, 0.25);
-            }
-            before = column;
-        }
-    }
+    for (int m = 0; m < 3; ++m) addFlag(ed, 600 + 4600 * m, 900, stripes[m], {0.5F, 5, 100.0 * m});
     return ed;
 }
 
@@ -131,10 +103,10 @@ Editor pendulum() {
         project("Chains rocked to one beat", {.gravity = 0.8F, .viscosity = 0.01F, .deltaAngle = 3.2F});
     for (int m = 0; m < 9; ++m) {
         const double x = 900 + 1560 * m;
-        Numbers nodes{rocker(ed, x, 300, 120, 0)};
+        Numbers nodes{rocker(ed, x, 480, 120, 0)};
         const int count = 3 + m;
         for (int n = 1; n <= count; ++n)
-            nodes.push_back(ball(ed, x, 300 + 190 * n, rainbow[(m + n) % 9], n == count ? 3.0F : 1.0F));
+            nodes.push_back(ball(ed, x, 480 + 160 * n, rainbow[(m + n) % 9], n == count ? 3.0F : 1.0F));
         chain(ed, nodes, 15);
     }
     return ed;

@@ -38,6 +38,20 @@ std::int32_t pin(Editor& ed, double x, double y, std::int32_t color) {
     return number;
 }
 
+void dress(Editor& ed, std::int32_t node, const char* sprite) { nodeAt(ed, node).Sprite = sprite; }
+
+void barrier(Editor& ed, double x1, double y1, double x2, double y2) {
+    const std::int32_t from = pin(ed, x1, y1), to = pin(ed, x2, y2);
+    linkAt(ed, join(ed, from, to, 5)).Barrier = true;
+}
+
+void box(Editor& ed, double left, double top, double right, double bottom) {
+    barrier(ed, left, top, right, top);
+    barrier(ed, left, bottom, right, bottom);
+    barrier(ed, left, top, left, bottom);
+    barrier(ed, right, top, right, bottom);
+}
+
 std::int32_t join(Editor& ed, std::int32_t a, std::int32_t b, float k) {
     return scenes::addLink(ed, a, b, k);
 }

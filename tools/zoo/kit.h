@@ -30,7 +30,12 @@ Editor project(const std::string& title, const World& world);
 
 std::int32_t ball(Editor& ed, double x, double y, std::int32_t color, float mass = 1);
 std::int32_t pin(Editor& ed, double x, double y, std::int32_t color = ink);  // a locked node
-std::int32_t join(Editor& ed, std::int32_t a, std::int32_t b, float k);      // gives the link's number
+void dress(Editor& ed, std::int32_t node, const char* sprite);               // a file of the folder sprites
+// A barrier between two new pins: only level and upright ones deflect nodes.
+void barrier(Editor& ed, double x1, double y1, double x2, double y2);
+// Four barriers around a space.
+void box(Editor& ed, double left, double top, double right, double bottom);
+std::int32_t join(Editor& ed, std::int32_t a, std::int32_t b, float k);  // gives the link's number
 // Makes a link an animator; degrees of any size.
 void drive(Editor& ed, std::int32_t link, double degrees, double force);
 // Initial velocity: 0 degrees is to the right, 90 up; twips per time unit.

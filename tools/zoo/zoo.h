@@ -10,6 +10,18 @@ struct Exhibit {
     Editor (*make)();
 };
 
+// Lessons.
+Editor welcome();
+Editor fallingBall();
+Editor spring();
+Editor chainAndTruss();
+Editor muscle();
+Editor twoMuscles();
+Editor rollingWheel();
+Editor firstWalker();
+Editor cannon();
+Editor moon();
+
 // Hanging from the top.
 Editor acrobats();
 Editor bridge();
@@ -19,6 +31,7 @@ Editor pendulum();
 // Moving about on the floor.
 Editor car();
 Editor caterpillar();
+Editor climber();
 Editor jelly();
 Editor tower();
 Editor walker();
@@ -27,8 +40,19 @@ Editor wheel();
 // Floating or flying.
 Editor birds();
 Editor jellyfish();
+Editor gallery();
+Editor shoal();
+
+// Held by attraction.
 Editor planets();
-Editor range();
+
+// Among barriers.
+Editor boxes();
+Editor crowd();
+Editor marbles();
+
+// Driven by rotation.
+Editor engine();
 
 // Made with the program's own commands.
 Editor blossoms();
