@@ -3,5 +3,9 @@
 set -eu
 cd "$(dirname "$0")/.."
 cmake --preset release >/dev/null
-cmake --build --preset release --target zentrik_manual_pictures
+cmake --build --preset release --target zentrik_manual_pictures zentrik_zoo_pictures
 QT_QPA_PLATFORM=offscreen build/release/zentrik_manual_pictures docs/pictures
+root=$PWD
+mkdir -p build/zoo_pictures
+cd build/zoo_pictures # where its sheets go
+"$root/build/release/zentrik_zoo_pictures" "$root" "$root/docs/pictures/zoo"

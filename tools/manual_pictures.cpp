@@ -1,94 +1,19 @@
 // Takes the pictures of the README and the manual from the real window, driven by real events.
 // Usage: zentrik_manual_pictures FOLDER
 
-#include "app/frm_main.h"
 #include "app/program_folder.h"
 #include "app/versions_dialog.h"
+#include "photographer.h"
 #include "project/backups.h"
 
 #include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QMenu>
 #include <QTemporaryDir>
-#include <QToolBar>
-#include <QToolButton>
 #include <QtTest/QTest>
 #include <cstdio>
 
 namespace {
 
-using zentrik::frmMain;
-
-class Photographer {
-public:
-    Photographer(const QString& program, QString pictures)
-        : window_(program), pictures_(std::move(pictures)) {
-        window_.resize(1200, 640);
-        window_.show();
-        if (!QTest::qWaitForWindowExposed(&window_)) std::exit(1);
-    }
-
-    void open(const QString& project) {
-        auto* list = window_.findChild<QComboBox*>("lstSaved");
-        list->lineEdit()->setText(project);
-        press("refresh");
-    }
-    void play(int milliseconds) {
-        press("start");
-        QTest::qWait(milliseconds);
-    }
-    void stop() {
-        if (button("Toolbar1", "start")->isChecked()) press("start");
-    }
-    void press(const char* key) { QTest::mouseClick(button("Toolbar1", key), Qt::LeftButton); }
-    void choose(const char* name) { window_.findChild<QAction*>(name)->trigger(); }
-    void preset(const char* key, const char* text) {
-        for (QAction* entry : button("Toolbar2", key)->menu()->actions())
-            if (entry->text() == text) return entry->trigger();
-    }
-    void click(QPoint at, Qt::MouseButton mouseButton = Qt::LeftButton) {
-        auto* scene = window_.findChild<QWidget*>("picS");
-        QTest::mouseMove(scene, at);
-        QTest::mouseClick(scene, mouseButton, {}, at);
-    }
-    void hover(QPoint at) { QTest::mouseMove(window_.findChild<QWidget*>("picS"), at); }
-    // As the platform delivers it: press, release, double click, release.
-    void doubleClick(QPoint at) {
-        click(at);
-        auto* scene = window_.findChild<QWidget*>("picS");
-        QMouseEvent event(QEvent::MouseButtonDblClick, at, scene->mapToGlobal(at), Qt::LeftButton,
-                          Qt::LeftButton, {});
-        QApplication::sendEvent(scene, &event);
-        QTest::mouseRelease(scene, Qt::LeftButton, {}, at);
-    }
-    void resize(int width, int height) {
-        window_.resize(width, height);
-        QTest::qWait(20);
-    }
-
-    void take(const char* name) { take(&window_, name); }
-    void take(QWidget* widget, const char* name) {
-        QTest::qWait(40);
-        const QString file = pictures_ + "/" + name + ".png";
-        if (!widget->grab().save(file)) std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
-    }
-    void takeMenu(const char* name, const char* picture) {
-        auto* menu = window_.findChild<QMenu*>(name);
-        menu->popup(window_.mapToGlobal(QPoint(0, 30)));
-        take(menu, picture);
-        menu->close();
-    }
-    QWidget* part(const char* name) { return window_.findChild<QWidget*>(name); }
-
-private:
-    frmMain window_;
-    QString pictures_;
-
-    QToolButton* button(const char* bar, const char* key) {
-        return window_.findChild<QToolBar*>(bar)->findChild<QToolButton*>(key);
-    }
-};
+using zentrik::Photographer;
 
 // A little house on legs, drawn by hand, its legs made animators.
 void drawCreature(Photographer& camera) {
@@ -115,6 +40,47 @@ void drawCreature(Photographer& camera) {
     camera.hover(corners[0]);
     camera.take("creature");
     camera.press("activeline");
+}
+
+// The walker of the manual's first chapter, built as it says there.
+void takeFirstWalker(Photographer& camera) {
+    camera.resize(960, 334);
+    camera.press("new");
+    for (const auto& [key, value] : {std::pair{"gravity", "0.5"},
+                                     {"friction", "0.9"},
+                                     {"viscosity", "0.2"},
+                                     {"bounce", "0.1"},
+                                     {"interval", "10"},
+                                     {"rate", "10"},
+                                     {"speed", "3"}})
+        camera.preset(key, value);
+    const auto drawChain = [&camera](std::initializer_list<QPoint> places) {
+        for (const QPoint place : places) camera.click(place);
+        for (int i = 0; i < 2; ++i) camera.click({600, 30}, Qt::RightButton);
+    };
+    const QPoint a(100, 100), b(140, 60), c(180, 100), d(220, 60), e(260, 100);
+    drawChain({a, b, c, d, e, c, a});
+    drawChain({b, d});
+    struct Leg {
+        QPoint hip, foot;
+        const char* phase;
+    };
+    const Leg legs[] = {{a, {127, 163}, "0"},   {c, {127, 163}, "90"}, {a, {153, 163}, "180"},
+                        {c, {153, 163}, "270"}, {c, {207, 163}, "90"}, {e, {207, 163}, "180"},
+                        {c, {233, 163}, "270"}, {e, {233, 163}, "0"}};
+    for (std::size_t m = 0; m < std::size(legs); m += 2)
+        drawChain({legs[m].hip, legs[m].foot, legs[m + 1].hip});
+    camera.answer("mnuSetLinkF", "0.1");
+    for (const Leg& leg : legs) {
+        camera.doubleClick((leg.hip + leg.foot) / 2);
+        camera.preset("angle", leg.phase);
+    }
+    camera.press("activeline");
+    camera.take("first_walker");
+    camera.press("activeline");
+    camera.play(20000);
+    camera.take("first_walker_walks");
+    camera.stop();
 }
 
 void takeOverview(Photographer& camera) {
@@ -224,6 +190,7 @@ int main(int argc, char** argv) {
     zentrik::fillProgramFolder(home.path());
     Photographer camera(home.path(), QString::fromLocal8Bit(argv[1]));
     takeOverview(camera);
+    takeFirstWalker(camera);
     takeEditing(camera);
     takeVersions(camera, home.path().toStdString());
     takeStrips(camera);
