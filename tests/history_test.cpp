@@ -201,6 +201,43 @@ TEST_F(Undo, TellsWhetherTheFileHoldsTheModel) {
     EXPECT_TRUE(modified());
 }
 
+TEST_F(Undo, TellsWhatIsThrownAwayThatNoFileHolds) {
+    std::string told;  // how many nodes each lost model had
+    const auto lost = [&] {
+        told.clear();
+        for (const Lost& model : std::exchange(history_.lost, {}))
+            told += model.project + std::to_string(sizeOf(model.model).nodes) + " ";
+        return told;
+    };
+    const auto draw = [&](float x) { perform([&] { appendNode(ed_, standardNode(ed_, x, 5000)); }); };
+    const auto remove = [&] { perform([&] { ed_.SelectedNode = UsedNodes(ed_), DeleteNode(ed_); }); };
+    for (int i = 1; i <= 5; ++i) draw(500.0F * static_cast<float>(i));
+    for (int i = 0; i < 4; ++i) remove();
+    EXPECT_EQ(lost(), "") << "4 of 8 can be drawn again";
+    remove();
+    EXPECT_EQ(lost(), "mine8 ") << "node by node goes as well as at once";
+    remove();
+    EXPECT_EQ(lost(), "") << "told once";
+
+    for (int i = 0; i < 5; ++i) undo();
+    draw(600);
+    EXPECT_EQ(lost(), "mine2 ") << "what could be redone";
+    undo();
+    draw(700);
+    EXPECT_EQ(lost(), "") << "a slip";
+
+    press("start");
+    ticks(2);
+    EXPECT_EQ(lost(), "mine8 ") << "as it was before it ran, even if it never stops";
+    drag(static_cast<float>(ed_.Nodes[2].X), static_cast<float>(ed_.Nodes[2].Y), 3000, 3000);
+    ticks(2);
+    EXPECT_EQ(lost(), "") << "a node dragged while it runs makes no new start";
+    press("start");
+    perform([&] { ++ed_.filedCount; });  // saved
+    press("new");
+    EXPECT_EQ(lost(), "");
+}
+
 TEST_F(Undo, KeepsDifferencesWithinItsLimit) {
     ed_ = scenes::latticeOf(10000);
     startHistory(history_, ed_);

@@ -240,6 +240,37 @@ TEST_F(Recovery, WhatAnEventThrowsAwayIsAmongTheFormerVersions) {
     EXPECT_EQ(UsedNodes(ed()), 0);
 }
 
+TEST_F(Recovery, ClosingKeepsWhatRanAndWhatWasUndone) {
+    find<ProjectList>("lstSaved")->setEditText("mine");
+    click({100, 100});
+    click({200, 100});
+    QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
+    QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
+    EXPECT_TRUE(window_->close());
+    EXPECT_EQ(versionsOf("mine"), 1U) << "what could be redone";
+    start();
+    find<ProjectList>("lstSaved")->setEditText("another");
+    click({100, 100});
+    press("start");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return ed().Cycles > 3; }, 30000));
+    EXPECT_TRUE(window_->close());
+    EXPECT_EQ(versionsOf("another"), 1U) << "as it was before it ran";
+}
+
+TEST_F(Recovery, TheCopyStaysWhileItsContentsCanBeRedone) {
+    click({100, 100});
+    auto* due = window_->findChild<QTimer*>("RecoveryDue");
+    ASSERT_NE(due, nullptr);
+    due->start(0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return copies() == 1; }, 30000));
+    QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
+    EXPECT_FALSE(window_->isWindowModified());
+    QTest::qWait(0);
+    EXPECT_EQ(copies(), 1U);
+    EXPECT_TRUE(window_->close());
+    EXPECT_EQ(copies(), 0U);
+}
+
 }  // namespace
 
 }  // namespace zentrik

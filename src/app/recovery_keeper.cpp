@@ -1,5 +1,6 @@
 #include "app/recovery_keeper.h"
 
+#include "history/lost_work.h"
 #include "project/backups.h"
 #include "project/recovery.h"
 #include "project/write_file.h"
@@ -50,18 +51,17 @@ RecoveryKeeper::RecoveryKeeper(const std::string& programFolder, QObject* parent
 
 RecoveryKeeper::~RecoveryKeeper() { worker_.waitForDone(); }
 
-void RecoveryKeeper::follow(const Editor& ed, const History& history) {
+void RecoveryKeeper::follow(const Editor& ed, History& history) {
     ed_ = &ed;
+    history_ = &history;
+    keepLost();
     const bool going = history.going != History::Going::nothing;
     const bool newState = std::exchange(state_, history.state) != history.state;
-    if (newState && !history.done.empty() && history.done.back().to == history.state &&
-        history.done.back().loses)
-        keepFormer(history, ed);
     wanted_ = isModified(history, ed);
     if (!wanted_) {
         due_.stop();
         changing_.invalidate();
-        if (!busy_) removeCopy();
+        if (!busy_ && isNeedless()) removeCopy();
     } else if (going || newState || !(written_ || changing_.isValid())) {
         change(history.going == History::Going::run);
     }
@@ -82,6 +82,8 @@ void RecoveryKeeper::copy() {
     if (!wanted_ || ed_ == nullptr) return;
     busy_ = true;
     changing_.invalidate();
+    noteUndone(*history_, sizeOf(*ed_), Undone::whenMuch);  // the copy held it until now
+    keepLost();
     copied_ = copyOf(*ed_);
     worker_.start([this] {
         const std::string problem = write();
@@ -100,27 +102,31 @@ void RecoveryKeeper::copyWritten(const std::string& problem) {
     busy_ = false;
     copied_.reset();
     if (problem.empty()) written_ = true;
-    if (!wanted_) return removeCopy();
+    if (isNeedless()) return removeCopy();
     if (problem.empty() || told_ || !failed) return;
     told_ = true;  // once is enough; the next copies are tried all the same
     failed(problem);
 }
 
+// As long as what was undone can be redone, a copy may be all that would be left of it.
+bool RecoveryKeeper::isNeedless() const { return !wanted_ && history_->undone.empty(); }
+
+// After all that the worker still has to keep: until then the copy may be all there is of it.
 void RecoveryKeeper::removeCopy() {
     if (!std::exchange(written_, false)) return;
-    QFile::remove(QString::fromStdString(file_ + copySuffix));
+    worker_.start([copy = QString::fromStdString(file_ + copySuffix)] { QFile::remove(copy); });
 }
 
-// What the newest step threw away was nowhere but here.
-void RecoveryKeeper::keepFormer(const History& history, const Editor& ed) {
+void RecoveryKeeper::keepLost() {
+    for (Lost& lost : std::exchange(history_->lost, {})) keep(std::move(lost));
+}
+
+void RecoveryKeeper::keep(Lost lost) {
     auto former = std::make_shared<Editor>();
-    Contents contents = history.shown;
-    apply(history.done.back().difference, Way::back, contents);
-    copyContents(*former, contents);
-    former->sceneWidth = ed.sceneWidth;
-    former->sceneHeight = ed.sceneHeight;
-    const std::string& text = history.done.back().before.savedText;
-    const std::string name = nameProblem(text).empty() ? text : "resume";
+    handContents(*former, std::move(lost.model));
+    former->sceneWidth = ed_->sceneWidth;
+    former->sceneHeight = ed_->sceneHeight;
+    const std::string name = nameProblem(lost.project).empty() ? lost.project : "resume";
     worker_.start([this, former, name] {
         const std::string problem = keepVersion(programFolder_, name, projectBytes(*former));
         if (problem.empty()) return;
@@ -135,9 +141,11 @@ void RecoveryKeeper::keepFormer(const History& history, const Editor& ed) {
 
 void RecoveryKeeper::endFiled() {
     due_.stop();
-    worker_.waitForDone();
+    noteUndone(*history_, sizeOf(*ed_), Undone::everything);
+    keepLost();
     written_ = written_ || busy_;
     removeCopy();
+    worker_.waitForDone();
     lock_.unlock();
 }
 

@@ -23,7 +23,7 @@ public:
     std::function<void(const std::string& problem)> failed;
 
     // To be called after every event.
-    void follow(const Editor& ed, const History& history);
+    void follow(const Editor& ed, History& history);
 
     // The end of the program: all work is filed, so that the copy can go ...
     void endFiled();
@@ -39,14 +39,17 @@ private:
     QElapsedTimer changing_;          // since the oldest change that no copy has; invalid when there is none
     std::unique_ptr<Editor> copied_;  // the worker's while it is busy
     const Editor* ed_ = nullptr;
+    History* history_ = nullptr;
     std::uint64_t state_ = 0;  // the last one seen
     bool busy_ = false, wanted_ = false, written_ = false, told_ = false;
 
     void change(bool running);
     void copy();
     void copyWritten(const std::string& problem);
+    bool isNeedless() const;
     void removeCopy();
-    void keepFormer(const History& history, const Editor& ed);
+    void keepLost();
+    void keep(Lost lost);
     std::string write();
 };
 

@@ -5,6 +5,7 @@
 #include "model/editor.h"
 
 #include <tuple>
+#include <utility>
 
 namespace zentrik {
 
@@ -31,6 +32,13 @@ void copyContents(To& to, const From& from) {
     to.Nodes = from.Nodes;
     to.Links = from.Links;
     globalsOf(to) = globalsOf(from);
+}
+
+template <class To>
+void handContents(To& to, Contents from) {
+    globalsOf(to) = globalsOf(from);
+    to.Nodes = std::move(from.Nodes);
+    to.Links = std::move(from.Links);
 }
 
 }  // namespace zentrik

@@ -1,5 +1,6 @@
 #include "history/history.h"
 
+#include "history/lost_work.h"
 #include "model/store.h"
 
 #include <algorithm>
@@ -31,30 +32,17 @@ void forgetTheOldest(History& history) {
         history.bytes -= bytesOf(history.done.front());
 }
 
-// Whether a change leaves little of a model that no file holds: another took its place, most of it was
-// removed, or a run moved it that no run has moved before.
-bool losesWork(History& history, const Editor& ed, bool isRun) {
-    const bool replaced = std::exchange(history.replacedCount, ed.replacedCount) != ed.replacedCount;
-    for (const auto& [name, state] : history.filed)
-        if (state == history.state) return false;
-    const auto used = [](const auto& records) {
-        return std::count_if(records.begin(), records.end(), [](const auto& record) { return record.Used; });
-    };
-    const auto nodes = used(history.shown.Nodes), links = used(history.shown.Links);
-    if (nodes == 0) return false;
-    const bool fromRun = !history.done.empty() && history.done.back().run;
-    return replaced || (isRun && !fromRun) || used(ed.Nodes) * 2 < nodes || used(ed.Links) * 2 < links;
-}
-
 // Makes whatever changed since the newest step a step. False when nothing did.
 bool record(History& history, const Editor& ed, const std::string& what, bool isRun = false) {
     std::optional<Difference> difference = differenceBetween(history.shown, ed);
     if (!difference) return false;
-    const bool loses = losesWork(history, ed, isRun);
-    apply(*difference, Way::forth, history.shown);
-    const std::uint64_t from = std::exchange(history.state, ++history.newest);
-    history.done.push_back(
-        {what, history.context, contextOf(ed), *std::move(difference), from, history.state, isRun, loses});
+    Step step{what,          history.context,  contextOf(ed), *std::move(difference),
+              history.state, ++history.newest, isRun};
+    noteStep(history, ed, step);
+    noteUndone(history, step.size, Undone::whenMuch);
+    apply(step.difference, Way::forth, history.shown);
+    history.state = step.to;
+    history.done.push_back(std::move(step));
     history.bytes += bytesOf(history.done.back());
     history.context = contextOf(ed);
     forget(history, history.undone);
@@ -99,7 +87,9 @@ void followFiles(History& history, const Editor& ed) {
 }
 
 void endTick(History& history, const Editor& ed) {
+    const bool ranOn = std::exchange(history.running, ed.Timer1.enabled);
     if (history.going == Going::drag) return;
+    if (history.going == Going::nothing && !ranOn) noteRun(history);
     history.going = Going::run;
     if (!ed.Timer1.enabled) closeStep(history, ed);
 }
@@ -147,6 +137,7 @@ void beginEvent(History& history, const Editor& ed, Event event) {
 void endEvent(History& history, const Editor& ed, Event event, const std::string& what) {
     history.changed = false;
     if (event == Event::timer) return endTick(history, ed);
+    history.running = history.running && ed.Timer1.enabled;
     const std::uint64_t before = history.state;
     if (event == Event::mouse)
         endGesture(history, ed, what);

@@ -6,9 +6,13 @@
 
 #include "history/difference.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <map>
+#include <string>
+#include <vector>
 
 namespace zentrik {
 
@@ -20,12 +24,36 @@ struct Context {
     std::string savedText;  // the project list's text
 };
 
+struct Size {
+    std::ptrdiff_t nodes = 0, links = 0;
+};
+// Of an Editor as of Contents.
+template <class T>
+Size sizeOf(const T& it) {
+    const auto used = [](const auto& record) { return record.Used; };
+    return {std::count_if(it.Nodes.begin(), it.Nodes.end(), used),
+            std::count_if(it.Links.begin(), it.Links.end(), used)};
+}
+
+struct State {
+    std::uint64_t number = 0;  // see History::state
+    Size size;
+};
+
 struct Step {
     std::string what;  // for a person: "All nodes removed"
     Context before, after;
     Difference difference;
-    std::uint64_t from = 0, to = 0;   // the states it leads between, see History::state
-    bool run = false, loses = false;  // loses: threw away what no file holds
+    std::uint64_t from = 0, to = 0;  // the states it leads between, see History::state
+    bool run = false;
+    Size size{};      // of the model it leads to
+    State largest{};  // since a model was thrown away; see lost_work.h
+};
+
+// A model that was thrown away though no file holds it.
+struct Lost {
+    Contents model;
+    std::string project;  // the project list's text
 };
 
 enum class Event {
@@ -51,6 +79,10 @@ struct History {
     bool changed = false;            // the last event changed the model
     Context context;                 // as it was when nothing was going on
     std::string said;                // status panel 5 before the event
+
+    std::vector<Lost> lost;        // until the window takes it
+    std::uint64_t undoneKept = 0;  // the last undone state that was put there
+    bool running = false;          // after the last event
 };
 
 // Forgets all steps; the model as it stands is the first state, and counts as filed.

@@ -1,0 +1,18 @@
+#pragma once
+// What a session throws away that no file holds. It goes to History::lost, for the window to keep.
+
+#include "history/history.h"
+
+namespace zentrik {
+
+// The step about to be recorded leads from history.shown to ed.
+void noteStep(History& history, const Editor& ed, Step& step);
+
+// A run begins to move the model.
+void noteRun(History& history);
+
+// What could be redone is given up. Of a few steps that removed little only everything is kept.
+enum class Undone { whenMuch, everything };
+void noteUndone(History& history, const Size& present, Undone how);
+
+}  // namespace zentrik
