@@ -111,6 +111,25 @@ TEST_F(Backups, TheOldestGoFirstAndNeverTheOneJustKept) {
     EXPECT_EQ(formerVersions(ed.programFolder, "d").size(), 1U) << "the newest of it";
 }
 
+TEST_F(Backups, WhatNeverWasSavedLeavesRoomForWhatWas) {
+    for (int i = 1; i <= 26; ++i) save("a", i);
+    const auto keepUnsaved = [&](int nodes) {
+        ed.Nodes.resize(1);
+        for (int i = 0; i < nodes; ++i) scenes::addNode(ed, i, i);
+        EXPECT_EQ(keepVersion(ed.programFolder, "a", projectBytes(ed)), "");
+    };
+    keepUnsaved(30);
+    EXPECT_EQ(versions("a"), "30 25 24 23 22 21 20 19 18 17 16 15 14 13 12 11 10 9 8 7 ");
+    for (int nodes = 31; nodes <= 44; ++nodes) keepUnsaved(nodes);
+    EXPECT_EQ(versions("a"), "44 43 42 41 40 39 38 37 36 35 25 24 23 22 21 20 19 18 17 16 ");
+    keepUnsaved(16);  // one that was saved
+    EXPECT_EQ(versions("a"), "16 44 43 42 41 40 39 38 37 36 35 25 24 23 22 21 20 19 18 17 ");
+    EXPECT_EQ(renameVersions(ed.programFolder, "a", "b"), "");
+    for (const FormerVersion& version : formerVersions(ed.programFolder, "b"))
+        EXPECT_EQ(version.unsaved, version.path.string().ends_with("unsaved.bot"));
+    EXPECT_EQ(versions("b").substr(0, 6), "16 44 ");
+}
+
 TEST_F(Backups, AClockPutBackKeepsTheOrder) {
     save("a", 1);
     fs::create_directory(folder.path / "backups");

@@ -19,10 +19,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view suffix = ".bot";
+constexpr std::string_view suffix = ".bot", unsavedSuffix = ".unsaved.bot";
 
-fs::path versionPath(const fs::path& folder, const std::string& project, std::int64_t replaced) {
-    return folder / (project + "." + stampText(replaced) + std::string(suffix));
+fs::path versionPath(const fs::path& folder, const std::string& project, std::int64_t replaced,
+                     bool unsaved) {
+    return folder / (project + "." + stampText(replaced) + std::string(unsaved ? unsavedSuffix : suffix));
 }
 
 // The version a file of the folder is, by its name.
@@ -30,11 +31,12 @@ std::optional<FormerVersion> versionOf(const fs::directory_entry& entry) {
     std::error_code error;
     if (entry.symlink_status(error).type() != fs::file_type::regular) return {};
     const std::string name = entry.path().filename().string();
-    constexpr std::size_t ending = 1 + stampLength + suffix.size();
+    const bool unsaved = name.ends_with(unsavedSuffix);
+    const std::size_t ending = 1 + stampLength + (unsaved ? unsavedSuffix : suffix).size();
     if (name.size() <= ending || !name.ends_with(suffix) || name[name.size() - ending] != '.') return {};
     const auto replaced = stampOf(std::string_view(name).substr(name.size() - ending + 1, stampLength));
     if (!replaced) return {};
-    return FormerVersion{entry.path(), name.substr(0, name.size() - ending), *replaced,
+    return FormerVersion{entry.path(), name.substr(0, name.size() - ending), *replaced, unsaved,
                          entry.file_size(error)};
 }
 
@@ -83,23 +85,28 @@ void dropOldest(const fs::path& folder, const std::string& project, const fs::pa
     const std::vector<FormerVersion> versions = allVersions(folder);
     const auto isMine = [&](const FormerVersion& version) { return version.project == project; };
     const auto weight = [](const FormerVersion& v) { return v.size > bytesOfAllVersions ? 0 : v.size; };
-    auto mine = static_cast<std::size_t>(std::count_if(versions.begin(), versions.end(), isMine));
+    std::size_t mine[2] = {0, 0};  // saved and unsaved
     std::uintmax_t sum = 0;
-    for (const FormerVersion& version : versions) sum += weight(version);
     for (const FormerVersion& version : versions) {
-        const bool tooMany = isMine(version) && mine > versionsOfAProject;
+        sum += weight(version);
+        if (isMine(version)) ++mine[version.unsaved];
+    }
+    for (const FormerVersion& version : versions) {
+        const bool tooMany = isMine(version) && mine[0] + mine[1] > versionsOfAProject &&
+                             mine[version.unsaved] >= mine[!version.unsaved];
         const bool tooLarge = sum > bytesOfAllVersions && weight(version) > 0;
         std::error_code error;
         if (version.path == justKept || !(tooMany || tooLarge) || !fs::remove(version.path, error)) continue;
         sum -= weight(version);
-        if (isMine(version)) --mine;
+        if (isMine(version)) --mine[version.unsaved];
     }
 }
 
 // Keeps something as the newest version: put makes its file, unless it equals a version kept before, which
 // then takes that place.
 template <class Equals, class Put>
-std::string keep(const std::string& programFolder, const std::string& project, Equals equals, Put put) {
+std::string keep(const std::string& programFolder, const std::string& project, bool unsaved, Equals equals,
+                 Put put) {
     static std::mutex oneAtATime;
     const std::lock_guard guard(oneAtATime);
     const fs::path folder = backupsFolder(programFolder);
@@ -108,9 +115,10 @@ std::string keep(const std::string& programFolder, const std::string& project, E
     const std::vector<FormerVersion> versions = formerVersions(programFolder, project);
     // A clock put back must not make the newest version the oldest.
     const std::int64_t least = versions.empty() ? 0 : versions.front().replaced + 1;
-    const fs::path version = versionPath(folder, project, std::max(millisecondsNow(), least));
     const auto kept = std::find_if(versions.begin(), versions.end(),
                                    [&](const FormerVersion& v) { return equals(v.path); });
+    if (kept != versions.end()) unsaved = unsaved && kept->unsaved;
+    const fs::path version = versionPath(folder, project, std::max(millisecondsNow(), least), unsaved);
     if (kept != versions.end()) {
         fs::rename(kept->path, version, error);
         if (error) return error.message() + ".";
@@ -141,14 +149,15 @@ std::string keepFormer(const std::string& programFolder, const std::string& proj
     if (!file.problem.empty()) return file.problem;
     if (!file.exists || (replacement && holds(file.path, *replacement))) return {};
     return keep(
-        programFolder, project, [&](const fs::path& version) { return sameContents(version, file.path); },
+        programFolder, project, false,
+        [&](const fs::path& version) { return sameContents(version, file.path); },
         [&](const fs::path& version) { return putVersion(file.path, version); });
 }
 
 std::string keepVersion(const std::string& programFolder, const std::string& project,
                         std::string_view bytes) {
     return keep(
-        programFolder, project, [&](const fs::path& version) { return holds(version, bytes); },
+        programFolder, project, true, [&](const fs::path& version) { return holds(version, bytes); },
         [&](const fs::path& version) { return writeFile(version.string(), bytes); });
 }
 
@@ -156,7 +165,7 @@ std::string renameVersions(const std::string& programFolder, const std::string& 
     const fs::path folder = backupsFolder(programFolder);
     std::string problem;
     for (const FormerVersion& version : formerVersions(programFolder, from)) {
-        const fs::path target = versionPath(folder, to, version.replaced);
+        const fs::path target = versionPath(folder, to, version.replaced, version.unsaved);
         std::error_code error;
         if (fs::exists(fs::symlink_status(target, error)))
             problem = target.filename().string() + " exists already.";

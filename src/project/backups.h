@@ -1,7 +1,9 @@
 #pragma once
 // Former versions of the projects: files NAME.STAMP.bot in the folder "backups" beside zoo, stamped with
-// the moment they were replaced. At most 20 of a project and 256 MiB in all; the oldest go first, never
-// the one just kept, and a version that is larger than all may be together does not drive out others.
+// the moment they were replaced; NAME.STAMP.unsaved.bot held what never was the project's file. At most 20 of
+// a project and 256 MiB in all; the oldest go first, never the one just kept, and a version that is larger
+// than all may be together does not drive out others. Of 20 there is room for 10 of either kind, so that
+// playing with a project does not drive out its saved versions.
 
 #include <cstdint>
 #include <filesystem>
@@ -19,7 +21,8 @@ struct FormerVersion {
     std::filesystem::path path;
     std::string project;
     std::int64_t replaced = 0;  // milliseconds since 1970
-    std::uintmax_t size = 0;    // bytes
+    bool unsaved = false;
+    std::uintmax_t size = 0;  // bytes
 };
 
 std::filesystem::path backupsFolder(const std::string& programFolder);
