@@ -233,9 +233,10 @@ TEST_F(Undo, TellsWhatIsThrownAwayThatNoFileHolds) {
     ticks(2);
     EXPECT_EQ(lost(), "") << "a node dragged while it runs makes no new start";
     press("start");
+    undo();
     perform([&] { ++ed_.filedCount; });  // saved
     press("new");
-    EXPECT_EQ(lost(), "");
+    EXPECT_EQ(lost(), "mine8 ") << "the one that was undone";
 }
 
 TEST_F(Undo, KeepsDifferencesWithinItsLimit) {

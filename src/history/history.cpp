@@ -39,7 +39,6 @@ bool record(History& history, const Editor& ed, const std::string& what, bool is
     Step step{what,          history.context,  contextOf(ed), *std::move(difference),
               history.state, ++history.newest, isRun};
     noteStep(history, ed, step);
-    noteUndone(history, step.size, Undone::whenMuch);
     apply(step.difference, Way::forth, history.shown);
     history.state = step.to;
     history.done.push_back(std::move(step));

@@ -47,7 +47,9 @@ void noteStep(History& history, const Editor& ed, Step& step) {
     step.size = sizeOf(ed);
     step.largest = {step.to, step.size};
     const State largest = largestOf(history);
-    if (std::exchange(history.replacedCount, ed.replacedCount) != ed.replacedCount)
+    const bool replaced = std::exchange(history.replacedCount, ed.replacedCount) != ed.replacedCount;
+    noteUndone(history, step.size, replaced ? Undone::everything : Undone::whenMuch);
+    if (replaced)
         lose(history, {history.state, sizeOf(history.shown)});
     else if (muchSmaller(step.size, largest.size))
         lose(history, largest);

@@ -5,13 +5,13 @@
 
 namespace zentrik {
 
-// The step about to be recorded leads from history.shown to ed.
+// The step about to be recorded leads from history.shown to ed, and what could be redone is given up.
 void noteStep(History& history, const Editor& ed, Step& step);
 
 // A run begins to move the model.
 void noteRun(History& history);
 
-// What could be redone is given up. Of a few steps that removed little only everything is kept.
+// What could be redone may be all there is of it. whenMuch: a few steps that added little do not count.
 enum class Undone { whenMuch, everything };
 void noteUndone(History& history, const Size& present, Undone how);
 
