@@ -87,6 +87,9 @@ TEST_F(Backups, TheSameContentsAreKeptOnceAndCountAsTheNewest) {
     for (const int nodes : {1, 1, 2, 1, 3, 2, 2}) save("a", nodes);
     EXPECT_EQ(versions("a"), "3 1 2 ");
     EXPECT_EQ(entriesIn(folder.path / "backups"), 3U);
+    const auto kept = formerVersions(ed.programFolder, "a");
+    EXPECT_GE(fs::last_write_time(kept[0].path), fs::last_write_time(kept[1].path)) << "as it is shown";
+    EXPECT_GE(fs::last_write_time(kept[1].path), fs::last_write_time(kept[2].path));
 }
 
 TEST_F(Backups, TheOldestGoFirstAndNeverTheOneJustKept) {

@@ -103,10 +103,10 @@ void dropOldest(const fs::path& folder, const std::string& project, const fs::pa
 }
 
 // Keeps something as the newest version: put makes its file, unless it equals a version kept before, which
-// then takes that place.
+// then takes that place as one made at that time.
 template <class Equals, class Put>
-std::string keep(const std::string& programFolder, const std::string& project, bool unsaved, Equals equals,
-                 Put put) {
+std::string keep(const std::string& programFolder, const std::string& project, bool unsaved,
+                 fs::file_time_type made, Equals equals, Put put) {
     static std::mutex oneAtATime;
     const std::lock_guard guard(oneAtATime);
     const fs::path folder = backupsFolder(programFolder);
@@ -122,6 +122,7 @@ std::string keep(const std::string& programFolder, const std::string& project, b
     if (kept != versions.end()) {
         fs::rename(kept->path, version, error);
         if (error) return error.message() + ".";
+        fs::last_write_time(version, made, error);
     } else if (std::string problem = put(version); !problem.empty()) {
         return problem;
     }
@@ -148,8 +149,10 @@ std::string keepFormer(const std::string& programFolder, const std::string& proj
     const WriteTarget file = writeTarget(projectPath(programFolder, project).string(), programFolder);
     if (!file.problem.empty()) return file.problem;
     if (!file.exists || (replacement && holds(file.path, *replacement))) return {};
+    std::error_code error;
+    const fs::file_time_type saved = fs::last_write_time(file.path, error);
     return keep(
-        programFolder, project, false,
+        programFolder, project, false, saved,
         [&](const fs::path& version) { return sameContents(version, file.path); },
         [&](const fs::path& version) { return putVersion(file.path, version); });
 }
@@ -157,7 +160,8 @@ std::string keepFormer(const std::string& programFolder, const std::string& proj
 std::string keepVersion(const std::string& programFolder, const std::string& project,
                         std::string_view bytes) {
     return keep(
-        programFolder, project, true, [&](const fs::path& version) { return holds(version, bytes); },
+        programFolder, project, true, fs::file_time_type::clock::now(),
+        [&](const fs::path& version) { return holds(version, bytes); },
         [&](const fs::path& version) { return writeFile(version.string(), bytes); });
 }
 
