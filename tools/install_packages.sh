@@ -1,11 +1,14 @@
 #!/bin/sh
-# Installs what packages.txt lists and this machine lacks.
+# Installs what this machine lacks of the packages that are listed: install_packages.sh LIST...
+# LIST is build, screen or test, see packages_LIST.txt.
 set -eu
-list="$(dirname "$0")/packages.txt"
+cd "$(dirname "$0")"
 missing=""
-for package in $(grep -v '^#' "$list"); do
-    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' ||
-        missing="$missing $package"
+for list in "$@"; do
+    for package in $(grep -v '^#' "packages_$list.txt"); do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' ||
+            missing="$missing $package"
+    done
 done
 [ -n "$missing" ] || exit 0
 
