@@ -1,7 +1,6 @@
 # What "cmake --install" and the package put in place, and where.
 include(GNUInstallDirs)
 
-set(ZENTRIK_ID example.zentrik.Zentrik)  # of the program on a desktop
 set(desktop_in ${CMAKE_SOURCE_DIR}/desktop)
 set(desktop_out ${CMAKE_BINARY_DIR}/desktop)
 

@@ -57,6 +57,7 @@ frmMain::frmMain(const QString& folder)
     connectTime();
     connectViews();
     connectTimers();
+    connectDrops();
     Form_Load(folder);
     startHistory(history_, ed_);
     connectRecovery();

@@ -36,6 +36,10 @@ public:
         leaveList();
     }
 
+    // Makes files the model, one after the other; once an open box is answered.
+    void open(const QStringList& files);
+    // Before the other windows.
+    void comeForward();
     // Offers what programs that are gone had not saved, one box for each.
     void offerLeftCopies();
     // What closing the window does to the work, without a question and whatever box is open. False when it
@@ -86,9 +90,12 @@ private:
     void connectViews();
     void connectTimers();
     void connectRecovery();
+    void connectDrops();
 
     void Form_Load(const QString& folder);
     void readSprites();
+    void takeDrop(const QUrl& url, QPoint at);
+    void refuseDrop(const std::string& why);
     bool storeWork(Host& host);
     void restorePlacement(const Placement& placement);
     void followScreen();

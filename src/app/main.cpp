@@ -1,16 +1,31 @@
+#include "app/command_line.h"
 #include "app/frm_main.h"
 #include "app/program_ends.h"
+#include "app/program_folder.h"
+#include "app/running_program.h"
 
 #include <QApplication>
 #include <QTimer>
 
 int main(int argc, char** argv) {
+    const zentrik::CommandLine line = zentrik::readCommandLine(argc, argv);
+    if (line.exitStatus) return *line.exitStatus;
     QApplication app(argc, argv);
     QApplication::setApplicationName("Zentrik");
     QApplication::setApplicationVersion(ZENTRIK_VERSION);
-    zentrik::frmMain window;
+    QApplication::setDesktopFileName(ZENTRIK_ID);
+    const QString folder = zentrik::programFolder();
+    if (!line.newWindow && zentrik::handToRunning(folder, line.files)) return 0;
+    zentrik::frmMain window(folder);
     window.show();
     const zentrik::ProgramEnds ends(app, window);
-    QTimer::singleShot(0, &window, [&] { window.offerLeftCopies(); });
+    const zentrik::StartListener listener(folder, [&](const QStringList& files) {
+        window.comeForward();
+        window.open(files);
+    });
+    QTimer::singleShot(0, &window, [&] {
+        window.offerLeftCopies();
+        window.open(line.files);
+    });
     return QApplication::exec();
 }

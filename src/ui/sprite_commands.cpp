@@ -36,6 +36,14 @@ void imgSprite_Click(Editor& ed, std::int32_t Index) {
     DisplayScene(ed, -1, -1);
 }
 
+bool giveSprite(Editor& ed, std::int32_t node, const std::string& name) {
+    const std::int32_t entry = spriteEntryOf(ed, name);
+    if (entry == 0) return false;
+    giveSprite(ed, nodeAt(ed, node), entry);
+    if (node == ed.SelectedNode) ed.spriteEntry = entry;
+    return true;
+}
+
 void mnuRandomNodes_Click(Editor& ed, Host&) {
     const auto pictures = static_cast<std::int32_t>(ed.spriteNames.size()) - 1;
     if (pictures == 0) return;
