@@ -71,6 +71,7 @@ public:
         return hasTrash && std::filesystem::remove(file);
     }
     void fetchMessage(const std::string& address) override { note("fetch", address); }
+    void showManual() override { note("manual", ""); }
     void showAbout() override { note("about", ""); }
     void resizeWindow(int width, int height) override {
         note("resize", std::to_string(width) + "|" + std::to_string(height));

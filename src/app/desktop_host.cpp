@@ -1,6 +1,7 @@
 #include "app/desktop_host.h"
 
 #include "app/about_box.h"
+#include "app/manual_window.h"
 #include "app/placement.h"
 #include "app/versions_dialog.h"
 #include "model/records.h"
@@ -157,8 +158,16 @@ void DesktopHost::showAbout() {
     about_->raise();
 }
 
-void DesktopHost::closeAbout() {
-    if (about_) about_->close();
+void DesktopHost::showManual() {
+    if (!manual_) manual_ = new ManualWindow(&window_);
+    manual_->show();
+    manual_->raise();
+    manual_->activateWindow();
+}
+
+void DesktopHost::closeHelp() {
+    for (const auto& window : {about_, manual_})
+        if (window) window->close();
 }
 
 // A window that fills the screen stays as it is; any other ends inside the screen's available area.

@@ -21,7 +21,7 @@ public:
 
     // While a box is open its event loop delivers ticks and clicks that must wait.
     bool isAsking() const { return open_ > 0; }
-    void closeAbout();
+    void closeHelp();  // about box and manual
 
     std::string inputBox(const std::string& prompt, const std::string& title,
                          const std::string& preset) override;
@@ -39,13 +39,14 @@ public:
     bool moveToTrash(const std::string& file) override;
     void fetchMessage(const std::string& address) override;
     void showAbout() override;
+    void showManual() override;
     void resizeWindow(int width, int height) override;
     void showPathWindow(bool visible) override;
 
 private:
     QWidget& window_;
     int open_ = 0;
-    QPointer<QWidget> about_;
+    QPointer<QWidget> about_, manual_;
     MessageFetcher fetcher_;
 
     std::string ask(InputBox::Kind kind, const std::string& prompt, const std::string& title,

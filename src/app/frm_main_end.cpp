@@ -33,7 +33,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     ended_ = true;
     ed_.Timer1.enabled = false;
     showTimers();
-    host_.closeAbout();
+    host_.closeHelp();
     frmPath_->hide();
     event->accept();
 }

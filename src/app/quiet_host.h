@@ -25,6 +25,7 @@ public:
     bool moveToTrash(const std::string&) override { return false; }
     void fetchMessage(const std::string&) override {}
     void showAbout() override {}
+    void showManual() override {}
     void resizeWindow(int, int) override {}
     void showPathWindow(bool) override {}
 };

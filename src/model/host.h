@@ -44,6 +44,7 @@ public:
     // Starts fetching the maker's message; the answer arrives later in status panel 5.
     virtual void fetchMessage(const std::string& address) = 0;
     virtual void showAbout() = 0;
+    virtual void showManual() = 0;
     // Asks for another outer size of the main window, twips; -1 keeps that extent. The window lays
     // itself out before this returns.
     virtual void resizeWindow(int width, int height) = 0;

@@ -18,7 +18,9 @@ void open(Editor& ed, Host& host, const char* address) {
 }  // namespace
 
 void mnuForums_Click(Editor& ed, Host& host) { open(ed, host, forumPage); }
-void mnuOnlineHelp_Click(Editor& ed, Host& host) { open(ed, host, helpPage); }
+void mnuOnlineHelp_Click(Editor&, Host& host) {
+    if (!host.openAddress(helpPage)) host.showManual();
+}
 void mnuOnlineUpdate_Click(Editor& ed, Host& host) { open(ed, host, updatePage); }
 void mnuAbout_Click(Editor&, Host& host) { host.showAbout(); }
 

@@ -1,0 +1,96 @@
+#include "app/manual_window.h"
+
+#include <QFile>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QSplitter>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace zentrik {
+
+namespace {
+
+constexpr int placeRole = Qt::UserRole;  // of an entry: where its chapter begins in the text
+
+QString manualText() {
+    QFile file(":/docs/manual.md");
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+void goTo(QTextBrowser& text, int position) {
+    QTextCursor cursor(text.document());
+    cursor.movePosition(QTextCursor::End);
+    text.setTextCursor(cursor);  // from below, so that the chapter comes to the top
+    cursor.setPosition(position);
+    text.setTextCursor(cursor);
+    text.verticalScrollBar()->setValue(text.verticalScrollBar()->value() + text.cursorRect().top());
+}
+
+}  // namespace
+
+ManualWindow::ManualWindow(QWidget* parent)
+    : QWidget(parent, Qt::Window),
+      text_(new QTextBrowser(this)),
+      contents_(new QTreeWidget(this)),
+      search_(new QLineEdit(this)) {
+    setObjectName("Manual");
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle("Zentrik - Manual");
+    resize(980, 720);
+    text_->setAccessibleName("Text of the manual");
+    contents_->setAccessibleName("Contents of the manual");
+    search_->setAccessibleName("Search the manual");
+    search_->setPlaceholderText("Search (Enter finds the next place)");
+    search_->setClearButtonEnabled(true);
+    contents_->setHeaderHidden(true);
+
+    text_->document()->setBaseUrl(QUrl("qrc:/docs/"));
+    text_->setSearchPaths({":/docs"});
+    text_->setMarkdown(manualText());
+    text_->setOpenExternalLinks(true);
+    listContents();
+
+    auto* split = new QSplitter(this);
+    split->addWidget(contents_);
+    split->addWidget(text_);
+    split->setStretchFactor(1, 1);
+    split->setSizes({240, 740});
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(search_);
+    column->addWidget(split, 1);
+
+    connect(contents_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
+        if (item != nullptr) goTo(*text_, item->data(0, placeRole).toInt());
+    });
+    connect(search_, &QLineEdit::returnPressed, this, [this] { find(); });
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, search_,
+            [this] { search_->setFocus(); });
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    text_->setFocus();
+}
+
+void ManualWindow::listContents() {
+    for (QTextBlock block = text_->document()->begin(); block.isValid(); block = block.next()) {
+        if (block.blockFormat().headingLevel() < 2) continue;
+        auto* item = new QTreeWidgetItem(contents_, {block.text()});
+        item->setData(0, placeRole, block.position());
+    }
+}
+
+// The next place, from the start again after the last.
+void ManualWindow::find() {
+    bool found = text_->find(search_->text());
+    if (!found) {
+        text_->moveCursor(QTextCursor::Start);
+        found = text_->find(search_->text());
+    }
+    QPalette palette;
+    if (!found) palette.setColor(QPalette::Text, Qt::red);
+    search_->setPalette(palette);
+}
+
+}  // namespace zentrik
