@@ -106,8 +106,9 @@ TEST_F(Opened, WhatIsNoProjectLeavesTheModelAlone) {
     click({100, 100});
     const std::string before = ed().savedText;
     QString said;
-    for (const auto& [name, content] : {std::pair{"damaged.bot", "Zentrik\r\ntitle\r\nLinks\r\n1 : True : x\r\n"},
-                                        {"foreign.bot", "something else"}}) {
+    for (const auto& [name, content] :
+         {std::pair{"damaged.bot", "Zentrik\r\ntitle\r\nLinks\r\n1 : True : x\r\n"},
+          {"foreign.bot", "something else"}}) {
         answerNext("", Qt::Key_Return, &said);
         window_->open({QString::fromStdString(put(name, content))});
         EXPECT_FALSE(said.isEmpty()) << name;
@@ -151,8 +152,9 @@ TEST_F(Opened, ASecondStartHandsItsFileToTheRunningProgram) {
         window_->open(files);
     });
     // This thread must answer meanwhile.
-    std::unique_ptr<QThread> second(
-        QThread::create([&] { EXPECT_EQ(runProgram(folder_.path, {"-platform", "offscreen", file}).status, 0); }));
+    std::unique_ptr<QThread> second(QThread::create([&] {
+        EXPECT_EQ(runProgram(folder_.path, {"-platform", "offscreen", file}).status, 0);
+    }));
     second->start();
     EXPECT_TRUE(QTest::qWaitFor([&] { return second->isFinished(); }, 60000));
     second->wait();

@@ -58,6 +58,8 @@ frmMain::frmMain(const QString& folder)
     connectViews();
     connectTimers();
     connectDrops();
+    connectKeys();
+    chooseTabOrder();
     Form_Load(folder);
     startHistory(history_, ed_);
     connectRecovery();
@@ -144,6 +146,7 @@ void frmMain::showRecord() {
     showTitle();
     recovery_->follow(ed_, history_);
     panels_.show(ed_.panels);
+    showSelection();
     showLayout();
     showTimers();
     if (std::exchange(ed_.sceneStale, false)) picS_->showRecord();

@@ -12,6 +12,7 @@
 #include "history/timeline.h"
 #include "model/editor.h"
 #include "model/pointing.h"
+#include "ui/keys.h"
 #include "ui/menus.h"
 #include "ui/time_travel.h"
 
@@ -54,6 +55,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     struct MenuEntry {
@@ -91,6 +93,8 @@ private:
     void connectTimers();
     void connectRecovery();
     void connectDrops();
+    void connectKeys();
+    void chooseTabOrder();
 
     void Form_Load(const QString& folder);
     void readSprites();
@@ -105,6 +109,10 @@ private:
     void layOutWindow();
     void goThroughTime(int steps);
     void turnTime(const QWheelEvent& event);
+    void pressKey(const KeyRow& row);
+    void runKey(const KeyRow& row);
+    void goToPart(int step);
+    void showSelection();
     template <class Procedure>
     void run(Event event, const std::string& what, Procedure procedure) {
         follow([&](Editor& ed, Host& host) {

@@ -1,6 +1,7 @@
 #include "app/toolbars.h"
 
 #include "app/icons.h"
+#include "app/preset_keys.h"
 #include "display/canvas.h"
 #include "display/lettering.h"
 #include "display/overlays.h"
@@ -157,6 +158,7 @@ void Toolbars::addPresets(QToolButton& button, const PropertyRow& row) {
         QObject::connect(preset, &QAction::triggered, menu, [this, &row, text] { presetChosen(row, text); });
     }
     button.setMenu(menu);
+    openMenuByKeys(button);
     button.setPopupMode(QToolButton::MenuButtonPopup);
 }
 

@@ -1,10 +1,12 @@
 #include "app/views.h"
 
+#include "app/key_pointer.h"
 #include "display/phase_strip.h"
 #include "display/scene.h"
 #include "edit/mouse.h"
 #include "model/units.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -62,10 +64,35 @@ void DrawingView::leaveEvent(QEvent*) { mouse.leave(); }
 SceneView::SceneView(const Editor& ed, QWidget* parent) : DrawingView(ed, parent) {
     setObjectName("picS");
     setAccessibleName("Scene");
+    keyPointer_ = std::make_unique<KeyPointer>(ed);
+}
+
+SceneView::~SceneView() = default;
+
+PointF SceneView::pointerPlace() const {
+    if (const auto place = keyPointer_->place()) return *place;
+    const QPoint pointed = mapFromGlobal(QCursor::pos());
+    const QPoint at = rect().contains(pointed) ? pointed : rect().center();
+    return {twips(at.x()), twips(at.y())};
+}
+
+void SceneView::pointTo(PointF place) { keyPointer_->goTo(mouse, place); }
+
+void SceneView::keyPressEvent(QKeyEvent* event) {
+    if (!keyPointer_->pressed(*event, mouse)) DrawingView::keyPressEvent(event);
+}
+
+void SceneView::mouseMoveEvent(QMouseEvent* event) {
+    keyPointer_->hide();
+    DrawingView::mouseMoveEvent(event);
 }
 
 void SceneView::paintEvent(QPaintEvent*) {
-    pacer.measure([this] { paintScene(); });
+    pacer.measure([this] {
+        paintScene();
+        QPainter painter(this);
+        keyPointer_->draw(painter);
+    });
 }
 
 void SceneView::paintScene() {

@@ -9,6 +9,7 @@
 #include <QPixmap>
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 namespace zentrik {
 
@@ -46,17 +47,28 @@ protected:
     void leaveEvent(QEvent* event) override;
 };
 
+class KeyPointer;
+
 // picS
 class SceneView : public DrawingView {
 public:
     SceneView(const Editor& ed, QWidget* parent);
+    ~SceneView() override;
 
     SpritePictures sprites;
 
+    // The pointer that keys move, if there is one, else the mouse's, else the middle; twips.
+    PointF pointerPlace() const;
+    // Brings the keys' pointer to a place.
+    void pointTo(PointF place);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
+    std::unique_ptr<KeyPointer> keyPointer_;
     // What lies under and over the marks of a scene at rest; nothing while it moves.
     QPixmap under_, over_;
 

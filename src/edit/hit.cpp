@@ -37,6 +37,18 @@ void selectNext(const std::vector<Record>& records, std::int32_t& selection) {
     if (next != none) selection = next;
 }
 
+template <class Record>
+void selectPrevious(const std::vector<Record>& records, std::int32_t& selection) {
+    const auto last = static_cast<std::int32_t>(records.size()) - 1;
+    const std::int32_t from = selection == none ? last + 1 : std::min(selection, last + 1);
+    for (std::int32_t step = 1; step <= last; ++step) {
+        const std::int32_t at = from - step >= 1 ? from - step : from - step + last;
+        if (at < 1 || at > last || !records[static_cast<std::size_t>(at)].Used) continue;
+        selection = at;
+        return;
+    }
+}
+
 }  // namespace
 
 std::int32_t nodeAtPoint(const Editor& ed, float X, float Y) {
@@ -77,5 +89,7 @@ std::string linkText(const Editor& ed, std::int32_t i) {
 
 void NextNode(Editor& ed) { selectNext(ed.Nodes, ed.SelectedNode); }
 void NextLink(Editor& ed) { selectNext(ed.Links, ed.SelectedLink); }
+void PreviousNode(Editor& ed) { selectPrevious(ed.Nodes, ed.SelectedNode); }
+void PreviousLink(Editor& ed) { selectPrevious(ed.Links, ed.SelectedLink); }
 
 }  // namespace zentrik

@@ -24,8 +24,10 @@ bool OverLink(Editor& ed, float X, float Y, std::int32_t& iOver);
 // Status panel 5's text about a link.
 std::string linkText(const Editor& ed, std::int32_t i);
 
-// Select the next used node or link by number, wrapping round.
+// Select the next used node or link by number, or the one before, wrapping round.
 void NextNode(Editor& ed);
 void NextLink(Editor& ed);
+void PreviousNode(Editor& ed);
+void PreviousLink(Editor& ed);
 
 }  // namespace zentrik

@@ -8,10 +8,15 @@
 #include "model/store.h"
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
+#include <vector>
 
 namespace zentrik {
 
 namespace {
+
+constexpr double phaseGrid = 22.5;  // degrees
 
 void redrawBoth(Editor& ed) {
     DrawPhaseManager(ed, ed.AnimationTime);
@@ -52,7 +57,7 @@ float SnapToPhaseGrid(const Editor& ed, float X) {
     const double axis = 0.8 * ed.phaseWidth;
     const double offset = X - 0.1 * ed.phaseWidth;
     double angle = axis > 0 ? offset / axis * 360 : 0;
-    constexpr double step = 22.5;  // degrees
+    constexpr double step = phaseGrid;
     const double cell = step / 360 * axis;
     const std::int32_t c = toInt(cell);
     if (ed.buttons.snap && c > 0) {
@@ -93,6 +98,37 @@ void picPhase_DblClick(Editor& ed) {
     ed.PhaseDragging = false;
     redrawBoth(ed);
     panel(ed, 5).clear();
+}
+
+void stepDisc(Editor& ed, int places) {
+    std::vector<std::pair<float, std::int32_t>> discs;  // by phase, then number
+    forEachLink(ed, [&](std::int32_t j, const Link& link) {
+        if (link.Animator) discs.emplace_back(link.Angle, j);
+    });
+    if (discs.empty()) return;
+    std::sort(discs.begin(), discs.end());
+    const auto chosen = std::find_if(discs.begin(), discs.end(),
+                                     [&](const auto& disc) { return disc.second == ed.SelectedLink; });
+    const auto count = static_cast<std::ptrdiff_t>(discs.size());
+    const std::ptrdiff_t at = chosen == discs.end() ? (places > 0 ? -1 : count) : chosen - discs.begin();
+    const std::ptrdiff_t next = std::clamp<std::ptrdiff_t>(at + places, 0, count - 1);
+    ed.SelectedAnimatorLink = ed.SelectedLink = discs[static_cast<std::size_t>(next)].second;
+    DisplayLinkData(ed, ed.SelectedLink);
+    redrawBoth(ed);
+    panel(ed, 5) = linkText(ed, ed.SelectedLink);
+}
+
+void turnDisc(Editor& ed, int steps) {
+    Link* link = selectedLink(ed);
+    if (!link || !link->Animator) return;
+    const double step = ed.buttons.snap ? phaseGrid : 5;
+    // From one grid line to the next, wherever the disc stands between two.
+    const double place = link->Angle / step;
+    const double next = (steps > 0 ? std::floor(place + 1e-4) : std::ceil(place - 1e-4)) + steps;
+    link->Angle = toReal(std::clamp(next * step, 0.0, 360.0));
+    DisplayLinkData(ed, ed.SelectedLink);
+    redrawBoth(ed);
+    panel(ed, 5) = "Link: " + std::to_string(ed.SelectedLink) + "  Phase: " + realText(link->Angle);
 }
 
 }  // namespace zentrik

@@ -15,4 +15,10 @@ void picPhase_MouseMove(Editor& ed, float X, float Y);
 void picPhase_MouseUp(Editor& ed);
 void picPhase_DblClick(Editor& ed);
 
+// By keyboard: selects the disc some places to the right, or to the left below 0, in the order of their
+// phases.
+void stepDisc(Editor& ed, int places);
+// Turns the phase of the selected disc by 5 degrees a step, or by the phase grid's while snap is pressed.
+void turnDisc(Editor& ed, int steps);
+
 }  // namespace zentrik

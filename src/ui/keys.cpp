@@ -1,0 +1,85 @@
+#include "ui/keys.h"
+
+#include "edit/hit.h"
+#include "model/readout.h"
+#include "model/redraw.h"
+#include "model/store.h"
+#include "ui/phase_manager.h"
+
+namespace zentrik {
+
+namespace {
+
+template <void (*step)(Editor&)>
+void stepNode(Editor& ed, Host&) {
+    step(ed);
+    if (selectedNode(ed) != nullptr) DisplayNodeData(ed, ed.SelectedNode);
+    DisplayScene(ed, -1, -1);
+}
+
+template <void (*step)(Editor&)>
+void stepLink(Editor& ed, Host&) {
+    step(ed);
+    if (selectedLink(ed) != nullptr) DisplayLinkData(ed, ed.SelectedLink);
+    DisplayScene(ed, -1, -1);
+}
+
+template <int steps>
+void chooseDisc(Editor& ed, Host&) {
+    stepDisc(ed, steps);
+}
+
+template <int steps>
+void turn(Editor& ed, Host&) {
+    turnDisc(ed, steps);
+}
+
+constexpr KeyRow press(const char* keys, const char* effect, KeyArea area, const char* button) {
+    return {keys, effect, area, KeyAct::press, button};
+}
+constexpr KeyRow own(const char* keys, const char* effect, KeyArea area, KeyAct act) {
+    return {keys, effect, area, act};
+}
+constexpr KeyRow run(const char* keys, const char* effect, KeyArea area, const char* what, Command command) {
+    return {keys, effect, area, KeyAct::command, nullptr, command, what};
+}
+
+using enum KeyArea;
+
+// clang-format off
+constexpr KeyRow rows[] = {
+    press("Space", "starts and stops the animation", areas, "start"),
+    press(".", "makes a single step", areas, "single"),
+    press("Home", "resets to the last start", areas, "reposition"),
+    press("Ctrl+N", "empties the scene", window, "new"),
+    press("Ctrl+S", "saves the project", window, "save"),
+    press("Ctrl+R", "loads the project again", window, "refresh"),
+    own("Ctrl+O", "opens the list of projects", window, KeyAct::openList),
+    own("Ctrl+C", "copies the selected object as project text", window, KeyAct::copy),
+    own("Ctrl+V", "pastes project text at the pointer, or in the middle of the scene", window, KeyAct::paste),
+    own("F1", "shows this manual", window, KeyAct::help),
+    own("F6", "goes to the next part of the window", window, KeyAct::nextPart),
+    own("Shift+F6", "goes to the part before", window, KeyAct::previousPart),
+    own("Ctrl+Q", "closes the program", window, KeyAct::quit),
+    own("Alt+Down Menu", "opens the values of a button of the property toolbar; Escape closes them", window, KeyAct::presets),
+    own("Left Right Up Down", "move a pointer over the scene, from grid line to grid line while snap is pressed; with Shift ten times as far", scene, KeyAct::pointer),
+    own("Return", "does what a left click does at the pointer", scene, KeyAct::pointer),
+    own("Shift+Return", "does what a right click does", scene, KeyAct::pointer),
+    own("Ctrl+Return", "does what a double click does", scene, KeyAct::pointer),
+    own("Alt+Left Alt+Right Alt+Up Alt+Down", "drag the selected node", scene, KeyAct::pointer),
+    run("N", "selects the next node, and brings the pointer to it", scene, "Next Node", stepNode<NextNode>),
+    run("Shift+N", "selects the node before", scene, "Previous Node", stepNode<PreviousNode>),
+    run("L", "selects the next link, and brings the pointer to its middle", scene, "Next Link", stepLink<NextLink>),
+    run("Shift+L", "selects the link before", scene, "Previous Link", stepLink<PreviousLink>),
+    run("Left", "chooses the disc of the next smaller phase", strip, "Disc chosen", chooseDisc<-1>),
+    run("Right", "chooses the disc of the next larger phase", strip, "Disc chosen", chooseDisc<1>),
+    run("Shift+Left", "turns the chosen disc's phase back, by 5 degrees or to the grid while snap is pressed", strip, "Phase turned", turn<-1>),
+    run("Shift+Right", "turns it on", strip, "Phase turned", turn<1>),
+};
+// clang-format on
+
+}  // namespace
+
+std::span<const KeyRow> keyRows() { return rows; }
+
+}  // namespace zentrik

@@ -1,0 +1,40 @@
+#pragma once
+// What the keyboard does beside the menus' shortcuts, as one table. The window wires it, the manual lists it.
+
+#include "ui/commands.h"
+
+#include <span>
+
+namespace zentrik {
+
+// Where a key works: anywhere in the window, in both drawing areas, or in one of them.
+enum class KeyArea { window, areas, scene, strip };
+
+// What the window itself does for a key.
+enum class KeyAct {
+    press,     // a button of the command toolbar
+    command,   // a procedure
+    pointer,   // the scene's own: moves its pointer, clicks, drags
+    openList,  // of projects
+    quit,
+    help,
+    nextPart,  // of the window
+    previousPart,
+    copy,
+    paste,
+    presets,  // of the button that has the keyboard
+};
+
+struct KeyRow {
+    const char* keys;    // portable texts, parted by blanks where several belong together
+    const char* effect;  // as the manual says it
+    KeyArea area;
+    KeyAct act;
+    const char* button = nullptr;  // of KeyAct::press: its key in the command toolbar
+    Command command = nullptr;     // of KeyAct::command
+    const char* what = "";         // it is called when it can be undone
+};
+
+std::span<const KeyRow> keyRows();
+
+}  // namespace zentrik

@@ -1,0 +1,62 @@
+#include "ui/command_toolbar.h"
+#include "ui/keys.h"
+#include "ui/menus.h"
+#include "window_rig.h"
+
+#include <QTextBrowser>
+#include <QTreeWidget>
+
+namespace zentrik {
+namespace {
+
+using ManualWindow = Window;
+
+TEST_F(ManualWindow, OpensAndFindsItsWay) {
+    QTest::keyClick(window_.get(), Qt::Key_F1);
+    QWidget* manual = find("Manual");
+    ASSERT_TRUE(manual->isVisible());
+    auto* text = manual->findChild<QTextBrowser*>();
+    EXPECT_FALSE(
+        text->document()->resource(QTextDocument::ImageResource, QUrl("pictures/window.png")).isNull());
+    auto* contents = manual->findChild<QTreeWidget*>();
+    EXPECT_GT(contents->topLevelItemCount(), 8);
+    auto* search = manual->findChild<QLineEdit*>();
+    QTest::keyClicks(search, "Snap to Grid");
+    QTest::keyClick(search, Qt::Key_Return);
+    const int first = text->textCursor().position();
+    EXPECT_EQ(text->textCursor().selectedText(), "Snap to Grid");
+    QTest::keyClick(search, Qt::Key_Return);
+    EXPECT_NE(text->textCursor().position(), first);
+    ASSERT_TRUE(window_->close());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window_->findChild<QWidget*>("Manual") == nullptr; }, 10000));
+}
+
+// The manual's lists are those of the program.
+TEST(Manual, ListsWhatThereIs) {
+    QFile file(":/docs/manual.md");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString manual = QString::fromUtf8(file.readAll());
+    const QString keys = manual.section("## Keys", 1).section("## ", 0, 0);
+    qsizetype listed = 0;
+    for (const KeyRow& row : keyRows()) {
+        const QString line = QString("\n| %1 | %2 |\n").arg(QString(row.keys).replace(' ', ", "), row.effect);
+        EXPECT_TRUE(keys.contains(line)) << line.toStdString();
+        ++listed;
+    }
+    EXPECT_EQ(keys.count("\n| ") - keys.count("\n| Key |"), listed) << "a key that is gone is listed still";
+
+    const QString menus = manual.section("## Menus", 1).section("\n## ", 0, 0);
+    for (const MenuRow& row : menuRows()) {
+        if (row.isSeparator() || row.isMenu()) continue;
+        const QString entry = QString(row.caption).remove('&').simplified();
+        const QString name = row.shortcut ? entry + " (" + row.shortcut + ")" : entry;
+        EXPECT_TRUE(menus.contains("\n| " + name + " | ")) << name.toStdString();
+    }
+    for (const CommandRow& row : commandRows()) {
+        if (!row.isButton()) continue;
+        EXPECT_TRUE(manual.contains("\n| " + QString(row.tip) + " | ", Qt::CaseInsensitive)) << row.tip;
+    }
+}
+
+}  // namespace
+}  // namespace zentrik
