@@ -73,6 +73,7 @@ std::optional<Project> chooseEarlierVersion(Editor& ed, Host& host) {
         return {};
     }
     std::vector<std::string> files;
+    files.reserve(versions.size());
     for (const FormerVersion& version : versions) files.push_back(pathText(version.path));
     const std::int32_t chosen = host.chooseVersion(name, files);
     if (chosen < 0 || !std::cmp_less(chosen, versions.size())) return {};
