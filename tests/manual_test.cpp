@@ -1,8 +1,11 @@
 #include "ui/command_toolbar.h"
 #include "ui/keys.h"
 #include "ui/menus.h"
+#include "ui/property_toolbar.h"
 #include "window_rig.h"
 
+#include <QRegularExpression>
+#include <QScrollBar>
 #include <QTextBrowser>
 #include <QTreeWidget>
 
@@ -20,6 +23,19 @@ TEST_F(ManualWindow, OpensAndFindsItsWay) {
         text->document()->resource(QTextDocument::ImageResource, QUrl("pictures/window.png")).isNull());
     auto* contents = manual->findChild<QTreeWidget*>();
     EXPECT_GT(contents->topLevelItemCount(), 8);
+
+    EXPECT_EQ(text->horizontalScrollBar()->maximum(), 0) << "a picture is wider than the window";
+    // Every link inside leads to its chapter.
+    const QString html = text->toHtml();
+    static const QRegularExpression inside("href=\"(#[^\"]*)\"");
+    int links = 0;
+    for (auto found = inside.globalMatch(html); found.hasNext(); ++links) {
+        const QString link = found.next().captured(1);
+        text->verticalScrollBar()->setValue(0);
+        Q_EMIT text->anchorClicked(QUrl(link));
+        EXPECT_GT(text->verticalScrollBar()->value(), 0) << link.toStdString();
+    }
+    EXPECT_GT(links, 4);
     auto* search = manual->findChild<QLineEdit*>();
     QTest::keyClicks(search, "Snap to Grid");
     QTest::keyClick(search, Qt::Key_Return);
@@ -55,6 +71,15 @@ TEST(Manual, ListsWhatThereIs) {
     for (const CommandRow& row : commandRows()) {
         if (!row.isButton()) continue;
         EXPECT_TRUE(manual.contains("\n| " + QString(row.tip) + " | ", Qt::CaseInsensitive)) << row.tip;
+    }
+    // Each property's button, by what it is, with the range of what it offers.
+    const QString properties = manual.section("## Property toolbar", 1).section("\n## ", 0, 0);
+    for (const PropertyRow& row : propertyRows()) {
+        if (!row.isButton()) continue;
+        static const Tips plain;
+        const QString name = row.tip != nullptr ? QString::fromStdString(plain.*row.tip) : row.fixedTip;
+        const char* owner = row.owner == Owner::node ? "node" : row.owner == Owner::link ? "link" : "world";
+        EXPECT_TRUE(properties.contains("\n| " + name + " | " + owner + " | ")) << name.toStdString();
     }
 }
 

@@ -1,12 +1,11 @@
 #include "app/manual_window.h"
 
-#include <QFile>
+#include "app/manual_text.h"
+
 #include <QLineEdit>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTextBlock>
-#include <QTextBrowser>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -16,25 +15,11 @@ namespace {
 
 constexpr int placeRole = Qt::UserRole;  // of an entry: where its chapter begins in the text
 
-QString manualText() {
-    QFile file(":/docs/manual.md");
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-void goTo(QTextBrowser& text, int position) {
-    QTextCursor cursor(text.document());
-    cursor.movePosition(QTextCursor::End);
-    text.setTextCursor(cursor);  // from below, so that the chapter comes to the top
-    cursor.setPosition(position);
-    text.setTextCursor(cursor);
-    text.verticalScrollBar()->setValue(text.verticalScrollBar()->value() + text.cursorRect().top());
-}
-
 }  // namespace
 
 ManualWindow::ManualWindow(QWidget* parent)
     : QWidget(parent, Qt::Window),
-      text_(new QTextBrowser(this)),
+      text_(new ManualText(this)),
       contents_(new QTreeWidget(this)),
       search_(new QLineEdit(this)) {
     setObjectName("Manual");
@@ -48,10 +33,6 @@ ManualWindow::ManualWindow(QWidget* parent)
     search_->setClearButtonEnabled(true);
     contents_->setHeaderHidden(true);
 
-    text_->document()->setBaseUrl(QUrl("qrc:/docs/"));
-    text_->setSearchPaths({":/docs"});
-    text_->setMarkdown(manualText());
-    text_->setOpenExternalLinks(true);
     listContents();
 
     auto* split = new QSplitter(this);
@@ -64,7 +45,7 @@ ManualWindow::ManualWindow(QWidget* parent)
     column->addWidget(split, 1);
 
     connect(contents_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
-        if (item != nullptr) goTo(*text_, item->data(0, placeRole).toInt());
+        if (item != nullptr) text_->goTo(item->data(0, placeRole).toInt());
     });
     connect(search_, &QLineEdit::returnPressed, this, [this] { find(); });
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, search_,

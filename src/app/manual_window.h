@@ -2,10 +2,11 @@
 #include <QWidget>
 
 class QLineEdit;
-class QTextBrowser;
 class QTreeWidget;
 
 namespace zentrik {
+
+class ManualText;
 
 // The manual that is shipped with the program: its text, its contents, and a line to search it.
 class ManualWindow : public QWidget {
@@ -13,7 +14,7 @@ public:
     explicit ManualWindow(QWidget* parent);
 
 private:
-    QTextBrowser* const text_;
+    ManualText* const text_;
     QTreeWidget* const contents_;
     QLineEdit* const search_;
 

@@ -1,0 +1,89 @@
+#include "app/manual_text.h"
+
+#include <QDesktopServices>
+#include <QFile>
+#include <QImageReader>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextTable>
+#include <algorithm>
+#include <vector>
+
+namespace zentrik {
+
+namespace {
+
+constexpr double besideText = 0.4;  // of the width, for a picture in a table
+
+QString manualMarkdown() {
+    QFile file(":/docs/manual.md");
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+// How a link names a chapter: the words of its heading in lower case, joined by hyphens; or so the bold words
+// that a paragraph begins with.
+QString linkName(const QTextBlock& block) {
+    if (block.begin().atEnd()) return {};
+    const QTextFragment first = block.begin().fragment();
+    if (block.blockFormat().headingLevel() == 0 && first.charFormat().fontWeight() < QFont::Bold) return {};
+    static const QRegularExpression others("[^a-z0-9 -]");
+    return first.text().toLower().remove(others).replace(' ', '-');
+}
+
+}  // namespace
+
+ManualText::ManualText(QWidget* parent) : QTextBrowser(parent) {
+    document()->setBaseUrl(QUrl("qrc:/docs/"));
+    setSearchPaths({":/docs"});
+    setMarkdown(manualMarkdown());
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // the pictures are fitted beside it
+    setOpenLinks(false);
+    connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { followLink(link); });
+}
+
+void ManualText::goTo(int position) {
+    QTextCursor cursor(document());
+    cursor.movePosition(QTextCursor::End);
+    setTextCursor(cursor);  // from below, so that the chapter comes to the top
+    cursor.setPosition(position);
+    setTextCursor(cursor);
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect().top());
+}
+
+void ManualText::resizeEvent(QResizeEvent* event) {
+    fitPictures();
+    QTextBrowser::resizeEvent(event);
+}
+
+void ManualText::fitPictures() {
+    const double room = viewport()->width() - 2 * document()->documentMargin();
+    std::vector<QTextFragment> pictures;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+        for (auto at = block.begin(); !at.atEnd(); ++at)
+            if (at.fragment().charFormat().isImageFormat()) pictures.push_back(at.fragment());
+    QTextCursor cursor(document());
+    for (const QTextFragment& place : pictures) {
+        QTextImageFormat format = place.charFormat().toImageFormat();
+        const QSize natural = QImageReader(":/docs/" + format.name()).size();
+        cursor.setPosition(place.position());
+        const double part = cursor.currentTable() != nullptr ? besideText : 1;
+        const double width = std::min(natural.width() * 1.0, room * part);
+        if (natural.isEmpty() || format.width() == width) continue;
+        format.setWidth(width);
+        format.setHeight(width * natural.height() / natural.width());
+        cursor.setPosition(place.position() + place.length(), QTextCursor::KeepAnchor);
+        cursor.setCharFormat(format);
+    }
+}
+
+void ManualText::followLink(const QUrl& link) {
+    if (!link.scheme().isEmpty()) {
+        QDesktopServices::openUrl(link);
+        return;
+    }
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+        if (linkName(block) == link.fragment()) return goTo(block.position());
+}
+
+}  // namespace zentrik

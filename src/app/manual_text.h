@@ -1,0 +1,23 @@
+#pragma once
+#include <QTextBrowser>
+
+namespace zentrik {
+
+// The manual as text and pictures: no picture is wider than the window, and links to a chapter ("#chapter")
+// lead there.
+class ManualText : public QTextBrowser {
+public:
+    explicit ManualText(QWidget* parent);
+
+    // Brings a place of the text, as QTextBlock::position counts, to the top.
+    void goTo(int position);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void fitPictures();
+    void followLink(const QUrl& link);
+};
+
+}  // namespace zentrik
