@@ -1,8 +1,10 @@
 // The program by keyboard alone.
 
 #include "ui/keys.h"
+#include "model/numbers.h"
 #include "window_rig.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QClipboard>
 #include <set>
@@ -61,10 +63,16 @@ TEST_F(Keys, DrawRunAndSaveACreature) {
     hit(Qt::Key_N);
     EXPECT_EQ(ed().SelectedNode, 1);
     const std::int32_t before = nodeAt(ed(), 1).X;
-    hit(Qt::Key_Right, Qt::AltModifier);
-    EXPECT_EQ(nodeAt(ed(), 1).X, before + 75);
+    for (int i = 0; i < 5; ++i) QTest::keyPress(scene(), Qt::Key_Right, Qt::AltModifier);
+    EXPECT_TRUE(nodeAt(ed(), 1).BeingDragged);
+    QTest::keyRelease(scene(), Qt::Key_Alt);
+    EXPECT_EQ(nodeAt(ed(), 1).X, before + 375);
     EXPECT_FALSE(nodeAt(ed(), 1).BeingDragged);
+    hit(Qt::Key_Backspace, Qt::AltModifier);
+    EXPECT_EQ(nodeAt(ed(), 1).X, before) << "the whole drag is one step";
+    QTest::keyPress(scene(), Qt::Key_Right, Qt::AltModifier);
     hit(Qt::Key_N, Qt::ShiftModifier);
+    EXPECT_FALSE(nodeAt(ed(), 1).BeingDragged) << "another key ends the drag";
     EXPECT_EQ(ed().SelectedNode, 8);
 
     const std::int32_t cycles = ed().Cycles;
@@ -208,14 +216,40 @@ TEST_F(Keys, PresetsOpenByKeys) {
     }
 }
 
-// Every control says what it is to who cannot see it.
-TEST_F(Keys, EveryControlHasAName) {
-    for (const QWidget* widget : window_->findChildren<QWidget*>()) {
-        if ((widget->focusPolicy() & Qt::TabFocus) == 0 || !widget->isVisible()) continue;
-        if (widget->objectName().startsWith("qt_")) continue;
-        EXPECT_FALSE(widget->accessibleName().isEmpty() && qobject_cast<const QLineEdit*>(widget) == nullptr)
-            << widget->metaObject()->className() << " " << widget->objectName().toStdString();
+// What an assistive program asks: the name, or the label that stands for it.
+QString heardName(QWidget& widget) {
+    QAccessibleInterface* control = QAccessible::queryAccessibleInterface(&widget);
+    for (const auto& [other, relation] : control->relations(QAccessible::Label))
+        if (relation.testFlag(QAccessible::Label)) return other->text(QAccessible::Name);
+    return control->text(QAccessible::Name);
+}
+
+TEST_F(Keys, EveryControlSaysWhatItIsAndShows) {
+    choose("mnuDisplayAngleManager");
+    click({100, 100});
+    int heard = 0;
+    for (QWidget* widget : window_->findChildren<QWidget*>()) {
+        const bool isPart =
+            widget->objectName().startsWith("qt_") || qobject_cast<QLineEdit*>(widget) != nullptr;
+        if ((widget->focusPolicy() & Qt::TabFocus) == 0 || !widget->isVisible() || isPart) continue;
+        SCOPED_TRACE(widget->objectName().toStdString());
+        const auto role = QAccessible::queryAccessibleInterface(widget)->role();
+        EXPECT_FALSE(role == QAccessible::NoRole || role == QAccessible::StaticText);
+        EXPECT_FALSE(heardName(*widget).isEmpty());
+        EXPECT_FALSE(widget->toolTip().isEmpty() && qobject_cast<QToolButton*>(widget) != nullptr);
+        ++heard;
     }
+    EXPECT_GT(heard, 60);
+    EXPECT_TRUE(heardName(*find("lstSaved")).startsWith("Projects"));
+    EXPECT_TRUE(heardName(*find("lstSprites")).startsWith("Sprite"));
+    preset("gravity", 0);
+    EXPECT_EQ(heardName(*button("Toolbar2", "gravity")), "Gravity");
+    EXPECT_EQ(button("Toolbar2", "gravity")->accessibleDescription().toStdString(), realText(ed().Gravity));
+    EXPECT_EQ(button("Toolbar2", "mass")->accessibleDescription(), "1");
+    EXPECT_TRUE(button("Toolbar2", "k")->accessibleDescription().isEmpty()) << "no link is selected";
+}
+
+TEST_F(Keys, TheSelectionIsHeard) {
     click({100, 100});
     EXPECT_TRUE(scene()->accessibleDescription().contains("node: 1"));
     click({300, 300}, Qt::RightButton);

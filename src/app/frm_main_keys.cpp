@@ -1,6 +1,7 @@
 // The window by keyboard: what its keys start, and the order in which Tab and F6 go through it.
 
 #include "app/frm_main.h"
+#include "model/numbers.h"
 #include "model/store.h"
 #include "ui/copy_paste.h"
 
@@ -41,6 +42,18 @@ std::string selectionText(const Editor& ed) {
         text += "Selected link: " + std::to_string(ed.SelectedLink) +
                 (linkAt(ed, ed.SelectedLink).Animator ? ", an animator. " : ". ");
     return text.empty() ? "Nothing is selected. " : text;
+}
+
+std::string phaseText(const Editor& ed) {
+    if (!linkExists(ed, ed.SelectedLink) || !linkAt(ed, ed.SelectedLink).Animator)
+        return "No disc is selected.";
+    return "Link " + std::to_string(ed.SelectedLink) + " at " + realText(linkAt(ed, ed.SelectedLink).Angle) +
+           " degrees.";
+}
+
+void describe(QWidget& area, const std::string& text) {
+    const QString said = QString::fromStdString(text);
+    if (area.accessibleDescription() != said) area.setAccessibleDescription(said);
 }
 
 }  // namespace
@@ -144,10 +157,10 @@ bool frmMain::event(QEvent* event) {
     return true;
 }
 
-// For who hears the scene.
+// For who hears the scene and the strip.
 void frmMain::showSelection() {
-    const QString text = QString::fromStdString(selectionText(ed_));
-    if (picS_->accessibleDescription() != text) picS_->setAccessibleDescription(text);
+    describe(*picS_, selectionText(ed_));
+    describe(*picPhase_, phaseText(ed_));
 }
 
 }  // namespace zentrik

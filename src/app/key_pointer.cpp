@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 namespace zentrik {
 
@@ -23,6 +24,11 @@ const Node* selected(const Editor& ed) {
 bool isArrow(int key) { return key >= Qt::Key_Left && key <= Qt::Key_Down; }
 
 }  // namespace
+
+bool belongsToDrag(const QKeyEvent& event) {
+    const bool isModifier = event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_Alt;
+    return isModifier || (isArrow(event.key()) && event.modifiers().testFlag(Qt::AltModifier));
+}
 
 // Where the selection is, else in the middle.
 PointF KeyPointer::start() const {
@@ -80,13 +86,21 @@ void KeyPointer::drag(const MouseCalls& mouse, int key, bool far) {
     if (node == nullptr || !node->Used) return;
     const PointF from{static_cast<float>(node->X), static_cast<float>(node->Y)};
     const PointF to = moved(from, key, far);
-    mouse.move(from.x, from.y, false);
-    const std::int32_t dragged = ed_.SelectedNode;
-    mouse.down(leftButton, from.x, from.y);
-    // Where nodes lie on top of each other, the press is the lowest one's.
-    if (ed_.SelectedNode == dragged && ed_.MouseIsDown) mouse.move(to.x, to.y, true);
-    mouse.up(leftButton, to.x, to.y);
+    if (!dragging_ || !ed_.MouseIsDown) {
+        mouse.move(from.x, from.y, false);
+        const std::int32_t dragged = ed_.SelectedNode;
+        mouse.down(leftButton, from.x, from.y);
+        dragging_ = true;
+        place_ = from;
+        // Where nodes lie on top of each other, the press is the lowest one's.
+        if (ed_.SelectedNode != dragged || !ed_.MouseIsDown) return letGo(mouse);
+    }
+    mouse.move(to.x, to.y, true);
     place_ = to;
+}
+
+void KeyPointer::letGo(const MouseCalls& mouse) {
+    if (std::exchange(dragging_, false) && place_) mouse.up(leftButton, place_->x, place_->y);
 }
 
 void KeyPointer::draw(QPainter& painter) const {

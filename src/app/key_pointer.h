@@ -18,6 +18,8 @@ public:
     std::optional<PointF> place() const { return place_; }
     void hide() { place_.reset(); }
     void goTo(const MouseCalls& mouse, PointF place);
+    // Ends the drag that lasts as long as Alt is held, if there is one.
+    void letGo(const MouseCalls& mouse);
     // False for a key that is none of its own.
     bool pressed(const QKeyEvent& event, const MouseCalls& mouse);
     // Painted where the pointer is: crisp on any background.
@@ -26,11 +28,15 @@ public:
 private:
     const Editor& ed_;
     std::optional<PointF> place_;
+    bool dragging_ = false;
 
     PointF start() const;
     PointF moved(PointF from, int key, bool far) const;
     void click(const MouseCalls& mouse, Qt::KeyboardModifiers modifiers);
     void drag(const MouseCalls& mouse, int key, bool far);
 };
+
+// Whether a key drags the selected node, or is one that may be held meanwhile.
+bool belongsToDrag(const QKeyEvent& event);
 
 }  // namespace zentrik

@@ -5,11 +5,13 @@
 #include "display/canvas.h"
 #include "display/lettering.h"
 #include "display/overlays.h"
+#include "model/store.h"
 #include "model/units.h"
 #include "ui/layout.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
@@ -75,9 +77,29 @@ QToolButton* makeButton(const char* key, bool checkable, QToolBar& bar) {
 }
 
 void setTip(QToolButton& button, const QString& tip) {
-    if (button.toolTip() == tip) return;
-    button.setToolTip(tip);
-    button.setAccessibleName(tip);
+    if (button.toolTip() != tip) button.setToolTip(tip);
+}
+
+// What a button is, as its tip says before it tells a value.
+QString nameOf(const PropertyRow& row) {
+    static const Tips plain;
+    return row.tip != nullptr ? QString::fromStdString(plain.*row.tip) : row.fixedTip;
+}
+
+// What it shows; nothing where there is no node or link to tell of.
+QString valueOf(const PropertyRow& row, const Editor& ed) {
+    const bool has = row.owner == Owner::node   ? nodeExists(ed, ed.SelectedNode)
+                     : row.owner == Owner::link ? linkExists(ed, ed.SelectedLink)
+                                                : true;
+    return row.access != nullptr && has ? QString::fromStdString(row.access->text(ed)) : QString();
+}
+
+// A list's accessible name is its text; what it is for, says a label, which nobody needs to see.
+void addLabel(QWidget& list) {
+    auto* label = new QLabel(list.accessibleName(), list.parentWidget());
+    label->setObjectName(list.objectName() + "Label");
+    label->setBuddy(&list);
+    label->hide();
 }
 
 // Fills a bar from its table: buttons as add places them, groups between separators, two of which in a row
@@ -93,8 +115,10 @@ void build(QToolBar& bar, std::span<const Row> rows, QWidget& list, Add add) {
         groupOpen = true;
         if (row.isButton())
             add(row, *makeButton(row.key, row.pressed != nullptr, bar));
-        else if (!std::exchange(roomTaken, true))
+        else if (!std::exchange(roomTaken, true)) {
             bar.addWidget(&list);
+            addLabel(list);
+        }
     }
 }
 
@@ -124,6 +148,7 @@ Toolbars::Toolbars(QWidget& window)
 void Toolbars::buildCommands() {
     build(*Toolbar1, commandRows(), *lstSaved, [this](const CommandRow& row, QToolButton& button) {
         setTip(button, row.tip);
+        button.setAccessibleName(row.tip);
         QObject::connect(&button, &QToolButton::clicked, Toolbar1, [this, &row] { commandPressed(row); });
         Toolbar1->addWidget(&button);
         commands_.push_back({&row, &button});
@@ -144,6 +169,7 @@ void Toolbars::buildProperties() {
         QObject::connect(&button, &QToolButton::clicked, Toolbar2, [this, &row] { propertyPressed(row); });
         const bool dropDown = row.style == ButtonStyle::dropDown;
         if (dropDown) addPresets(button, row);
+        button.setAccessibleName(nameOf(row));
         button.setIconSize({smallIcon, smallIcon});
         const int arrow = row.owner == Owner::global ? globalArrowWidth : arrowWidth;
         button.setFixedSize(smallButton + (dropDown ? arrow : 0), height - 4);
@@ -219,6 +245,8 @@ void Toolbars::show(const Editor& ed) {
         const PropertyRow& row = *it.row;
         if (row.pressed != nullptr) it.button->setChecked(ed.buttons.*row.pressed);
         setTip(*it.button, row.tip != nullptr ? QString::fromStdString(ed.tips.*row.tip) : row.fixedTip);
+        if (const QString value = valueOf(row, ed); it.button->accessibleDescription() != value)
+            it.button->setAccessibleDescription(value);
         it.place->setVisible(row.isVisible(ed));
         if (row.owner == Owner::node) it.button->setEnabled(ed.nodeControls);
         if (row.owner == Owner::link) it.button->setEnabled(ed.linkControls);

@@ -78,11 +78,30 @@ PointF SceneView::pointerPlace() const {
 
 void SceneView::pointTo(PointF place) { keyPointer_->goTo(mouse, place); }
 
+// Whatever another key is about to start, a drag by keys has ended before.
+bool SceneView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && !belongsToDrag(*static_cast<QKeyEvent*>(event)))
+        keyPointer_->letGo(mouse);
+    return DrawingView::event(event);
+}
+
+void SceneView::keyReleaseEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Alt) keyPointer_->letGo(mouse);
+    DrawingView::keyReleaseEvent(event);
+}
+
+void SceneView::focusOutEvent(QFocusEvent* event) {
+    keyPointer_->letGo(mouse);
+    DrawingView::focusOutEvent(event);
+}
+
 void SceneView::keyPressEvent(QKeyEvent* event) {
+    if (!belongsToDrag(*event)) keyPointer_->letGo(mouse);
     if (!keyPointer_->pressed(*event, mouse)) DrawingView::keyPressEvent(event);
 }
 
 void SceneView::mouseMoveEvent(QMouseEvent* event) {
+    keyPointer_->letGo(mouse);
     keyPointer_->hide();
     DrawingView::mouseMoveEvent(event);
 }
