@@ -6,6 +6,7 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QProcess>
+#include <csignal>
 #include <fstream>
 
 namespace zentrik {
@@ -18,15 +19,20 @@ struct Outcome {
     QString out, problems;
 };
 
-// Runs the program to its end, without any display.
-Outcome runProgram(const fs::path& folder, const QStringList& arguments) {
+// Without any display, at home in a folder.
+void startProgram(QProcess& process, const fs::path& folder, const QStringList& arguments) {
     QProcessEnvironment home = QProcessEnvironment::systemEnvironment();
     for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) home.remove(display);
     home.insert("XDG_DATA_HOME", QString::fromStdString(folder.string()));
     home.insert("XDG_CONFIG_HOME", QString::fromStdString((folder / "settings").string()));
-    QProcess process;
     process.setProcessEnvironment(home);
     process.start(ZENTRIK_PROGRAM, arguments);
+}
+
+// Runs the program to its end.
+Outcome runProgram(const fs::path& folder, const QStringList& arguments) {
+    QProcess process;
+    startProgram(process, folder, arguments);
     EXPECT_TRUE(process.waitForFinished(60000)) << arguments.join(' ').toStdString();
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
@@ -160,6 +166,31 @@ TEST_F(Opened, ASecondStartHandsItsFileToTheRunningProgram) {
     second->wait();
     EXPECT_TRUE(started);
     EXPECT_EQ(ed().savedText, "second");
+}
+
+// Whether a program ends in order when it is asked to, as the kernel tells.
+bool heedsTermination(qint64 program) {
+    std::ifstream status("/proc/" + std::to_string(program) + "/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("SigCgt:"))
+            return (std::stoull(line.substr(7), nullptr, 16) >> (SIGTERM - 1) & 1) != 0;
+    return false;
+}
+
+TEST_F(Opened, ANewWindowIsAProgramOfItsOwn) {
+    const fs::path folder = folder_.path / "Zentrik";
+    bool taken = false;
+    const StartListener listener(QString::fromStdString(folder.string()),
+                                 [&](const QStringList&) { taken = true; });
+    QProcess own;
+    startProgram(own, folder_.path,
+                 {"-platform", "offscreen", "--new-window",
+                  QString::fromStdString(putSample("own.bot", "zoo/wheel.bot"))});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return taken || heedsTermination(own.processId()); }, 60000));
+    own.terminate();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return own.state() == QProcess::NotRunning; }, 60000));
+    EXPECT_FALSE(taken);
+    EXPECT_TRUE(fs::exists(folder / "zoo/resume.bot"));
 }
 
 }  // namespace

@@ -72,6 +72,7 @@ public:
     }
     void fetchMessage(const std::string& address) override { note("fetch", address); }
     void showManual() override { note("manual", ""); }
+    void showHelp(const std::string& page) override { note("help", page); }
     void showAbout() override { note("about", ""); }
     void resizeWindow(int width, int height) override {
         note("resize", std::to_string(width) + "|" + std::to_string(height));

@@ -165,6 +165,13 @@ void DesktopHost::showManual() {
     manual_->activateWindow();
 }
 
+void DesktopHost::showHelp(const std::string& page) {
+    helpAsker_.fetched = [this, page](const QString&, const QString& problem) {
+        if (!problem.isEmpty() || !openAddress(page)) showManual();
+    };
+    helpAsker_.fetch(QUrl(text(page)));
+}
+
 void DesktopHost::closeHelp() {
     for (const auto& window : {about_, manual_})
         if (window) window->close();

@@ -40,6 +40,7 @@ public:
     void fetchMessage(const std::string& address) override;
     void showAbout() override;
     void showManual() override;
+    void showHelp(const std::string& page) override;
     void resizeWindow(int width, int height) override;
     void showPathWindow(bool visible) override;
 
@@ -47,7 +48,7 @@ private:
     QWidget& window_;
     int open_ = 0;
     QPointer<QWidget> about_, manual_;
-    MessageFetcher fetcher_;
+    MessageFetcher fetcher_, helpAsker_;
 
     std::string ask(InputBox::Kind kind, const std::string& prompt, const std::string& title,
                     const std::string& preset);

@@ -26,6 +26,7 @@ public:
     void fetchMessage(const std::string&) override {}
     void showAbout() override {}
     void showManual() override {}
+    void showHelp(const std::string&) override {}
     void resizeWindow(int, int) override {}
     void showPathWindow(bool) override {}
 };

@@ -1,14 +1,16 @@
 #pragma once
-// Where the maker is reached. Every address the program opens, fetches or prints stands here.
+// Where the maker is reached. Every address the program opens, fetches or prints stands here; who builds the
+// program sets them (CMake's ZENTRIK_MAIL and so on). An empty one is an address that this build does not
+// have.
 
 namespace zentrik {
 
-inline constexpr const char* makerName = "The Zentrik authors";
-inline constexpr const char* makerMail = "authors@zentrik.example";
-inline constexpr const char* webPage = "https://zentrik.example/";
-inline constexpr const char* forumPage = "https://zentrik.example/forum/";
-inline constexpr const char* helpPage = "https://zentrik.example/help/";
-inline constexpr const char* updatePage = "https://zentrik.example/update/";
-inline constexpr const char* messageFile = "https://zentrik.example/message.txt";  // one line of text
+extern const char* const makerName;
+extern const char* const makerMail;
+extern const char* const webPage;  // stands in the first line of every project, always set
+extern const char* const forumPage;
+extern const char* const helpPage;
+extern const char* const updatePage;
+extern const char* const messageFile;  // one line of text
 
 }  // namespace zentrik

@@ -45,6 +45,8 @@ public:
     virtual void fetchMessage(const std::string& address) = 0;
     virtual void showAbout() = 0;
     virtual void showManual() = 0;
+    // Opens a page of help if its server answers, else the manual; which, is known later.
+    virtual void showHelp(const std::string& page) = 0;
     // Asks for another outer size of the main window, twips; -1 keeps that extent. The window lays
     // itself out before this returns.
     virtual void resizeWindow(int width, int height) = 0;

@@ -179,12 +179,18 @@ void mnuSetTitle_Click(Editor& ed, Host& host) {
 }
 
 void mnuEmail_Click(Editor& ed, Host& host) {
+    const bool known = *makerMail != '\0';
     const Mail reached = exportMail(ed, host);
-    if (reached == Mail::handedOver) return;
+    if (reached == Mail::handedOver) {
+        if (!known)
+            panel(ed, 5) = "This build of Zentrik knows no address of its authors: choose a recipient.";
+        return;
+    }
     const std::string advice = reached == Mail::onClipboard
-                                   ? "The project is on the clipboard: paste it into a mail to "
-                                   : "Save the project and send its file from the folder zoo to ";
-    host.messageBox("Error sending email!\n" + advice + makerMail + ".", "Send Email to Author",
+                                   ? "The project is on the clipboard: paste it into a mail"
+                                   : "Save the project and send its file from the folder zoo";
+    const std::string recipient = known ? std::string(" to ") + makerMail : "";
+    host.messageBox("Error sending email!\n" + advice + recipient + ".", "Send Email to Author",
                     BoxIcon::exclamation);
 }
 

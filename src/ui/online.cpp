@@ -11,21 +11,29 @@ namespace {
 
 constexpr std::size_t longestMessage = 300;  // bytes shown of what a server sends
 
-void open(Editor& ed, Host& host, const char* address) {
+void sayMissing(Editor& ed, const char* what) {
+    panel(ed, 5) = std::string("This build of Zentrik knows no ") + what + ".";
+}
+
+void open(Editor& ed, Host& host, const char* address, const char* what) {
+    if (*address == '\0') return sayMissing(ed, what);
     if (!host.openAddress(address)) panel(ed, 5) = std::string("Nothing on this computer opens ") + address;
 }
 
 }  // namespace
 
-void mnuForums_Click(Editor& ed, Host& host) { open(ed, host, forumPage); }
-void mnuOnlineHelp_Click(Editor&, Host& host) {
-    if (!host.openAddress(helpPage)) host.showManual();
+void mnuForums_Click(Editor& ed, Host& host) { open(ed, host, forumPage, "page of forums"); }
+void mnuOnlineHelp_Click(Editor& ed, Host& host) {
+    if (*helpPage != '\0') return host.showHelp(helpPage);
+    host.showManual();
+    sayMissing(ed, "page of help: here is the manual");
 }
-void mnuOnlineUpdate_Click(Editor& ed, Host& host) { open(ed, host, updatePage); }
+void mnuOnlineUpdate_Click(Editor& ed, Host& host) { open(ed, host, updatePage, "page of new versions"); }
 void mnuAbout_Click(Editor&, Host& host) { host.showAbout(); }
 
 void messageClicked(Editor& ed, Host& host) {
     DisplayOnscreenInstructions(ed);
+    if (*messageFile == '\0') return sayMissing(ed, "server that has a message");
     panel(ed, 5) = "Asking the server for its message...";
     host.fetchMessage(messageFile);
 }
