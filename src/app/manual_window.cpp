@@ -32,6 +32,7 @@ ManualWindow::ManualWindow(QWidget* parent)
     search_->setPlaceholderText("Search (Enter finds the next place)");
     search_->setClearButtonEnabled(true);
     contents_->setHeaderHidden(true);
+    contents_->setRootIsDecorated(false);
 
     listContents();
 

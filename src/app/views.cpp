@@ -6,6 +6,7 @@
 #include "edit/mouse.h"
 #include "model/units.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -13,6 +14,12 @@
 namespace zentrik {
 
 namespace {
+
+// A plain widget would be no more than a filler to who hears it.
+QAccessibleInterface* makeCanvas(const QString&, QObject* object) {
+    auto* view = dynamic_cast<DrawingView*>(object);
+    return view != nullptr ? new QAccessibleWidget(view, QAccessible::Canvas) : nullptr;
+}
 
 int buttonNumber(Qt::MouseButton button) {
     switch (button) {
@@ -35,6 +42,7 @@ DrawingView::DrawingView(const Editor& ed, QWidget* parent) : QWidget(parent), p
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    QAccessible::installFactory(makeCanvas);
 }
 
 void DrawingView::mousePressEvent(QMouseEvent* event) {
