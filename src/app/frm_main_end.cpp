@@ -2,7 +2,7 @@
 
 #include "app/frm_main.h"
 #include "app/left_copies.h"
-#include "app/quiet_host.h"
+#include "model/quiet_host.h"
 #include "model/units.h"
 #include "project/library.h"
 #include "sim/run.h"

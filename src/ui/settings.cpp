@@ -1,5 +1,6 @@
 #include "ui/settings.h"
 
+#include "model/first_run.h"
 #include "model/no_doubles.h"
 #include "model/numbers.h"
 #include "model/rate.h"
@@ -22,7 +23,6 @@ using Slot = std::variant<float Placement::*, bool Marks::*, bool Buttons::*, fl
 struct SettingRow {
     const char* key;
     Slot slot;
-    const char* firstRun = nullptr;  // where it is not what a fresh record holds
 };
 
 // clang-format off
@@ -31,17 +31,17 @@ constexpr SettingRow rows[] = {
     {"MainTop", &Placement::top},
     {"MainWidth", &Placement::width},
     {"MainHeight", &Placement::height},
-    {"UseDirectional", &Marks::mnuUseDirectional, "True"},
-    {"IgnoreBarriers", &Marks::mnuIgnoreBarriers, "True"},
-    {"ReverseModel", &Marks::mnuReverseModel, "True"},
+    {"UseDirectional", &Marks::mnuUseDirectional},
+    {"IgnoreBarriers", &Marks::mnuIgnoreBarriers},
+    {"ReverseModel", &Marks::mnuReverseModel},
     {"Persistent", &Marks::mnuPersistentFireworks},
     {"CannonBall", &Marks::mnuCannonBallFocus},
-    {"Walls", &Marks::mnuWalls, "True"},
-    {"Ceiling", &Marks::mnuCeiling, "True"},
+    {"Walls", &Marks::mnuWalls},
+    {"Ceiling", &Marks::mnuCeiling},
     {"Fireworks", &Marks::mnuDisplayFireWorks},
     {"UseRandom", &Marks::mnuUseRandom},
     {"Random", &Marks::mnuRandom},
-    {"AutoResume", &Marks::mnuAutoResume, "True"},
+    {"AutoResume", &Marks::mnuAutoResume},
     {"DisplayTitle", &Marks::mnuDisplayTitle},
     {"AllowZero", &Marks::mnuAllowZero},
     {"AllowGrid", &Marks::mnuAllowGrid},
@@ -74,12 +74,12 @@ constexpr SettingRow rows[] = {
     {"Slow", &Buttons::slow},
     {"Draw", &Buttons::draw},
     {"Same", &Buttons::same},
-    {"Animation", &Buttons::animation, "1"},
+    {"Animation", &Buttons::animation},
     {"DisplayData", &Buttons::data},
     {"SnapToGrid", &Buttons::snap},
     {"DisplayGrid", &Buttons::grid},
     {"PrintNumbers", &Buttons::numbers},
-    {"SimpleNumbers", &Buttons::simple, "1"},
+    {"SimpleNumbers", &Buttons::simple},
     {"Sprite", &Buttons::sprite},
 };
 // clang-format on
@@ -109,11 +109,11 @@ bool convert(const SettingRow& row, const std::string& text, Editor& ed, Placeme
     return std::visit([&](auto slot) { return readForm(text, place(slot)); }, row.slot);
 }
 
-void takeFresh(const SettingRow& row, Editor& ed, Placement& placement) {
-    const Editor fresh;
-    const Placement freshPlacement;
+void takeFirst(const SettingRow& row, Editor& ed, Placement& placement) {
+    const Editor first = firstRun();
+    const Placement firstPlacement;
     const Place<Editor, Placement> place{ed, placement};
-    const Place<const Editor, const Placement> from{fresh, freshPlacement};
+    const Place<const Editor, const Placement> from{first, firstPlacement};
     std::visit([&](auto slot) { place(slot) = from(slot); }, row.slot);
 }
 
@@ -141,11 +141,8 @@ std::string textOf(const SettingRow& row, const Editor& ed, const Placement& pla
 void getSettings(Editor& ed, Placement& placement, SettingsStore& store) {
     for (const SettingRow& row : rows) {
         const std::optional<std::string> text = store.read(row.key);
-        if (text && convert(row, *text, ed, placement) && isAcceptable(row, ed)) continue;
-        if (row.firstRun != nullptr)
-            convert(row, row.firstRun, ed, placement);
-        else
-            takeFresh(row, ed, placement);
+        if (!text || !convert(row, *text, ed, placement) || !isAcceptable(row, ed))
+            takeFirst(row, ed, placement);
     }
     ed.windowMaximized = store.read(maximizedKey) == "True";
     setNodeRadius(ed, ed.NodeRadius);
