@@ -24,6 +24,19 @@ inline const ForcePoint& pointAt(const ForcePoints& points, std::int32_t i) {
 // Each node drives the nodes linked to it by its Rotate, at right angles to the link.
 void applyRotationalDrive(const Editor& ed, ForcePoints& points);
 
+// What all animators share in one step: whether they run, and the clock's phase, radians.
+struct AnimatorClock {
+    bool running;
+    double phase;
+    float reached;
+};
+AnimatorClock animatorClock(const Editor& ed);
+
+// The length at which a link is at rest then, twips.
+double restLength(const Link& link, const AnimatorClock& clock);
+// With which a link of this length pulls its ends together; below 0 it pushes them apart.
+float springForce(const Link& link, float length, double rest);
+
 // Springs and animators of all links, in index order; measures every link's CurrentLength. Appends the
 // used barrier links with both ends to barriers. placesAreSmall: the differences of all coordinates are
 // exact as 32-bit reals, so that the points will do instead of the nodes.

@@ -9,13 +9,6 @@ namespace zentrik {
 
 namespace {
 
-// What all animators share in one step.
-struct AnimatorClock {
-    bool running;
-    double phase;  // radians
-    float reached;
-};
-
 // Factor by which an animator stretches its link's rest length; it starts once the clock's phase has
 // passed its own.
 [[gnu::noinline]] float animatorFactor(const Link& link, const AnimatorClock& clock) {
@@ -26,9 +19,21 @@ struct AnimatorClock {
 
 }  // namespace
 
-void applySprings(Editor& ed, ForcePoints& points, bool placesAreSmall, std::vector<std::int32_t>& barriers) {
+AnimatorClock animatorClock(const Editor& ed) {
     const double phase = wide(ed.DeltaAngle) * ed.AnimationTime;
-    const AnimatorClock clock{ed.buttons.animation, phase, std::fabs(real(phase))};
+    return {ed.buttons.animation, phase, std::fabs(real(phase))};
+}
+
+double restLength(const Link& link, const AnimatorClock& clock) {
+    return link.Animator ? wide(animatorFactor(link, clock)) * link.RestLength : wide(link.RestLength);
+}
+
+float springForce(const Link& link, float length, double rest) {
+    return real((length - rest) * link.k * 100);
+}
+
+void applySprings(Editor& ed, ForcePoints& points, bool placesAreSmall, std::vector<std::int32_t>& barriers) {
+    const AnimatorClock clock = animatorClock(ed);
     forEachLink(ed, [&](std::int32_t j, Link& link) {
         prefetchAhead<Needed::once>(link);
         ForcePoint& a = pointAt(points, link.N1);
@@ -36,9 +41,7 @@ void applySprings(Editor& ed, ForcePoints& points, bool placesAreSmall, std::vec
         const Double2 d =
             wide(placesAreSmall ? a.place - b.place : difference(nodeAt(ed, link.N1), nodeAt(ed, link.N2)));
         const float length = real(std::sqrt(d[0] * d[0] + d[1] * d[1]));
-        const double rest =
-            link.Animator ? wide(animatorFactor(link, clock)) * link.RestLength : wide(link.RestLength);
-        const double F = wide(real((length - rest) * link.k * 100));
+        const double F = wide(springForce(link, length, restLength(link, clock)));
         link.CurrentLength = length;
         if (link.Barrier) barriers.push_back(j);
         // Ends at the same place give no direction to pull in.

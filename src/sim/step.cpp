@@ -20,7 +20,7 @@ struct NodeState {
     bool Used;
 };
 
-// Memory that every step fills anew; it is kept only to spare the next step its allocation.
+// Memory that every step fills anew; it is kept only to spare the thread's next step its allocation.
 struct Scratch {
     std::vector<NodeState> before;
     ForcePoints points;
@@ -31,7 +31,7 @@ struct Scratch {
 };
 
 Scratch& scratch() {
-    static Scratch memory;
+    thread_local Scratch memory;
     return memory;
 }
 
