@@ -2,6 +2,8 @@
 // button, and ten minutes.
 
 #include "project/zoo.h"
+
+#include "measure/state_hash.h"
 #include "model/store.h"
 #include "rig.h"
 #include "scenes/visit.h"
@@ -131,6 +133,18 @@ TEST_P(Sample, PlaysForTenMinutes) {
     if (isOneOf({"boxes"})) {
         for (const auto& [i, x] : all.x) EXPECT_LT(x.size(), 2900) << "ball " << i;
     }
+}
+
+// One hash of all samples, whatever compiler built them.
+TEST(Zoo, RunsTheSameInEveryBuild) {
+    std::uint64_t hash = 0;
+    for (const std::string& name : names()) {
+        Editor ed = scenes::openSample(ZENTRIK_SOURCE_DIR, name, scenes::smallestScene);
+        scenes::start(ed);
+        for (int step = 0; step < 400; ++step) scenes::tickSample(ed);
+        hash = stateHash(ed, hash);
+    }
+    EXPECT_EQ(hash, 12207644660945950123U);
 }
 
 // There whatever is not hung up falls a long way first.
