@@ -38,9 +38,10 @@ ProjectFile readProject(const std::filesystem::path& path, const std::string& sh
     if (!file.problem.empty()) return {{}, shown + " could not be read.\n" + file.problem};
     Reading reading = parseProject(file.bytes);
     if (!reading.problem) return {std::move(reading.project), ""};
-    const auto& [line, text] = *reading.problem;
-    if (line == 0) return {{}, text, true};
-    return {{}, shown + ", line " + std::to_string(line) + ": " + text + "\nNothing was loaded."};
+    const ReadProblem& problem = *reading.problem;
+    if (problem.line == 0) return {{}, problem.text, true};
+    return {{},
+            shown + ", line " + std::to_string(problem.line) + ": " + problem.text + "\nNothing was loaded."};
 }
 
 void tellProblem(Host& host, const ProjectFile& file) {

@@ -59,80 +59,105 @@ std::string excerpt(std::string_view field) {
     return field.size() > 40 ? text + "..." : text;
 }
 
-// Fills a record from a line. Gives the problem in words, or the empty text.
+enum class Wanted { firstProblem, allProblems };
+
+// Fills a record from a line.
 template <class Record, std::size_t count>
-std::string readColumns(std::string_view line, const Column<Record> (&columns)[count], Record& record) {
+ReadProblems readColumns(std::string_view line, const Column<Record> (&columns)[count], Record& record,
+                         Wanted wanted) {
+    ReadProblems problems;
     Fields fields(line);
     std::string_view field;
     fields.next(field);  // the slot number plays no part
     for (std::size_t i = 0; i < count; ++i) {
         const auto& column = columns[i];
-        const auto named = [&] {
-            return "field " + std::to_string(i + 2) + " (" + std::string(column.name) + ") is ";
+        const auto note = [&](const std::string& what) {
+            const std::string name = std::to_string(i + 2) + " (" + std::string(column.name) + ")";
+            problems.push_back({0, "field " + name + " is " + what, i + 2});
         };
-        if (!fields.next(field)) return named() + "missing.";
+        if (!fields.next(field)) {
+            note("missing.");
+            break;
+        }
         const auto read = [&](auto member) { return readForm(field, record.*member); };
-        if (!std::visit(read, column.member))
-            return named() + std::string(formProblems[column.member.index()]) + ": " + excerpt(field);
+        if (std::visit(read, column.member)) continue;
+        note(std::string(formProblems[column.member.index()]) + ": " + excerpt(field));
+        if (wanted == Wanted::firstProblem) break;
     }
-    return {};
+    return problems;
 }
 
 template <class Record, std::size_t count>
-std::string readRecord(std::string_view line, const Column<Record> (&columns)[count],
-                       std::vector<Record>& records) {
+ReadProblems readRecord(std::string_view line, const Column<Record> (&columns)[count],
+                        std::vector<Record>& records, Wanted wanted) {
     records.emplace_back();
-    std::string problem = readColumns(line, columns, records.back());
+    ReadProblems problems = readColumns(line, columns, records.back(), wanted);
     // Editors trim the blank behind the last separator when the last field is empty.
-    if (!problem.empty() && line.ends_with(" :")) {
+    if (!problems.empty() && line.ends_with(" :")) {
         records.back() = {};
-        if (readColumns(std::string(line) + " ", columns, records.back()).empty()) return {};
+        if (readColumns(std::string(line) + " ", columns, records.back(), wanted).empty()) return {};
     }
-    return problem;
+    return problems;
 }
 
 enum class Section { none, links, nodes };
 
 // The rules in their order; the first that fits counts.
-std::string readLine(std::string_view line, Section& section, Project& project) {
+ReadProblems readLine(std::string_view line, std::size_t number, Section& section, LenientReading& to,
+                      Wanted wanted) {
     if (beginsIgnoringCase(line, "global")) {
         GlobalSettings global;
-        std::string problem = readColumns(line, globalColumns, global);
-        if (problem.empty()) project.global = global;
-        return problem;
-    }
-    if (beginsIgnoringCase(line, "nodes"))
+        ReadProblems problems = readColumns(line, globalColumns, global, wanted);
+        if (!problems.empty()) return problems;
+        to.project.global = global;
+        to.globalLine = number;
+    } else if (beginsIgnoringCase(line, "nodes")) {
         section = Section::nodes;
-    else if (beginsIgnoringCase(line, "links"))
+    } else if (beginsIgnoringCase(line, "links")) {
         section = Section::links;
-    else if (line.starts_with(';') || line.find_first_not_of(" \t") == std::string_view::npos)
+    } else if (line.starts_with(';') || line.find_first_not_of(" \t") == std::string_view::npos) {
         return {};
-    else if (section == Section::links)
-        return readRecord(line, linkColumns, project.Links);
-    else if (section == Section::nodes)
-        return readRecord(line, nodeColumns, project.Nodes);
+    } else if (section == Section::links) {
+        to.linkLines.push_back(number);
+        return readRecord(line, linkColumns, to.project.Links, wanted);
+    } else if (section == Section::nodes) {
+        to.nodeLines.push_back(number);
+        return readRecord(line, nodeColumns, to.project.Nodes, wanted);
+    }
     return {};
+}
+
+LenientReading read(std::string_view bytes, Wanted wanted) {
+    LenientReading reading;
+    if (!bytes.starts_with(magicWord)) {
+        reading.problems.push_back({0, "Input file not recognized!", 0});
+        return reading;
+    }
+    Lines lines(bytes);
+    std::string_view line;
+    lines.next(line);
+    if (!lines.next(line)) {
+        reading.problems.push_back({2, "the file ends before the project title.", 0});
+        return reading;
+    }
+    reading.project.title = line;
+    Section section = Section::none;
+    while (lines.next(line) && (wanted == Wanted::allProblems || reading.problems.empty()))
+        for (ReadProblem& problem : readLine(line, lines.number, section, reading, wanted)) {
+            problem.line = lines.number;
+            reading.problems.push_back(std::move(problem));
+        }
+    return reading;
 }
 
 }  // namespace
 
 Reading parseProject(std::string_view bytes) {
-    if (!bytes.starts_with(magicWord)) return {{}, ReadProblem{0, "Input file not recognized!"}};
-    Lines lines(bytes);
-    std::string_view line;
-    lines.next(line);
-    if (!lines.next(line)) return {{}, ReadProblem{2, "the file ends before the project title."}};
-
-    Reading reading;
-    Project& project = reading.project.emplace();
-    project.title = line;
-    Section section = Section::none;
-    while (lines.next(line)) {
-        std::string problem = readLine(line, section, project);
-        if (problem.empty()) continue;
-        return {{}, ReadProblem{lines.number, std::move(problem)}};
-    }
-    return reading;
+    LenientReading reading = read(bytes, Wanted::firstProblem);
+    if (!reading.problems.empty()) return {{}, std::move(reading.problems.front())};
+    return {std::move(reading.project), {}};
 }
+
+LenientReading parseLeniently(std::string_view bytes) { return read(bytes, Wanted::allProblems); }
 
 }  // namespace zentrik

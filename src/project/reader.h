@@ -17,11 +17,13 @@ struct Project {
     std::vector<Node> Nodes = std::vector<Node>(1);  // SpriteIndex not looked up
 };
 
-// Why reading stopped.
+// What is wrong with a file.
 struct ReadProblem {
     std::size_t line = 0;  // counted from 1; 0 = the file as a whole
     std::string text;
+    std::size_t field = 0;  // of the line, counted from 1; 0 = the line as a whole
 };
+using ReadProblems = std::vector<ReadProblem>;
 
 struct Reading {
     std::optional<Project> project;  // none with a problem
@@ -32,5 +34,14 @@ struct Reading {
 // their ends as they stand, whether such nodes exist or not. Lines end in CR LF or LF; a
 // last blank that an editor has trimmed does not matter. A malformed line spoils the whole.
 Reading parseProject(std::string_view bytes);
+
+// What can be read of a file that may hold any number of problems: a field with one keeps its default.
+struct LenientReading {
+    Project project;
+    ReadProblems problems;
+    std::vector<std::size_t> linkLines{0}, nodeLines{0};  // by slot; where each record stands
+    std::size_t globalLine = 0;                           // of the last one; 0 = none
+};
+LenientReading parseLeniently(std::string_view bytes);
 
 }  // namespace zentrik
