@@ -4,7 +4,7 @@ include(GNUInstallDirs)
 set(desktop_in ${CMAKE_SOURCE_DIR}/desktop)
 set(desktop_out ${CMAKE_BINARY_DIR}/desktop)
 
-install(TARGETS zentrik RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS zentrik zentrik-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(DIRECTORY zoo sprites DESTINATION ${CMAKE_INSTALL_DATADIR}/zentrik
         FILES_MATCHING PATTERN "*.bot" PATTERN "*.svg" PATTERN "*.png")
 install(FILES docs/manual.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
@@ -14,6 +14,9 @@ install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
 configure_file(${desktop_in}/zentrik.desktop.in ${desktop_out}/${ZENTRIK_ID}.desktop @ONLY)
 configure_file(${desktop_in}/zentrik.metainfo.xml.in ${desktop_out}/${ZENTRIK_ID}.metainfo.xml @ONLY)
 configure_file(${desktop_in}/zentrik.1.in ${desktop_out}/zentrik.1 @ONLY)
+configure_file(${desktop_in}/zentrik-cli.1.in ${desktop_out}/zentrik-cli.1 @ONLY)
+install(FILES ${desktop_in}/zentrik-cli.bash RENAME zentrik-cli
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
 install(FILES ${desktop_out}/${ZENTRIK_ID}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${desktop_out}/${ZENTRIK_ID}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${desktop_in}/zentrik-mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages
@@ -43,13 +46,14 @@ endforeach()
 configure_file(${desktop_in}/changelog.Debian.in ${desktop_out}/changelog.Debian @ONLY)
 configure_file(CHANGELOG.md ${desktop_out}/changelog COPYONLY)
 find_program(GZIP_PROGRAM gzip REQUIRED)
-foreach(text zentrik.1 changelog changelog.Debian)
+foreach(text zentrik.1 zentrik-cli.1 changelog changelog.Debian)
   add_custom_command(OUTPUT ${desktop_out}/${text}.gz
     COMMAND ${GZIP_PROGRAM} -9nkf ${text} WORKING_DIRECTORY ${desktop_out}
     DEPENDS ${desktop_out}/${text} VERBATIM)
   list(APPEND drawn ${desktop_out}/${text}.gz)
 endforeach()
-install(FILES ${desktop_out}/zentrik.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${desktop_out}/zentrik.1.gz ${desktop_out}/zentrik-cli.1.gz
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${desktop_out}/changelog.gz ${desktop_out}/changelog.Debian.gz
         DESTINATION ${CMAKE_INSTALL_DOCDIR})
 add_custom_target(zentrik_desktop ALL DEPENDS ${drawn})

@@ -16,6 +16,7 @@ id=example.zentrik.Zentrik
 
 for file in bin/zentrik share/zentrik/zoo/bridge.bot share/zentrik/sprites/ant.svg share/doc/zentrik/manual.md \
     share/doc/zentrik/pictures/window.png share/doc/zentrik/copyright share/man/man1/zentrik.1.gz \
+    bin/zentrik-cli share/man/man1/zentrik-cli.1.gz share/bash-completion/completions/zentrik-cli \
     share/icons/hicolor/scalable/mimetypes/application-x-zentrik-project.svg; do
     [ -s "$usr/$file" ] || fail "$file is not installed"
 done
@@ -35,7 +36,9 @@ if have appstreamcli; then
     said=$(appstreamcli validate --no-net "$usr/share/metainfo/$id.metainfo.xml") || fail "the metainfo: $said"
 fi
 if have mandoc; then
-    zcat "$usr/share/man/man1/zentrik.1.gz" | mandoc -T lint -W style || fail "the man page"
+    for page in zentrik zentrik-cli; do
+        zcat "$usr/share/man/man1/$page.1.gz" | MANPATH="$usr/share/man" mandoc -T lint -W style || fail "the man page of $page"
+    done
 fi
 if have update-mime-database; then
     cp -r "$usr/share/mime" "$scratch/mime"

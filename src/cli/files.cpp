@@ -1,0 +1,35 @@
+#include "cli/files.h"
+
+#include "project/write_file.h"
+#include "project/zoo.h"
+
+#include <istream>
+#include <iterator>
+#include <ostream>
+
+namespace zentrik::cli {
+
+std::string shownName(const std::string& file) { return file == "-" ? "standard input" : file; }
+
+std::string problemText(const std::string& file, const ReadProblem& problem) {
+    const std::string line = problem.line == 0 ? "" : std::to_string(problem.line) + ":";
+    return shownName(file) + ":" + line + " " + problem.text;
+}
+
+std::string readBytes(const std::string& file, Streams& streams) {
+    if (file == "-") return {std::istreambuf_iterator<char>(streams.in), {}};
+    FileBytes read = readProjectFile(file);
+    if (!read.problem.empty()) throw Failure{finding, file + ": " + read.problem};
+    return std::move(read.bytes);
+}
+
+void writeBytes(const std::string& file, std::string_view bytes, Streams& streams) {
+    if (file == "-") {
+        if (!(streams.out << bytes)) throw Failure{finding, outputProblem};
+        return;
+    }
+    const std::string problem = writeFile(file, bytes);
+    if (!problem.empty()) throw Failure{finding, file + ": " + problem};
+}
+
+}  // namespace zentrik::cli
