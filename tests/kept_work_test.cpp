@@ -30,19 +30,19 @@ TEST_F(KeptWork, AFullDiskKeepsTheFormerCopyAndIsSaid) {
     ASSERT_NE(due, nullptr);
     click({100, 100});
     due->start(0);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !copy().empty(); }, 30000));
+    ASSERT_TRUE(await([&] { return !copy().empty(); }));
     const std::string former = copy();
     click({200, 100});
     {
         const FileSizeLimit limit(100);
         ASSERT_TRUE(limit.works);
         due->start(0);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return panelText(5).startsWith("What is not saved"); }, 30000));
+        EXPECT_TRUE(await([&] { return panelText(5).startsWith("What is not saved"); }));
         EXPECT_EQ(copy(), former);
     }
     click({300, 100});
     due->start(0);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return copy() != former; }, 30000)) << "the next one is tried";
+    EXPECT_TRUE(await([&] { return copy() != former; })) << "the next one is tried";
     ASSERT_TRUE(window_->close());
     EXPECT_EQ(copy(), "");
 }
@@ -52,16 +52,15 @@ TEST_F(KeptWork, WhatAnEventThrowsAwayIsAmongTheFormerVersions) {
     click({100, 100});
     click({200, 100});
     press("start");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return ed().Cycles > 3; }, 30000));
+    ASSERT_TRUE(await([&] { return ed().Cycles > 3; }));
     press("start");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return versionsOf("mine") == 1; }, 30000)) << "as it was before it ran";
+    EXPECT_TRUE(await([&] { return versionsOf("mine") == 1; })) << "as it was before it ran";
     press("start");
     const std::int32_t cycles = ed().Cycles;
-    ASSERT_TRUE(QTest::qWaitFor([&] { return ed().Cycles > cycles + 3; }, 30000));
+    ASSERT_TRUE(await([&] { return ed().Cycles > cycles + 3; }));
     press("start");
     press("new");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return versionsOf("mine") == 2; }, 30000))
-        << "as it was before it went";
+    EXPECT_TRUE(await([&] { return versionsOf("mine") == 2; })) << "as it was before it went";
     EXPECT_TRUE(window_->close());
     EXPECT_EQ(versionsOf("mine"), 2U) << "a second run is no loss of its own";
     start();
@@ -80,7 +79,7 @@ TEST_F(KeptWork, ClosingKeepsWhatRanAndWhatWasUndone) {
     find<ProjectList>("lstSaved")->setEditText("another");
     click({100, 100});
     press("start");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return ed().Cycles > 3; }, 30000));
+    ASSERT_TRUE(await([&] { return ed().Cycles > 3; }));
     EXPECT_TRUE(window_->close());
     EXPECT_EQ(versionsOf("another"), 1U) << "as it was before it ran";
 }
@@ -91,11 +90,11 @@ TEST_F(KeptWork, TheCopyStaysWhileItsContentsCanBeRedone) {
     auto* due = window_->findChild<QTimer*>("RecoveryDue");
     ASSERT_NE(due, nullptr);
     due->start(0);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !copy().empty(); }, 30000));
+    ASSERT_TRUE(await([&] { return !copy().empty(); }));
     for (int i = 0; i < nodes; ++i) QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
     EXPECT_FALSE(window_->isWindowModified());
     click({60, 200});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return versionsOf("resume") == 1; }, 30000)) << "what could be redone";
+    ASSERT_TRUE(await([&] { return versionsOf("resume") == 1; })) << "what could be redone";
     EXPECT_NE(copy(), "") << "till then the copy was all that was left of it";
     EXPECT_TRUE(window_->close());
     EXPECT_EQ(copy(), "");

@@ -78,7 +78,7 @@ TEST_F(Keys, DrawRunAndSaveACreature) {
     const std::int32_t cycles = ed().Cycles;
     hit(Qt::Key_Space);
     EXPECT_TRUE(ed().Timer1.enabled);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ed().Cycles > cycles + 3; }, 60000));
+    EXPECT_TRUE(await([&] { return ed().Cycles > cycles + 3; }));
     hit(Qt::Key_Space);
     EXPECT_FALSE(ed().Timer1.enabled);
     hit(Qt::Key_Period);
@@ -206,12 +206,12 @@ TEST_F(Keys, PresetsOpenByKeys) {
         gravity->setFocus(Qt::TabFocusReason);
         bool opened = false;
         QTimer::singleShot(0, window_.get(), [&] {
-            opened = QTest::qWaitFor([&] { return gravity->menu()->isVisible(); }, 10000);
+            opened = await([&] { return gravity->menu()->isVisible(); });
             QTest::keyClick(gravity->menu(), Qt::Key_Escape);
             gravity->menu()->close();
         });
         QTest::keyClick(gravity, key, modifiers);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return opened; }, 20000)) << key;
+        EXPECT_TRUE(await([&] { return opened; })) << key;
         EXPECT_FALSE(gravity->menu()->isVisible());
     }
 }

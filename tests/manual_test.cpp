@@ -44,7 +44,7 @@ TEST_F(ManualWindow, OpensAndFindsItsWay) {
     QTest::keyClick(search, Qt::Key_Return);
     EXPECT_NE(text->textCursor().position(), first);
     ASSERT_TRUE(window_->close());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window_->findChild<QWidget*>("Manual") == nullptr; }, 10000));
+    EXPECT_TRUE(await([&] { return window_->findChild<QWidget*>("Manual") == nullptr; }));
 }
 
 // The manual's lists are those of the program.

@@ -162,7 +162,7 @@ TEST_F(Opened, ASecondStartHandsItsFileToTheRunningProgram) {
         EXPECT_EQ(runProgram(folder_.path, {"-platform", "offscreen", file}).status, 0);
     }));
     second->start();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return second->isFinished(); }, 60000));
+    EXPECT_TRUE(await([&] { return second->isFinished(); }));
     second->wait();
     EXPECT_TRUE(started);
     EXPECT_EQ(ed().savedText, "second");

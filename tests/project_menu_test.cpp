@@ -102,14 +102,14 @@ TEST_F(ProjectMenu, ADamagedProjectThatIsChosenLeavesTheListsText) {
     list()->setEditText("typed");
     QTest::keyClick(list()->lineEdit(), Qt::Key_Down);
     QAbstractItemView* names = list()->view();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return names->isVisible(); }));
+    ASSERT_TRUE(await([&] { return names->isVisible(); }));
     names->setCurrentIndex(names->model()->index(list()->findText("bad"), 0));
     QString said;
     answerNext({}, Qt::Key_Return, &said);
     QTest::keyClick(names, Qt::Key_Return);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !said.isEmpty(); }));
+    ASSERT_TRUE(await([&] { return !said.isEmpty(); }));
     EXPECT_TRUE(said.startsWith("zoo/bad.bot, line 4: field 2 (Used)")) << said.toStdString();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeModalWidget() == nullptr; }));
+    ASSERT_TRUE(await([&] { return QApplication::activeModalWidget() == nullptr; }));
     EXPECT_EQ(list()->currentText(), "typed");
     EXPECT_EQ(ed().savedText, "typed");
     EXPECT_EQ(UsedNodes(ed()), 1);

@@ -118,7 +118,7 @@ TEST_F(Recovery, AKilledProgramLosesNothing) {
     ASSERT_TRUE(window_->close());
     Program program(ZENTRIK_SUBJECT, folder_.path, {QString::fromStdString(folder_.path.string())});
     ASSERT_EQ(program.line(), "drawn\n");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return copies() == 1; }, 60000));
+    ASSERT_TRUE(await([&] { return copies() == 1; }));
     EXPECT_EQ(leftNames(), "") << "it lives";
     program.kill();
     EXPECT_EQ(leftNames(), "resume ");
@@ -215,7 +215,7 @@ TEST_F(Recovery, AFolderInTheWayIsSaidOnceAndStopsNothing) {
     ASSERT_TRUE(due->isActive());
     EXPECT_LE(due->interval(), 5000);
     due->start(0);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return panelText(5).startsWith("What is not saved"); }, 30000));
+    EXPECT_TRUE(await([&] { return panelText(5).startsWith("What is not saved"); }));
     EXPECT_TRUE(window_->close());
 }
 

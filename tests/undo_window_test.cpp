@@ -79,11 +79,11 @@ TEST_F(WayBack, AChoiceInTheOpenedListLoads) {
     typeName("walker");
     key(Qt::Key_Down);
     QAbstractItemView* names = list()->view();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return names->isVisible(); }));
+    ASSERT_TRUE(await([&] { return names->isVisible(); }));
     EXPECT_EQ(names->currentIndex().data().toString(), "walker") << "it stands on what the text names";
     EXPECT_EQ(UsedNodes(ed()), 3);
     QTest::keyClick(names, Qt::Key_Return);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return UsedNodes(ed()) == 1; }));
+    ASSERT_TRUE(await([&] { return UsedNodes(ed()) == 1; }));
     EXPECT_EQ(ed().savedText, "walker");
     EXPECT_EQ(window_->windowTitle(), "walker[*] - Zentrik");
     EXPECT_FALSE(window_->isWindowModified());
@@ -118,7 +118,7 @@ TEST_F(WayBack, UndoAndRedoByKeyAndButton) {
     EXPECT_FALSE(find<QToolButton>("undo")->isEnabled());
     QTest::mouseClick(find<QToolButton>("redo"), Qt::LeftButton);
     press("start");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ed().Cycles > 3; }));
+    EXPECT_TRUE(await([&] { return ed().Cycles > 3; }));
     QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
     EXPECT_FALSE(ed().Timer1.enabled);
     EXPECT_EQ(panelText(5), "Undone: Animation run");

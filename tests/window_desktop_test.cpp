@@ -17,7 +17,6 @@ struct DesktopFont {
         QFont font{QString(family)};
         font.setPointSizeF(points);
         QApplication::setFont(font);
-        QTest::qWait(20);
     }
     ~DesktopFont() { QApplication::setFont(before); }
 };
@@ -30,12 +29,13 @@ TEST_F(Window, BarsTakeTheRoomTheirFontNeeds) {
         for (const double points : {6.0, 9.0, 11.0, 13.75, 14.0, 18.0, 24.0}) {
             SCOPED_TRACE(testing::Message() << family << " " << points);
             desktop.set(family, points);
+            settle();
             window_->perform("", [](Editor& ed, Host&) {
                 ed.panels[0] = "Nodes: 123456";
                 ed.panels[3] = "Time:  12345.678";
                 ed.panels[4] = std::string(400, 'm');
             });
-            QTest::qWait(20);
+            settle();
             int shown = 0;
             for (const QAction* menu : window_->menuBar()->actions()) {
                 const QRect place = window_->menuBar()->actionGeometry(const_cast<QAction*>(menu));
@@ -59,7 +59,7 @@ TEST_F(Window, BarsTakeTheRoomTheirFontNeeds) {
 TEST_F(Window, ThePropertyBarStandsUnderItsReadOut) {
     for (const int width : {960, 1190, 1210, 1590}) {
         window_->resize(width, 700);
-        QTest::qWait(20);
+        settle();
         expectEveryButtonVisible();
         const std::pair<const char*, int> firsts[] = {{"gravity", 100}, {"mass", 7550}, {"k", 10800}};
         for (const auto& [key, twips] : firsts)
@@ -76,7 +76,7 @@ TEST_F(Window, FollowsTheDesktopToDarkAndToOtherStyles) {
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         dark.setColor(role, ink);
     QApplication::setPalette(dark);
-    QTest::qWait(20);
+    settle();
     EXPECT_EQ(find<QComboBox>("lstSprites")->palette().color(QPalette::Active, QPalette::ButtonText), ink);
     EXPECT_EQ(find("Panel5")->palette().color(QPalette::WindowText), ink);
     const QColor paper(Qt::white);  // the scene's
@@ -92,7 +92,7 @@ TEST_F(Window, FollowsTheDesktopToDarkAndToOtherStyles) {
     for (const char* style : {"Windows", "Fusion"}) {
         QApplication::setStyle(style);
         window_->resize(960, 400);
-        QTest::qWait(20);
+        settle();
         expectEveryButtonVisible();
         EXPECT_NEAR(button("Toolbar2", "k")->x(), (60 + 10800) / 15, 1) << style;
     }
@@ -111,7 +111,7 @@ TEST_F(Window, TheStartButtonShowsWhatItDoes) {
 TEST_F(Window, ItsSizeFollowsTheScreenItIsOn) {
     EXPECT_EQ(window_->maximumSize(), QSize(1600, 1000));
     window_->move(1700, 50);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window_->maximumSize() == QSize(2400, 1400); }, 1000));
+    EXPECT_TRUE(await([&] { return window_->maximumSize() == QSize(2400, 1400); }));
     EXPECT_EQ(boundedSize({16000, 16000}, {960, 334}, {800, 300}), QSize(960, 334));
 
     // A project from a larger scene.
@@ -120,7 +120,7 @@ TEST_F(Window, ItsSizeFollowsTheScreenItIsOn) {
     EXPECT_EQ(window_->frameGeometry().size(), QSize(2400, 1400));
     window_->resize(1000, 600);
     window_->showMaximized();
-    QTest::qWait(20);
+    settle();
     const QSize filled = window_->size();
     window_->perform("", [](Editor&, Host& host) { host.resizeWindow(19500, -1); });
     EXPECT_TRUE(window_->isMaximized());

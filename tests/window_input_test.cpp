@@ -10,11 +10,10 @@ namespace {
 TEST_F(Window, NumberBoxesHelpToTypeOne) {
     QString hint;
     const auto look = [&](const QString& typed) {
-        QTimer::singleShot(50, window_.get(), [&, typed] {
-            QWidget* box = QApplication::activeModalWidget();
-            auto* line = box->findChild<QLineEdit*>();
+        inNextBox([&, typed](QWidget& box) {
+            auto* line = box.findChild<QLineEdit*>();
             QTest::keyClicks(line, typed);
-            hint = box->findChild<QLabel*>("Hint")->text();
+            hint = box.findChild<QLabel*>("Hint")->text();
             QTest::keyClick(line, Qt::Key_Return);
         });
     };
@@ -34,11 +33,10 @@ TEST_F(Window, NumberBoxesHelpToTypeOne) {
 
 TEST_F(Window, BoxesAreAsWideAsTheirTitles) {
     int width = 0, title = 0;
-    QTimer::singleShot(50, window_.get(), [&] {
-        QWidget* box = QApplication::activeModalWidget();
-        width = box->width();
-        title = box->fontMetrics().horizontalAdvance(box->windowTitle());
-        box->close();
+    inNextBox([&](QWidget& box) {
+        width = box.width();
+        title = box.fontMetrics().horizontalAdvance(box.windowTitle());
+        box.close();
     });
     window_->perform("", [](Editor&, Host& host) {
         host.messageBox("!", "A title that is far longer than its message", BoxIcon::plain);

@@ -16,6 +16,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QtTest/QTest>
+#include <functional>
 
 namespace zentrik {
 
@@ -33,18 +34,53 @@ protected:
             QFile::copy(QString(ZENTRIK_SOURCE_DIR "/sprites/") + name, path + "/sprites/" + name);
         start();
     }
+    // The pointer starts outside: a move to where it already is reaches nobody.
     std::unique_ptr<frmMain> makeWindow() const {
+        QCursor::setPos(0, 0);
+        settle();
         return std::make_unique<frmMain>(QString::fromStdString(folder_.path.string()));
     }
     void start() {
         window_ = makeWindow();
         window_->resize(1200, 700);
+        show();
+    }
+    void show() {
         window_->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window_.get()));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window_.get(), longest));
     }
     void restart() {
         ASSERT_TRUE(window_->close());
         start();
+    }
+
+    static constexpr int longest = 60000;  // milliseconds, for what takes a few
+    template <class Condition>
+    static bool await(Condition holds) {
+        return QTest::qWaitFor(holds, longest);
+    }
+    // Lets everything happen that has been asked for: layouts, shows, closed windows.
+    static void settle() {
+        for (int round = 0; round < 5; ++round) {
+            QCoreApplication::sendPostedEvents();
+            QCoreApplication::processEvents();
+        }
+    }
+    // Acts as soon as a condition holds, from within whatever box is open by then.
+    void when(const std::function<bool()>& holds, const std::function<void()>& act) {
+        QTimer::singleShot(5, window_.get(), [=, this] { holds() ? act() : when(holds, act); });
+    }
+    template <class Act>
+    void inNextBox(Act act) {
+        when([] { return QApplication::activeModalWidget() != nullptr; },
+             [act] { act(*QApplication::activeModalWidget()); });
+    }
+    // Starts and stops when some steps have run.
+    void runAWhile() {
+        const std::int32_t before = ed().Cycles;
+        press("start");
+        EXPECT_TRUE(await([&] { return ed().Cycles > before + 2; }));
+        press("start");
     }
 
     const Editor& ed() const { return window_->editor(); }
@@ -96,18 +132,19 @@ protected:
         QApplication::sendEvent(find("picS"), &event);
         QTest::mouseRelease(find("picS"), Qt::LeftButton, {}, at);
     }
-    // Types into the next modal box and closes it with a key; gives what the box said.
-    void answerNext(const QString& text, Qt::Key key, QString* said = nullptr) {
-        QTimer::singleShot(50, window_.get(), [this, text, key, said] {
-            QWidget* box = QApplication::activeModalWidget();
-            if (box == nullptr) return answerNext(text, key, said);
-            if (auto* message = qobject_cast<QMessageBox*>(box)) {
+    // Types into the next modal box and closes it with a key; gives what the box said. What comes then?
+    void answerNext(
+        const QString& text, Qt::Key key, QString* said = nullptr,
+        const std::function<void()>& then = [] {}) {
+        inNextBox([=](QWidget& box) {
+            then();
+            if (auto* message = qobject_cast<QMessageBox*>(&box)) {
                 if (said != nullptr) *said = message->text();
                 auto* choice = message->button(key == Qt::Key_Escape ? QMessageBox::Cancel : QMessageBox::Ok);
                 return QTest::mouseClick(choice, Qt::LeftButton);
             }
-            auto* line = box->findChild<QLineEdit*>();
-            if (said != nullptr) *said = box->windowTitle() + "|" + line->selectedText();
+            auto* line = box.findChild<QLineEdit*>();
+            if (said != nullptr) *said = box.windowTitle() + "|" + line->selectedText();
             if (!text.isEmpty()) QTest::keyClicks(line, text);
             QTest::keyClick(line, key);
         });

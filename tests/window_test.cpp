@@ -15,8 +15,7 @@ namespace {
 TEST_F(Window, SaysWhichSpriteIsNoPicture) {
     putFile(folder_.path / "sprites" / "notes.txt", "no picture");
     window_ = makeWindow();
-    window_->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window_.get()));
+    show();
     EXPECT_EQ(panelText(5), "No usable picture: notes.txt");
 }
 
@@ -45,14 +44,13 @@ TEST_F(Window, EverythingHasItsName) {
 TEST_F(Window, NoButtonIsHiddenAtAnySize) {
     window_ = makeWindow();
     window_->resize(10, 10);
-    window_->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window_.get()));
+    show();
     EXPECT_EQ(window_->width() * 15, 14400);
     EXPECT_GE(window_->height() * 15, 5000);
     expectEveryButtonVisible();
     window_->setMaximumSize(1300, 700);  // the test's screen may be smaller
     window_->resize(1300, 700);
-    QTest::qWait(20);
+    settle();
     expectEveryButtonVisible();
 }
 
@@ -125,18 +123,21 @@ TEST_F(Window, QuestionsComeWithTheValueSelected) {
 
 TEST_F(Window, TicksWaitWhileABoxIsOpen) {
     press("start");
-    QTest::qWait(100);
-    const std::int32_t before = ed().Cycles;
-    EXPECT_GT(before, 0);
-    std::int32_t meanwhile = 0;
-    QTimer::singleShot(150, window_.get(), [&] {
-        meanwhile = ed().Cycles - before;
-        answerNext({}, Qt::Key_Escape);
+    EXPECT_TRUE(await([&] { return ed().Cycles > 0; }));
+    int due = 0;  // as often as a step would have been
+    QTimer alike;
+    alike.start(find<QTimer>("Timer1")->interval());
+    QObject::connect(&alike, &QTimer::timeout, [&] { ++due; });
+    std::int32_t before = 0, after = -1;
+    inNextBox([&](QWidget& box) {
+        before = ed().Cycles;
+        EXPECT_TRUE(await([&, from = due] { return due > from + 4; }));
+        after = ed().Cycles;
+        box.close();
     });
     choose("mnuDefaultK");
-    EXPECT_LE(meanwhile, 1);
-    QTest::qWait(60);
-    EXPECT_GT(ed().Cycles, before + meanwhile);
+    EXPECT_EQ(after, before);
+    EXPECT_TRUE(await([&] { return ed().Cycles > after; }));
 }
 
 TEST_F(Window, SavesUnderATypedNameAndFindsItAgain) {
@@ -163,13 +164,10 @@ TEST_F(Window, SavesUnderATypedNameAndFindsItAgain) {
     QString said;
     QTest::mouseClick(list->lineEdit(), Qt::LeftButton);
     bool menuOpened = false;
-    QTimer::singleShot(100, window_.get(), [&] {
-        QWidget* menu = QApplication::activePopupWidget();
-        menuOpened = menu != nullptr;
-        if (menuOpened) menu->close();
-    });
+    when([] { return QApplication::activePopupWidget() != nullptr; },
+         [&] { menuOpened = QApplication::activePopupWidget()->close(); });
     QTest::keyClick(list->lineEdit(), Qt::Key_G, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return menuOpened; }, 1000));
+    EXPECT_TRUE(await([&] { return menuOpened; }));
     list->setEditText("../up");
     answerNext({}, Qt::Key_Return, &said);
     press("save");
@@ -200,9 +198,7 @@ TEST_F(Window, ARestartShowsTheSameWorld) {
     click({200, 100});
     press("grid");
     choose("mnuWalls");
-    press("start");
-    QTest::qWait(80);
-    press("start");
+    runAWhile();
     const Editor before = ed();
     restart();
     EXPECT_FALSE(ed().marks.mnuWalls);
@@ -223,8 +219,7 @@ TEST_F(Window, ARefusedCloseChangesNothing) {
     std::filesystem::remove_all(folder_.path / "zoo");
     putFile(folder_.path / "zoo", "no folder");
     QString said;
-    answerNext({}, Qt::Key_Return);
-    QTimer::singleShot(200, window_.get(), [&] { answerNext({}, Qt::Key_Escape, &said); });
+    answerNext({}, Qt::Key_Return, nullptr, [&] { answerNext({}, Qt::Key_Escape, &said); });
     EXPECT_FALSE(window_->close());
     EXPECT_EQ(said, "The project could not be saved. Close the program and lose it?");
     EXPECT_TRUE(window_->isVisible());
@@ -277,9 +272,7 @@ TEST_F(Window, StripsAndPathOpenBelow) {
     window_->resize(1200, 500);
     choose("mnuDisplayPath");
     EXPECT_EQ(path->frameGeometry().top(), window_->frameGeometry().bottom() + 1 + 7);
-    press("start");
-    QTest::qWait(100);
-    press("start");
+    runAWhile();
     EXPECT_GT(ed().pathDots.size(), 1U);
     choose("mnuDisplayPath");
     choose("mnuDisplayPath");
@@ -295,7 +288,7 @@ TEST_F(Window, DirectionalMarkChoosesThePairOfButtons) {
     const bool directional = ed().marks.mnuUseDirectional;
     EXPECT_EQ(button("Toolbar2", "direction")->isVisible(), directional);
     choose("mnuUseDirectional");
-    QTest::qWait(20);  // the bar lays itself out anew
+    settle();  // the bar lays itself out anew
     EXPECT_EQ(button("Toolbar2", "direction")->isVisible(), !directional);
     EXPECT_EQ(button("Toolbar2", "vxo")->isVisible(), directional);
     EXPECT_FALSE(button("Toolbar2", "mass")->isEnabled());
@@ -318,7 +311,7 @@ TEST(MessageFetcher, AnswersStallsAndRefusals) {
     const QUrl address(QString("http://127.0.0.1:%1/message.txt").arg(server.serverPort()));
     const auto fetch = [&](const QUrl& url) {
         MessageFetcher fetcher;
-        fetcher.timeout = 300;
+        fetcher.timeout = reply.isEmpty() ? 100 : 60000;  // milliseconds
         std::optional<QString> text, problem;
         fetcher.fetched = [&](const QString& t, const QString& p) {
             text = t;
@@ -326,7 +319,7 @@ TEST(MessageFetcher, AnswersStallsAndRefusals) {
         };
         fetcher.fetch(url);
         EXPECT_FALSE(text) << "nothing waits for the server";
-        EXPECT_TRUE(QTest::qWaitFor([&] { return text.has_value(); }, 3000));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return text.has_value(); }, 60000));
         return std::pair(text.value_or(""), problem.value_or(""));
     };
     reply = "HTTP/1.0 200 OK\r\nContent-Type: text/plain\r\n\r\nHello\nworld";

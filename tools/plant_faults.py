@@ -1,22 +1,26 @@
 #!/usr/bin/env python3
 """Plants faults one at a time in a copy of the sources, and says which of them the tests catch.
 
-usage: tools/plant_faults.py COUNT [SEED [FOLDER...]]     for example: tools/plant_faults.py 50 1 ui display
+usage: tools/plant_faults.py COUNT [SEED [FOLDER...]]     COUNT in each folder of src: plant_faults.py 25 1 ui display
+       tools/plant_faults.py --again LOG                  those of a log that were missed, in the sources of now
 
 A fault is a turned comparison, sign or constant, or a statement left out, at a random place below src. Those
 that do not compile do not count. What was missed is printed with its place, to be looked at: some faults no
-person could notice. The copy is build/planted; nothing else is touched.
+person could notice. A test that fails must fail twice to count. The copy is build/planted, the log beside it
+planted-SEED.log; a run that was ended goes on where its log ends. Nothing else is touched.
 """
 import os
 import pathlib
 import random
 import re
+import resource
 import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-COPY = ROOT / "build" / "planted"
-TESTS_TAKE = 600  # seconds at most; a planted fault may never end
+COPY = pathlib.Path(os.environ.get("PLANTED", ROOT / "build" / "planted"))
+TESTS_TAKE = 240  # seconds at most, of the clock or of the processor; a planted fault may never end
+QUICK = 100  # milliseconds: tests that take less are run first
 
 TURNS = {
     "comparison": [(r" < ", " <= "), (r" > ", " >= "), (r" <= ", " < "), (r" >= ", " > "), (r" == ", " != "),
@@ -46,60 +50,140 @@ def places(text):
     return found
 
 
+def said(path, text, place):
+    """A fault in one line of the log: where, what kind, the code, what it becomes."""
+    kind, start, _, turned = place
+    line = text.count("\n", 0, start)
+    column = start - (text.rfind("\n", 0, start) + 1)
+    code = text.splitlines()[line].strip()
+    return f"{path.relative_to(COPY / 'src')}:{line + 1}:{column}  {kind}: {code}" + (f"   -> {turned.strip()}" if turned else "")
+
+
 def run(command, limit):
+    """The return code, which is not 0 for what takes longer, and what was printed."""
     environment = dict(os.environ, QT_QPA_PLATFORM="offscreen")
-    try:
-        return subprocess.run(command, cwd=COPY, env=environment, stdout=subprocess.DEVNULL,
-                              stderr=subprocess.DEVNULL, timeout=limit).returncode
-    except subprocess.TimeoutExpired:
-        return -1
+    with subprocess.Popen(command, cwd=COPY, env=environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True,
+                          errors="replace", preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_CPU, (limit, limit))) as started:
+        try:
+            printed = started.communicate(timeout=limit)[0]
+            return started.returncode, printed
+        except subprocess.TimeoutExpired:
+            started.kill()
+            return -1, started.communicate()[0]
+
+
+def build(limit):
+    return run(["cmake", "--build", "--preset", "release", "--target", "zentrik_tests"], limit)[0] == 0
+
+
+def test(names):
+    """The test that failed, "" if none did."""
+    code, printed = run(["build/release/zentrik_tests", "--gtest_fail_fast", "--gtest_filter=" + ":".join(names)], TESTS_TAKE)
+    begun = re.findall(r"^\[ RUN      \] (\S+)", printed, re.M)
+    return begun[-1] if code != 0 and begun else ""
+
+
+def catcher(names):
+    """The test that catches what is planted; one that fails once and then passes is not believed."""
+    while names:
+        failed = test(names)
+        if not failed or test([failed]):
+            return failed
+        names = names[names.index(failed) + 1:]
+    return ""
 
 
 def prepare():
+    """A built copy, and the names of its tests in two lots, quick ones first."""
     COPY.mkdir(parents=True, exist_ok=True)
     files = subprocess.run(["git", "archive", "HEAD"], cwd=ROOT, check=True, stdout=subprocess.PIPE).stdout
     subprocess.run(["tar", "x", "-C", COPY], input=files, check=True)
     run(["cmake", "--preset", "release"], 300)
-    if run(["cmake", "--build", "--preset", "release", "--target", "zentrik_tests"], 3600) != 0:
+    if not build(3600):
         sys.exit("The copy does not build.")
-    if run(["build/release/zentrik_tests"], TESTS_TAKE) != 0:
-        sys.exit("The tests fail without a planted fault.")
+    printed = run(["build/release/zentrik_tests"], 600)[1]
+    for name in set(re.findall(r"^\[  FAILED  \] (\w\S+)", printed, re.M)):
+        print("Fails without a planted fault, left out:", name, flush=True)
+    passed = re.findall(r"^\[       OK \] (\S+) \((\d+) ms\)", printed, re.M)
+    return [[n for n, ms in passed if int(ms) < QUICK], [n for n, ms in passed if int(ms) >= QUICK]]
 
 
-def plant(path, text, place):
-    kind, start, end, turned = place
+def plant(path, text, place, lots):
+    """The name of the test that catches the fault, "" for none; None if it does not compile."""
+    _, start, end, turned = place
     path.write_text(text[:start] + turned + text[end:])
     try:
-        if run(["cmake", "--build", "--preset", "release", "--target", "zentrik_tests"], 1800) != 0:
+        if not build(900):
             return None
-        return run(["build/release/zentrik_tests", "--gtest_fail_fast"], TESTS_TAKE) != 0
+        return catcher(lots[0]) or catcher(lots[1])
     finally:
         path.write_text(text)
+
+
+def verdict(path, text, place, lots):
+    caught = plant(path, text, place, lots)
+    word = "no build" if caught is None else "caught  " if caught else "MISSED  "
+    return f"{word}  {said(path, text, place)}" + (f"   [{caught}]" if caught else "")
+
+
+def tried(folder, seed):
+    """The places of a folder in the order in which they are tried."""
+    texts = {p: p.read_text() for p in sorted((COPY / "src" / folder).glob("*.cpp"))}
+    every = [(p, texts[p], place) for p in texts for place in places(texts[p])]
+    random.Random(f"{seed} {folder}").shuffle(every)
+    return every
+
+
+def folderOf(line):
+    return line[8:].strip().split("/")[0]
+
+
+def plantAnew(count, seed, folders, lots):
+    log = COPY.parent / f"planted-{seed}.log"
+    lines = log.read_text().splitlines() if log.exists() else []
+    every = {f: tried(f, seed) for f in folders}
+    at = {f: sum(folderOf(line) == f for line in lines) for f in folders}
+    for wanted in range(1, count + 1):
+        for folder in folders:
+            while at[folder] < len(every[folder]) and wanted > sum(
+                    folderOf(line) == folder and not line.startswith("no build") for line in lines):
+                lines.append(verdict(*every[folder][at[folder]], lots))
+                at[folder] += 1
+                print(lines[-1], flush=True)
+                with log.open("a") as kept:
+                    kept.write(lines[-1] + "\n")
+    return lines
+
+
+def plantAgain(log, lots):
+    lines = []
+    for line in pathlib.Path(log).read_text().splitlines():
+        if not line.startswith("MISSED"):
+            continue
+        where, what = line[8:].strip().split("  ", 1)
+        name, number, column = where.split(":")
+        path = COPY / "src" / name
+        text = path.read_text()
+        alike = [p for p in places(text) if said(path, text, p).endswith(f":{column}  {what}")]
+        if not alike:
+            print("gone      " + line[8:].strip(), flush=True)
+            continue
+        lines.append(verdict(path, text, min(alike, key=lambda p: abs(text.count("\n", 0, p[1]) + 1 - int(number))), lots))
+        print(lines[-1], flush=True)
+    return lines
 
 
 def main():
     if len(sys.argv) < 2:
         sys.exit(__doc__)
-    count, seed = int(sys.argv[1]), int(sys.argv[2]) if len(sys.argv) > 2 else 1
-    folders = sys.argv[3:] or sorted(p.name for p in (ROOT / "src").iterdir())
-    prepare()
-    chance = random.Random(seed)
-    sources = [p for f in folders for p in sorted((COPY / "src" / f).glob("*.cpp"))]
-    texts = {p: p.read_text() for p in sources}
-    every = [(p, place) for p in sources for place in places(texts[p])]
-    tally = {f: [0, 0] for f in folders}
-    while count > 0 and every:
-        path, place = every.pop(chance.randrange(len(every)))
-        caught = plant(path, texts[path], place)
-        if caught is None:
-            continue
-        count -= 1
-        tally[path.parent.name][0 if caught else 1] += 1
-        line = texts[path].count("\n", 0, place[1]) + 1
-        code = texts[path].splitlines()[line - 1].strip()
-        print(f"{'caught' if caught else 'MISSED'}  {path.relative_to(COPY)}:{line}  {place[0]}: {code}"
-              + (f"   -> {place[3].strip()}" if place[3] else ""), flush=True)
-    for folder, (caught, missed) in tally.items():
+    lots = prepare()
+    if sys.argv[1] == "--again":
+        lines = plantAgain(sys.argv[2], lots)
+    else:
+        folders = sys.argv[3:] or sorted(p.name for p in (ROOT / "src").iterdir())
+        lines = plantAnew(int(sys.argv[1]), int(sys.argv[2]) if len(sys.argv) > 2 else 1, folders, lots)
+    for folder in sorted({folderOf(line) for line in lines}):
+        caught, missed = (sum(line.startswith(word) and folderOf(line) == folder for line in lines) for word in ("caught", "MISSED"))
         if caught + missed:
             print(f"{folder:10} {caught} of {caught + missed} caught ({100 * caught // (caught + missed)} %)")
 
