@@ -79,8 +79,11 @@ def build(limit):
 def test(names):
     """The test that failed, "" if none did."""
     code, printed = run(["build/release/zentrik_tests", "--gtest_fail_fast", "--gtest_filter=" + ":".join(names)], TESTS_TAKE)
-    begun = re.findall(r"^\[ RUN      \] (\S+)", printed, re.M)
-    return begun[-1] if code != 0 and begun else ""
+    if code == 0:
+        return ""
+    failed = re.findall(r"^\[  FAILED  \] (\w[^\s,]+)", printed, re.M)
+    begun = re.findall(r"^\[ RUN      \] (\S+)", printed, re.M)  # the last one has ended the program
+    return failed[0] if failed else begun[-1]
 
 
 def catcher(names):
