@@ -1,12 +1,12 @@
 #include "project/backups.h"
 
+#include "desk.h"
 #include "failing_disk.h"
 #include "model/store.h"
 #include "project/library.h"
 #include "project/reader.h"
 #include "project/time_stamp.h"
 #include "project/writer.h"
-#include "rig.h"
 #include "scenes/scenes.h"
 #include "temporary_folder.h"
 
@@ -61,9 +61,9 @@ TEST_F(Backups, EveryWayToReplaceAProjectKeepsTheFormerFile) {
     lstSaved_Enter(ed, host);
     EXPECT_EQ(versions("a"), "2 1 ");
     scenes::addNode(ed, 1, 1);
-    mnuEmail_Click(ed, host);
+    choose(ed, host, "mnuEmail");
     scenes::addNode(ed, 1, 1);
-    mnuEmail_Click(ed, host);
+    choose(ed, host, "mnuEmail");
     EXPECT_EQ(versions("email"), "1 ");
     putFile(file("resume"), "no project at all");
     save("resume", 1);

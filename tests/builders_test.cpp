@@ -1,27 +1,21 @@
-#include "edit/builders.h"
+// Rings and midpoints, by their entries.
 
+#include "desk.h"
 #include "model/numbers.h"
-#include "rig.h"
-#include "scenes/scenes.h"
 
 #include <gtest/gtest.h>
 
 namespace zentrik {
 namespace {
 
-using Builder = void (*)(Editor&, Host&);
-
-// A scene with node 1 selected, and what a builder makes of it.
-struct Site {
-    Editor ed = scenes::fullScreen();
-    ScriptedHost host;
-
-    explicit Site(const std::string& answer, Builder builder) {
+// A scene with node 1 selected, and what an entry makes of it.
+struct Site : Desk {
+    explicit Site(const std::string& said, const char* entry) {
         scenes::addNode(ed, 3000, 3000);
         ed.SelectedNode = 1;
         ed.DefaultLinkForce = 0.7F;
-        host.answers = {answer};
-        builder(ed, host);
+        answer(said);
+        choose(entry);
     }
 };
 
@@ -41,20 +35,20 @@ TEST(Builders, RingsStandWhereTheyShouldWithTheirLinks) {
     const std::string title = "Create Connected Node Ring With Spokes";
     const std::string rim = "2-3 5 0.7|3-4 5 0.7|4-5 5 0.7|2-5 5 0.7|";
     struct {
-        Builder builder;
+        const char* entry;
         std::string title, message, links;
     } const cases[] = {
-        {mnuCreateNodeRing_Click, "Create Node Ring", "Node ring", ""},
-        {mnuCreateConnectedNodeRing_Click, "Create Connected Node Ring", "Connected node ring", rim},
-        {mnuCreateConnectedNodeRingWithSpokes_Click, title, "Connected node ring with spokes",
+        {"mnuCreateNodeRing", "Create Node Ring", "Node ring", ""},
+        {"mnuCreateConnectedNodeRing", "Create Connected Node Ring", "Connected node ring", rim},
+        {"mnuCreateConnectedNodeRingWithSpokes", title, "Connected node ring with spokes",
          rim + "1-2 2 0.2 0|1-3 2 0.2 90|1-4 2 0.2 180|1-5 2 0.2 270|"},
-        {mnuCreateConnectedNodeRingWithSpokesNo_Click, title, "Connected node ring with spokes",
+        {"mnuCreateConnectedNodeRingWithSpokesNo", title, "Connected node ring with spokes",
          rim + "1-2 2 0.2|1-3 2 0.2|1-4 2 0.2|1-5 2 0.2|"},
-        {mnuCreateConnectedNodeRingWithLongSpokes_Click, title, "Connected node ring with spokes",
+        {"mnuCreateConnectedNodeRingWithLongSpokes", title, "Connected node ring with spokes",
          rim + "2-4 5 0.7 0|3-5 5 0.7 180|"},
     };
     for (const auto& c : cases) {
-        Site site("4:500", c.builder);
+        Site site("4:500", c.entry);
         EXPECT_EQ(site.host.transcript, "input: Enter parameters (nodes:radius):|" + c.title + "|20:1000\n");
         EXPECT_EQ(placesOf(site.ed, 2), "3000,3500 3500,3000 3000,2500 2500,3000 ");
         EXPECT_EQ(nodeAt(site.ed, 2).Trigger, none);
@@ -63,11 +57,11 @@ TEST(Builders, RingsStandWhereTheyShouldWithTheirLinks) {
         EXPECT_EQ(panel(site.ed, 5), c.message + " created (4 : 500)");
         EXPECT_EQ(site.ed.StructureParm, "4:500");
     }
-    EXPECT_EQ(endsOf(Site("1:400", mnuCreateConnectedNodeRing_Click).ed), "2-2 ");
-    EXPECT_EQ(endsOf(Site("2:400", mnuCreateConnectedNodeRing_Click).ed), "2-3 2-3 ");
+    EXPECT_EQ(endsOf(Site("1:400", "mnuCreateConnectedNodeRing").ed), "2-2 ");
+    EXPECT_EQ(endsOf(Site("2:400", "mnuCreateConnectedNodeRing").ed), "2-3 2-3 ");
     // Halves are rounded to the even slot, and no spoke leaves the ring.
-    EXPECT_EQ(endsOf(Site("3:800", mnuCreateConnectedNodeRingWithLongSpokes_Click).ed, 4), "2-4 ");
-    EXPECT_EQ(endsOf(Site("5:800", mnuCreateConnectedNodeRingWithLongSpokes_Click).ed, 6), "2-4 3-6 4-6 ");
+    EXPECT_EQ(endsOf(Site("3:800", "mnuCreateConnectedNodeRingWithLongSpokes").ed, 4), "2-4 ");
+    EXPECT_EQ(endsOf(Site("5:800", "mnuCreateConnectedNodeRingWithLongSpokes").ed, 6), "2-4 3-6 4-6 ");
 }
 
 TEST(Builders, AnswersThatBuildNothingOrLittle) {
@@ -81,7 +75,7 @@ TEST(Builders, AnswersThatBuildNothingOrLittle) {
         {"-3:9", "-3:9", 0}, {"2:1e30", "2:1e30", 2}, {"1e9:100", "1e9:100", 0}, {"100001:5", "100001:5", 0},
     };
     for (const auto& c : cases) {
-        Site site(c.answer, mnuCreateNodeRing_Click);
+        Site site(c.answer, "mnuCreateNodeRing");
         EXPECT_EQ(lastNode(site.ed), 1 + c.nodes) << c.answer;
         EXPECT_EQ(site.ed.StructureParm, c.remembered);
         EXPECT_EQ(site.ed.SelectedNode, 1 + c.nodes);
@@ -92,27 +86,27 @@ TEST(Builders, AnswersThatBuildNothingOrLittle) {
 }
 
 TEST(Builders, RefuseWithoutTheirSelection) {
-    const auto isRefused = [](Builder builder, const std::string& message) {
+    const auto isRefused = [](const char* entry, const std::string& message) {
         for (const std::int32_t stale : {none, 1, 60}) {  // none, a free slot, no slot
-            Site site("", mnuCreateNodeRing_Click);
+            Site site("", "mnuCreateNodeRing");
             site.host.transcript.clear();
             scenes::addLink(site.ed, 1, 1);
             nodeAt(site.ed, 1).Used = linkAt(site.ed, 1).Used = false;
             site.ed.SelectedNode = site.ed.SelectedLink = stale;
-            builder(site.ed, site.host);
+            site.choose(entry);
             EXPECT_EQ(panel(site.ed, 5), message);
             EXPECT_EQ(site.host.beeps, 1);
             EXPECT_EQ(site.host.transcript, "");
             EXPECT_EQ(lastNode(site.ed), 1);
         }
     };
-    isRefused(mnuCreateNodeRing_Click, "This structure requires that you first select a node!");
-    isRefused(mnuCreateNodeAtMidpoint_Click, "You must first select a link!");
+    isRefused("mnuCreateNodeRing", "This structure requires that you first select a node!");
+    isRefused("mnuCreateNodeAtMidpoint", "You must first select a link!");
 }
 
 TEST(Builders, MidpointSplitsTheLink) {
-    Editor ed = scenes::fullScreen();
-    ScriptedHost host;
+    Desk desk;
+    Editor& ed = desk.ed;
     scenes::addNodes(ed, {{3000, 3000}, {4001, 3000}});
     Link old = defaultLink(ed, 1, 2);
     old.RestLength = 1000;
@@ -120,7 +114,7 @@ TEST(Builders, MidpointSplitsTheLink) {
     old.k = 77;
     old.Animator = old.Barrier = true;
     ed.SelectedLink = appendLink(ed, old);
-    mnuCreateNodeAtMidpoint_Click(ed, host);
+    desk.choose("mnuCreateNodeAtMidpoint");
     EXPECT_EQ(placesOf(ed, 3), "3500,3000 ");  // 3500.5, halves to even
     EXPECT_EQ(endsOf(ed), "- 2-3 1-3 ");
     for (const std::int32_t half : {2, 3}) {

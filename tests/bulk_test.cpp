@@ -1,7 +1,6 @@
-#include "edit/bulk.h"
+// Removals, by their entries.
 
-#include "rig.h"
-#include "scenes/scenes.h"
+#include "desk.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +8,6 @@ namespace zentrik {
 namespace {
 
 using scenes::addNode;
-using Command = void (*)(Editor&, Host&);
 
 // Two objects, 1-2 and 3-4, and two free slots.
 Editor twoPairs() {
@@ -21,21 +19,21 @@ Editor twoPairs() {
 }
 
 TEST(Bulk, RemovalsClearTheSelectionsTheyAffect) {
-    const std::pair<Command, Selections> cases[] = {{mnuRemoveNodes_Click, {none, none, none, none}},
-                                                    {mnuRemoveLinks_Click, {1, 1, none, none}},
-                                                    {mnuRemoveFreeNodes_Click, {none, none, none, none}}};
-    for (const auto& [command, left] : cases) {
-        Editor ed = twoPairs();
-        ScriptedHost host;
+    const std::pair<const char*, Selections> cases[] = {{"mnuRemoveNodes", {none, none, none, none}},
+                                                        {"mnuRemoveLinks", {1, 1, none, none}},
+                                                        {"mnuRemoveFreeNodes", {none, none, none, none}}};
+    for (const auto& [entry, left] : cases) {
+        Desk desk{twoPairs(), {}};
+        Editor& ed = desk.ed;
         ed.SelectedNode = ed.HoverNode = ed.SelectedLink = ed.HoverLink = 1;
-        command(ed, host);
+        desk.choose(entry);
         EXPECT_EQ(selections(ed), left);
     }
 }
 
 TEST(Bulk, FreeNodesAreThoseWithoutUsedLinks) {
-    Editor ed = scenes::fullScreen();
-    ScriptedHost host;
+    Desk desk;
+    Editor& ed = desk.ed;
     scenes::addNodes(ed, {{1, 1}, {2, 2}, {3, 3}, {4, 4}, {5, 5}});
     scenes::addLinks(ed, {{1, 2}, {3, 3}, {4, 4}});
     appendLink(ed, defaultLink(ed, 5, 500));  // holds on to node 5 at least
@@ -43,10 +41,10 @@ TEST(Bulk, FreeNodesAreThoseWithoutUsedLinks) {
     ed.marks.mnuApplyChanges = ed.marks.mnuDisplayAngleManager = true;
     ed.AnimationTime = 1;
     ed.phaseStale = false;
-    mnuRemoveFreeNodes_Click(ed, host);
+    desk.choose("mnuRemoveFreeNodes");
     EXPECT_EQ(flags(ed.Nodes, &Node::Used), "00101");
     EXPECT_EQ(panel(ed, 5), "All free nodes removed!");
-    EXPECT_EQ(host.beeps, 0);
+    EXPECT_EQ(desk.host.beeps, 0);
     EXPECT_TRUE(ed.phaseStale);
 }
 

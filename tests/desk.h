@@ -19,11 +19,15 @@ const Row& rowNamed(const Rows& rows, const char* Row::*name, std::string_view w
     throw std::runtime_error("no row " + std::string(wanted));
 }
 
+inline void choose(Editor& ed, Host& host, std::string_view name) {
+    chooseMenu(ed, host, rowNamed(menuRows(), &MenuRow::name, name));
+}
+
 struct Desk {
     Editor ed = scenes::fullScreen();
     ScriptedHost host;
 
-    void choose(std::string_view name) { chooseMenu(ed, host, rowNamed(menuRows(), &MenuRow::name, name)); }
+    void choose(std::string_view name) { zentrik::choose(ed, host, name); }
     void press(std::string_view key) {
         pressCommand(ed, host, rowNamed(commandRows(), &CommandRow::key, key));
     }

@@ -1,10 +1,8 @@
 #include "effects/fireworks.h"
-#include "effects/shooter.h"
+
+#include "desk.h"
 #include "model/redraw.h"
 #include "model/shooter_aim.h"
-#include "model/store.h"
-#include "rig.h"
-#include "scenes/scenes.h"
 
 #include <gtest/gtest.h>
 
@@ -16,10 +14,7 @@ namespace {
 using scenes::addNode;
 
 // A running model with a shooter at node 1 and its trigger at node 2, not yet tied to it.
-struct Shooter : testing::Test {
-    Editor ed = scenes::fullScreen();
-    ScriptedHost host;
-
+struct Shooter : testing::Test, Desk {
     Shooter() {
         scenes::addNodes(ed, {{1300, 1000}, {1000, 1000}});
         nodeAt(ed, 1).Trigger = 0;
@@ -29,7 +24,7 @@ struct Shooter : testing::Test {
     }
     const Node* fire() {
         const std::int32_t before = lastNode(ed);
-        mnuFire_Click(ed, host);
+        choose("mnuFire");
         return lastNode(ed) > before ? &ed.Nodes.back() : nullptr;
     }
 };
@@ -116,8 +111,8 @@ TEST_F(Shooter, SettingsTakeOnlyTheirRange) {
         ed = Editor{};
         host.transcript.clear();
         host.answers = {c.answer, c.answer};
-        mnuShooterDirection_Click(ed, host);
-        mnuShooterVelocity_Click(ed, host);
+        choose("mnuShooterDirection");
+        choose("mnuShooterVelocity");
         EXPECT_FLOAT_EQ(ed.ShooterDirection, c.direction) << c.answer;
         EXPECT_FLOAT_EQ(ed.ShooterVelocity, c.velocity) << c.answer;
         EXPECT_EQ(host.transcript,
@@ -129,11 +124,10 @@ TEST_F(Shooter, SettingsTakeOnlyTheirRange) {
 std::uint64_t fixedSeed() { return 12345; }
 
 TEST(Fireworks, TicksAddTheirBursts) {
-    Editor ed = scenes::fullScreen();
-    ScriptedHost host;
+    Desk desk;
+    Editor& ed = desk.ed;
     ed.chance.seedSource = fixedSeed;
-    ed.marks.mnuDisplayFireWorks = true;
-    followFireworksMark(ed, host);
+    desk.choose("mnuDisplayFireWorks");
     EXPECT_TRUE(ed.timerFireWorks.enabled);
     timerFireWorks_Timer(ed);
     EXPECT_EQ(lastNode(ed), 0);
@@ -167,8 +161,7 @@ TEST(Fireworks, TicksAddTheirBursts) {
         EXPECT_NEAR(centre.X, 0.5 * ed.sceneWidth, 0.1 * ed.sceneWidth + 1);
         EXPECT_NEAR(centre.Y, 0.3 * ed.sceneHeight, 0.1 * ed.sceneHeight + 1);
     }
-    ed.marks.mnuDisplayFireWorks = false;
-    followFireworksMark(ed, host);
+    desk.choose("mnuDisplayFireWorks");
     EXPECT_FALSE(ed.timerFireWorks.enabled);
 }
 

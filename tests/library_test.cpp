@@ -1,9 +1,9 @@
 #include "project/library.h"
 
+#include "desk.h"
 #include "model/addresses.h"
 #include "model/store.h"
 #include "project/writer.h"
-#include "rig.h"
 #include "scenes/scenes.h"
 #include "temporary_folder.h"
 
@@ -233,9 +233,9 @@ TEST_F(Library, ReloadingShowsTheFileAndItsClock) {
 TEST_F(Library, AsksForTheTitle) {
     ed.ProjectTitle = "old";
     host.answers = {"new"};
-    mnuSetTitle_Click(ed, host);
+    choose(ed, host, "mnuSetTitle");
     EXPECT_EQ(ed.ProjectTitle, "new");
-    mnuSetTitle_Click(ed, host);
+    choose(ed, host, "mnuSetTitle");
     EXPECT_EQ(ed.ProjectTitle, "") << "cancelling sets an empty title";
     EXPECT_EQ(host.transcript, "input: Enter project title.|old|old\ninput: Enter project title.|new|new\n");
 }
@@ -252,21 +252,21 @@ TEST_F(Library, MailsTheProjectAndSaysWhatFailed) {
     };
     const char *paste = "The project is on the clipboard: paste it into a mail to ",
                *send = "Save the project and send its file from the folder zoo to ";
-    mnuEmail_Click(ed, host);
+    choose(ed, host, "mnuEmail");
     EXPECT_EQ(host.transcript, copied + opened);
     EXPECT_EQ(ed.savedNames, std::vector<std::string>{"email"});
     host.transcript.clear();
     host.desktopWorks = false;
-    mnuEmail_Click(ed, host);
+    choose(ed, host, "mnuEmail");
     EXPECT_EQ(host.transcript, copied + opened + failed(paste));
     host.transcript.clear();
     host.clipboardWorks = false;
-    mnuEmail_Click(ed, host);
+    choose(ed, host, "mnuEmail");
     EXPECT_EQ(host.transcript, copied + failed(send));
     host.transcript.clear();
     fs::remove_all(zoo());
     putFile(zoo(), "");
-    mnuEmail_Click(ed, host);
+    choose(ed, host, "mnuEmail");
     EXPECT_EQ(host.transcript, failed(send));
     host.transcript.clear();
     SaveFile(ed, host, "a");

@@ -1,7 +1,6 @@
-#include "edit/objects.h"
+// Whole objects, by their entries and buttons.
 
-#include "rig.h"
-#include "scenes/scenes.h"
+#include "desk.h"
 
 #include <gtest/gtest.h>
 
@@ -9,10 +8,7 @@ namespace zentrik {
 namespace {
 
 // A triangle 1 2 3, a pair 4 5, and a free link between the two.
-struct Objects : testing::Test {
-    Editor ed = scenes::fullScreen();
-    ScriptedHost host;
-
+struct Objects : testing::Test, Desk {
     Objects() {
         scenes::addNodes(ed, {{1000, 1000}, {3000, 1000}, {2000, 3000}, {6000, 6000}, {8000, 6000}});
         scenes::addLinks(ed, {{1, 2}, {2, 3}, {3, 1}, {4, 5}, {3, 4}});
@@ -32,15 +28,15 @@ TEST_F(Objects, ConvertsTheSelectedObjectOnly) {
         {90, 4, "00011", "00010", converted},
     };
     for (const auto& c : cases) {
-        Editor model = ed;
-        host.beeps = 0;
+        Desk desk = *this;
+        Editor& model = desk.ed;
         model.SelectedNode = c.node;
         model.SelectedLink = c.link;
-        ConvertObjectToBarrier(model, host);
+        desk.press("barrier");
         EXPECT_EQ(flags(model.Nodes, &Node::Locked), c.lockedNodes);
         EXPECT_EQ(flags(model.Links, &Link::Barrier), c.barriers);
         EXPECT_EQ(panel(model, 5), c.message);
-        EXPECT_EQ(host.beeps, c.message == refused);
+        EXPECT_EQ(desk.host.beeps, c.message == refused);
         EXPECT_EQ(model.SelectedNode, none);
     }
 }
@@ -53,7 +49,7 @@ TEST_F(Objects, DuplicatesTheWholeNodeRecord) {
     node.color = 99;
     ed.SelectedNode = 5;
     ed.SelectedLink = 1;
-    mnuDuplicateNode_Click(ed, host);
+    choose("mnuDuplicateNode");
     EXPECT_EQ(placesOf(ed, 6), "8250,6250 ");
     const Node& copy = ed.Nodes.back();
     EXPECT_TRUE(copy.Mass == 4 && copy.Vx == -3 && copy.Locked && copy.color == 99);
@@ -61,8 +57,8 @@ TEST_F(Objects, DuplicatesTheWholeNodeRecord) {
     EXPECT_EQ(lastLink(ed), 5);
     EXPECT_EQ(panel(ed, 5), "Duplicate node created!");
     ed.SelectedNode = none;
-    mnuDuplicateNode_Click(ed, host);
-    mnuDuplicateObject_Click(ed, host);
+    choose("mnuDuplicateNode");
+    choose("mnuDuplicateObject");
     EXPECT_EQ(host.beeps, 2);
     EXPECT_EQ(lastNode(ed), 6);
     EXPECT_EQ(panel(ed, 5), "You must first select a node!");
@@ -72,12 +68,12 @@ TEST_F(Objects, DuplicatesAnObjectWithItsLinksEvenWithoutAHitBox) {
     ed.HitRadius = -10;
     nodeAt(ed, 5).Used = false;  // a link to a freed node has no copy to join
     ed.SelectedNode = 4;
-    mnuDuplicateObject_Click(ed, host);
+    press("duplicate");
     EXPECT_EQ(placesOf(ed, 6), "6250,6250 ");
     EXPECT_EQ(lastLink(ed), 5);
     linkAt(ed, 2).Angle = 45;
     ed.SelectedNode = 3;
-    mnuDuplicateObject_Click(ed, host);
+    choose("mnuDuplicateObject");
     EXPECT_EQ(placesOf(ed, 7), "1250,1250 3250,1250 2250,3250 ");
     EXPECT_EQ(endsOf(ed, 6), "7-8 8-9 9-7 ");
     EXPECT_EQ(linkAt(ed, 7).Angle, 45);
@@ -91,12 +87,12 @@ TEST_F(Objects, DuplicatedLinksJoinOlderNodesThatLieInTheWay) {
     scenes::addNodes(ed, {{1000, 1000}, {1250, 1250}, {1500, 1500}});
     scenes::addLinks(ed, {{1, 2}, {2, 3}});
     ed.SelectedNode = 1;
-    mnuDuplicateObject_Click(ed, host);
+    choose("mnuDuplicateObject");
     EXPECT_EQ(endsOf(ed, 3), "2-3 3-6 ");
 }
 
 TEST_F(Objects, RoadRunsAcrossTheBottom) {
-    mnuCreateRoad_Click(ed, host);
+    choose("mnuCreateRoad");
     ASSERT_EQ(lastNode(ed), 16);
     EXPECT_EQ(flags(ed.Nodes, &Node::Locked), "00000" + std::string(11, '1'));
     for (std::int32_t i = 6; i <= 16; ++i) {

@@ -2,9 +2,9 @@
 
 #include "display/overlays.h"
 
+#include "desk.h"
 #include "display/colours.h"
 #include "model/numbers.h"
-#include "rig.h"
 #include "scenes/scenes.h"
 #include "ui/model_information.h"
 
@@ -131,15 +131,15 @@ TEST(ModelInformation, CountsUsedAndHighest) {
     Editor ed = small();
     ScriptedHost host;
     ed.Nodes[1].Used = false;
-    mnuShowModel_Click(ed, host);
+    choose(ed, host, "mnuShowModel");
     ed.ProjectTitle = "Spider";
-    mnuShowModel_Click(ed, host);
+    choose(ed, host, "mnuShowModel");
     const std::string counts =
         "\r\n\r\nNodes: 2\r\nUsed Nodes: 1\r\n\r\nLinks: 1\r\nUsed Links: 1|Model Information\n";
     EXPECT_EQ(host.transcript, "message: <no title>" + counts + "message: Spider" + counts);
     ed.ProjectTitle = std::string(1000000, 'W');
     host.transcript.clear();
-    mnuShowModel_Click(ed, host);
+    choose(ed, host, "mnuShowModel");
     EXPECT_EQ(host.transcript, "message: " + std::string(300, 'W') + "..." + counts);
 }
 

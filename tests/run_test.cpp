@@ -2,8 +2,7 @@
 
 #include "sim/run.h"
 
-#include "rig.h"
-#include "scenes/scenes.h"
+#include "desk.h"
 
 #include <gtest/gtest.h>
 
@@ -13,18 +12,10 @@ namespace zentrik {
 
 namespace {
 
-struct Run : testing::Test {
-    Editor ed = scenes::fullScreen();
-    ScriptedHost host;
-
+struct Run : testing::Test, Desk {
     Run() {
         scenes::addNode(ed, 1000, 1000);
         ed.Nodes[1].Vxo = 1;
-    }
-    // As the toolbar does it: the two-state button changes first.
-    void clickStart() {
-        ed.buttons.start = !ed.buttons.start;
-        startClicked(ed, host);
     }
     void tick() {
         if (ed.Timer1.enabled) Timer1_Timer(ed);
@@ -34,20 +25,20 @@ struct Run : testing::Test {
 }  // namespace
 
 TEST_F(Run, StartTakesASnapshotOnlyWhenTheTimerStood) {
-    Editor never = ed;
-    repositionClicked(never, host);
-    EXPECT_EQ(lastNode(never), 0);
-    clickStart();
+    Desk never = *this;
+    never.press("reposition");
+    EXPECT_EQ(lastNode(never.ed), 0);
+    press("start");
     EXPECT_TRUE(ed.Timer1.enabled && ed.InitialVelocityPending);
     EXPECT_EQ(ed.tips.start, "Stop");
     tick();
     EXPECT_EQ(ed.Nodes[1].Vx, 1000.0F);
     EXPECT_EQ(ed.Nodes[1].X, 1020);
-    clickStart();  // stops
+    press("start");  // stops
     EXPECT_FALSE(ed.Timer1.enabled);
     EXPECT_EQ(ed.tips.start, "Start");
     EXPECT_EQ(ed.SavedNodes[1].X, 1000);
-    clickStart();
+    press("start");
     EXPECT_EQ(ed.SavedNodes[1].X, 1020);
     scenes::addNode(ed, 2000, 1000);
     scenes::addLink(ed, 1, 2);
@@ -56,7 +47,7 @@ TEST_F(Run, StartTakesASnapshotOnlyWhenTheTimerStood) {
         ed.SelectedNode = ed.HoverNode = 1;
         ed.pathDots.push_back({});
         ed.Nodes[1].Sprite = "other.png";
-        repositionClicked(ed, host);
+        press("reposition");
         EXPECT_EQ(ed.Nodes[1].X, 1020);
         EXPECT_EQ(ed.Nodes[1].Sprite, noSprite);
         EXPECT_EQ(lastNode(ed) + lastLink(ed), 1);
@@ -69,18 +60,18 @@ TEST_F(Run, StartTakesASnapshotOnlyWhenTheTimerStood) {
 
 TEST_F(Run, SingleStepsOnceWhetherStoppedOrRunning) {
     ed.Cycles = std::numeric_limits<std::int32_t>::max();
-    singleClicked(ed, host);
+    press("single");
     EXPECT_TRUE(ed.Timer1.enabled && ed.SingleStep);
     tick();
     tick();
     EXPECT_EQ(ed.Cycles, std::numeric_limits<std::int32_t>::min());
     EXPECT_EQ(panel(ed, 3), "Cycles: -2147483648");
     ed.Cycles = 1;
-    clickStart();
+    press("start");
     EXPECT_FALSE(ed.SingleStep);
     tick();
     tick();
-    singleClicked(ed, host);
+    press("single");
     EXPECT_FALSE(ed.buttons.start);
     EXPECT_EQ(ed.tips.start, "Start");
     tick();
@@ -90,16 +81,16 @@ TEST_F(Run, SingleStepsOnceWhetherStoppedOrRunning) {
 }
 
 TEST_F(Run, InitialVelocitiesActAgainAfterTheClockWasSetToZero) {
-    clickStart();
+    press("start");
     tick();
     ed.Nodes[1].Vx = 0;
-    clickStart();
-    clickStart();
+    press("start");
+    press("start");
     tick();  // armed, but the clock has moved on
     EXPECT_EQ(ed.Nodes[1].Vx, 0.0F);
     ed.marks.mnuDisplayAngleManager = true;
     ed.phaseShift = 3;
-    mnuSetZero_Click(ed, host);
+    choose("mnuSetZero");
     EXPECT_EQ(panel(ed, 4), "Time:  0.000");
     EXPECT_EQ(ed.phaseShift, 0.0F);
     tick();

@@ -4,10 +4,10 @@
 
 #include "edit/compact.h"
 
+#include "desk.h"
 #include "model/connected.h"
 #include "plain_step.h"
 #include "random_model.h"
-#include "rig.h"
 #include "scenes/scenes.h"
 
 #include <gtest/gtest.h>
@@ -65,7 +65,7 @@ TEST_F(Store, CompactsToUsedRecordsInTheirOrder) {
         appendLink(ed, defaultLink(ed, a, b));
     ScriptedHost host;
     ed.SelectedNode = 5;
-    mnuCompact_Click(ed, host);
+    choose(ed, host, "mnuCompact");
     EXPECT_EQ(placesOf(ed), "200,0 500,0 ");
     EXPECT_EQ(endsOf(ed), "2-1 0-1 1-0 0-1 ") << "an end that is not there stays so";
     EXPECT_EQ(panel(ed, 5), "Compact complete.   Nodes: 5 to 2      Links: 4 to 4");
