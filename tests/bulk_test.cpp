@@ -7,30 +7,6 @@
 namespace zentrik {
 namespace {
 
-using scenes::addNode;
-
-// Two objects, 1-2 and 3-4, and two free slots.
-Editor twoPairs() {
-    Editor ed = scenes::fullScreen();
-    for (int i = 1; i <= 5; ++i) addNode(ed, 1000 * i, 1000);
-    scenes::addLinks(ed, {{1, 2}, {3, 4}, {1, 3}});
-    nodeAt(ed, 5).Used = linkAt(ed, 3).Used = false;
-    return ed;
-}
-
-TEST(Bulk, RemovalsClearTheSelectionsTheyAffect) {
-    const std::pair<const char*, Selections> cases[] = {{"mnuRemoveNodes", {none, none, none, none}},
-                                                        {"mnuRemoveLinks", {1, 1, none, none}},
-                                                        {"mnuRemoveFreeNodes", {none, none, none, none}}};
-    for (const auto& [entry, left] : cases) {
-        Desk desk{twoPairs(), {}};
-        Editor& ed = desk.ed;
-        ed.SelectedNode = ed.HoverNode = ed.SelectedLink = ed.HoverLink = 1;
-        desk.choose(entry);
-        EXPECT_EQ(selections(ed), left);
-    }
-}
-
 TEST(Bulk, FreeNodesAreThoseWithoutUsedLinks) {
     Desk desk;
     Editor& ed = desk.ed;

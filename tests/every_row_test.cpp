@@ -3,6 +3,7 @@
 // the working folder takes its place.
 
 #include "desk.h"
+#include "model/readout.h"
 #include "model/redraw.h"
 #include "project/columns.h"
 #include "project/forms.h"
@@ -32,16 +33,20 @@ Editor unlikeModel() {
     for (std::int32_t j = 1; j <= 3; ++j) {
         Link& link = linkAt(ed, j);
         const auto f = static_cast<float>(j);
-        link.k = 4 * f, link.Angle = 90 * f, link.Force = f / 4, link.Animator = j == 2,
+        link.k = 4 * f, link.Angle = 90 * f, link.Force = f / 4, link.Animator = j == 1,
         link.Barrier = j == 2;
     }
-    ed.Viscosity = 0.25F, ed.LeftWind = 3, ed.AnimationTime = 1.5F, ed.ProjectTitle = "unlike";
-    ed.SelectedNode = 2, ed.SelectedLink = 1, ed.LastShooter = 4;
+    ed.Gravity = 1.25F, ed.Friction = 0.3F, ed.Viscosity = 0.25F, ed.LeftWind = 3, ed.Bounce = 0.75F;
+    ed.TimeInterval = 15, ed.Timer1.interval = 25, ed.DeltaAngle = 0.2F, ed.DefaultLinkK = 6;
+    ed.DefaultLinkForce = 0.15F, ed.GridSize = 300, ed.AnimationTime = 1.5F, ed.ProjectTitle = "unlike";
+    ed.SelectedNode = 2, ed.SelectedLink = ed.SelectedAnimatorLink = 1, ed.LastShooter = 4;
+    ed.HoverNode = 3, ed.HoverLink = 2, ed.NodeRadius = 50;
     nodeAt(ed, 5).Used = linkAt(ed, 3).Used = false;
     ed.marks.mnuDisplayAngleManager = true;
     ed.phaseWidth = 28680;
     DrawPhaseManager(ed, ed.AnimationTime);
-    ed.phaseStale = ed.sceneStale = false;
+    DisplayNodeData(ed, 2);
+    DisplayLinkData(ed, 1);
     ed.savedText = "unlike";
     ed.spriteNames = {noSprite, "ant.svg"};
     ed.chance.seedSource = [] { return std::uint64_t{7}; };
@@ -117,7 +122,9 @@ void tellSettings(std::string& out, const Editor& a, const Editor& b) {
         {"NodeRadius", &Editor::NodeRadius},     {"HitRadius", &Editor::HitRadius},
         {"LinkColor", &Editor::LinkColor},       {"NodeColor", &Editor::NodeColor},
         {"BackColor", &Editor::BackColor},       {"SelectedNode", &Editor::SelectedNode},
-        {"SelectedLink", &Editor::SelectedLink}, {"HoverNode", &Editor::HoverNode}};
+        {"SelectedLink", &Editor::SelectedLink}, {"HoverNode", &Editor::HoverNode},
+        {"HoverLink", &Editor::HoverLink},       {"SelectedAnimatorLink", &Editor::SelectedAnimatorLink},
+        {"LastShooter", &Editor::LastShooter}};
     for (const auto& [name, member] : wholes) tell(out, name, a.*member, b.*member);
     tell(out, "Timer1 runs", a.Timer1.enabled, b.Timer1.enabled);
     tell(out, "Timer1 period", a.Timer1.interval, b.Timer1.interval);
@@ -129,7 +136,7 @@ void tellSettings(std::string& out, const Editor& a, const Editor& b) {
     tell(out, "single step", a.SingleStep, b.SingleStep);
 }
 
-// Check marks and pressed buttons go by the names of the rows that stand for them.
+// Check marks, pressed buttons and tips go by the names of the rows that stand for them.
 void tellFlags(std::string& out, const Editor& a, const Editor& b) {
     for (const MenuRow& row : menuRows())
         if (row.mark != nullptr) tell(out, row.name, a.marks.*row.mark, b.marks.*row.mark);
@@ -140,6 +147,13 @@ void tellFlags(std::string& out, const Editor& a, const Editor& b) {
     };
     buttons(commandRows());
     buttons(propertyRows());
+    tell(out, "node buttons", a.nodeControls, b.nodeControls);
+    tell(out, "link buttons", a.linkControls, b.linkControls);
+    for (const PropertyRow& row : propertyRows())
+        if (row.tip != nullptr && a.tips.*row.tip != b.tips.*row.tip)
+            out += "  tip " + b.tips.*row.tip + "\n";
+    for (std::size_t i = 0; i < 4; ++i)
+        if (a.panels[i] != b.panels[i]) out += "  panel " + b.panels[i] + "\n";
 }
 
 // What the commands apply to.
@@ -155,6 +169,9 @@ protected:
         Editor ed = unlikeModel();
         ed.marks.mnuApplyChanges = scope_ != Scope::everything;
         if (scope_ == Scope::missingObject) ed.SelectedNode = ed.SelectedLink = none;
+        showCounts(ed);
+        DisplayScene(ed, -1, -1);
+        ed.phaseStale = ed.sceneStale = false;
         const Editor before = ed;
         ScriptedHost host;
         host.answers = {"60:700"};
