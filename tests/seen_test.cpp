@@ -1,0 +1,163 @@
+// What stands on the screen after what a person does, pixel by pixel; a fresh paint might show more.
+
+#include "display/colours.h"
+#include "rig.h"
+#include "window_rig.h"
+
+#include <QScreen>
+
+namespace zentrik {
+
+namespace {
+
+class Seen : public Window {
+protected:
+    QImage screenOf(const char* name) {
+        const QWidget* widget = find(name);
+        const QPixmap whole = widget->screen()->grabWindow(widget->window()->winId());
+        return whole.copy({widget->mapTo(widget->window(), QPoint()), widget->size()}).toImage();
+    }
+    bool shows(const char* name, QPoint at, QColor colour) {
+        return await([&] { return screenOf(name).pixelColor(at) == colour; });
+    }
+    bool isWhite(const char* name) {
+        const QImage image = screenOf(name).convertToFormat(QImage::Format_RGB32);
+        const auto* first = reinterpret_cast<const QRgb*>(image.constBits());
+        return std::all_of(first, first + image.width() * image.height(),
+                           [](QRgb pixel) { return (pixel | 0xFF000000) == 0xFFFFFFFF; });
+    }
+    QPoint discAt(double degrees) {
+        const double width = find("picPhase")->width();
+        return {static_cast<int>(width * (0.1 + 0.8 * degrees / 360)) + 2, 20};  // beside the grid's line
+    }
+};
+
+TEST_F(Seen, TheSceneShowsNodesUntilTheyGo) {
+    const QPoint at(100, 100), elsewhere(300, 300);
+    press("grid");
+    EXPECT_TRUE(await([&] { return !isWhite("picS"); }));
+    click(elsewhere, Qt::RightButton);
+    EXPECT_TRUE(await([&] { return isWhite("picS"); })) << "blank until the next redraw";
+    click(at);
+    moveTo(elsewhere);
+    EXPECT_TRUE(shows("picS", at, Qt::red)) << "selected";
+    EXPECT_TRUE(shows("picS", {205, 205}, Qt::black)) << "the rubber band";
+    click(elsewhere, Qt::RightButton);
+    click(elsewhere, Qt::RightButton);
+    EXPECT_TRUE(shows("picS", at, colorOf(ed().NodeColor)));
+    EXPECT_TRUE(shows("picS", {205, 205}, Qt::white));
+    moveTo(at);
+    EXPECT_TRUE(shows("picS", at, Qt::white)) << "pointed at";
+    click(at);
+    press("delete");
+    moveTo(elsewhere);
+    EXPECT_TRUE(shows("picS", at + QPoint(3, 0), Qt::white));
+}
+
+TEST_F(Seen, GesturesReachTheEdgesOfTheSceneAndBeyond) {
+    const QPoint last = find("picS")->rect().bottomRight();
+    click({100, 100});
+    click(last);
+    EXPECT_EQ(placesOf(ed()),
+              "1500,1500 " + std::to_string(last.x() * 15) + "," + std::to_string(last.y() * 15) + " ");
+    moveTo({0, 100});
+    EXPECT_TRUE(ed().rubberBand) << "the scene's own edge";
+    drag({100, 100}, {-20, 50});
+    EXPECT_EQ(ed().Nodes[1].X, -300);
+    EXPECT_EQ(ed().Nodes[1].Y, 750);
+    EXPECT_FALSE(ed().rubberBand) << "outside";
+    EXPECT_FALSE(ed().MouseIsDown);
+    drag(last, last + QPoint(40, 30));
+    EXPECT_EQ(ed().Nodes[2].X, (last.x() + 40) * 15);
+}
+
+TEST_F(Seen, DiscsFollowTheirAnglesAndThePointer) {
+    click({100, 100});
+    click({200, 100});
+    click({300, 100});
+    click({400, 400}, Qt::RightButton);
+    choose("mnuDisplayAngleManager");
+    doubleClick({150, 100});  // the first link's middle
+    ASSERT_TRUE(ed().Links[1].Animator);
+    for (const char* angle : {"112.5", "270"}) {
+        answerNext(angle, Qt::Key_Return);
+        pressProperty("angle");
+        EXPECT_TRUE(shows("picPhase", discAt(QString(angle).toDouble()), Qt::blue)) << angle;
+    }
+    EXPECT_NE(screenOf("picPhase").pixelColor(discAt(112.5)), QColor(Qt::blue));
+    const auto stripClick = [&](QPoint at, Qt::MouseButton mouseButton = Qt::LeftButton) {
+        QTest::mouseClick(find("picPhase"), mouseButton, {}, at);
+    };
+    click({250, 100});
+    EXPECT_EQ(ed().SelectedLink, 2);
+    EXPECT_EQ(ed().SelectedAnimatorLink, 1) << "a link that is no animator leaves the disc marked";
+    stripClick({600, 60});  // beside the disc
+    EXPECT_EQ(ed().SelectedAnimatorLink, 2);
+    EXPECT_TRUE(shows("picPhase", discAt(270), colorOf(ed().NodeColor)));
+    stripClick(discAt(270));
+    EXPECT_EQ(ed().SelectedLink, 1);
+    QTest::mousePress(find("picPhase"), Qt::LeftButton, {}, discAt(270));
+    QTest::mouseMove(find("picPhase"), discAt(112.5));
+    QTest::mouseRelease(find("picPhase"), Qt::LeftButton, {}, discAt(112.5));
+    EXPECT_NEAR(ed().Links[1].Angle, 112.5, 1);
+    QTest::mouseMove(find("picPhase"), {600, 60});
+    EXPECT_TRUE(shows("picPhase", discAt(112.5), Qt::blue)) << "let go";
+    stripClick({600, 60}, Qt::RightButton);
+    EXPECT_EQ(ed().SelectedAnimatorLink, none);
+    EXPECT_TRUE(shows("picPhase", discAt(112.5), colorOf(ed().NodeColor)));
+}
+
+TEST_F(Seen, ThePathIsErasedByAClickAndByReposition) {
+    click({100, 100});
+    choose("mnuDisplayPath");
+    for (const bool byClick : {true, false}) {
+        ASSERT_NE(ed().SelectedNode, none);
+        runAWhile();
+        EXPECT_TRUE(await([&] { return !isWhite("frmPath"); }));
+        byClick ? QTest::mouseClick(find("frmPath"), Qt::LeftButton) : press("reposition");
+        EXPECT_TRUE(await([&] { return isWhite("frmPath"); })) << byClick;
+    }
+    EXPECT_EQ(panelText(1), "Nodes: 1");
+}
+
+TEST_F(Seen, AFileOfALargerSceneIsLaidOut) {
+    choose("mnuDisplayAngleManager");
+    window_->resize(1300, 800);
+    settle();
+    find<QComboBox>("lstSaved")->setEditText("large");
+    press("save");
+    const QSize large = find("picS")->size();
+    window_->resize(1000, 600);
+    settle();
+    choose("mnuAutoWindowSize");
+    press("refresh");
+    settle();
+    const QSize scene = find("picS")->size();
+    EXPECT_NEAR(scene.width(), large.width(), 10);
+    EXPECT_NEAR(scene.height(), large.height(), 100);
+    EXPECT_EQ(scene * 15, QSize(ed().sceneWidth, ed().sceneHeight));
+    EXPECT_EQ(find("picPhase")->width(), scene.width());
+    EXPECT_GE(find("picPhase")->y(), find("picS")->geometry().bottom());
+}
+
+TEST_F(Seen, ButtonsWaitForTheirNodeOrLink) {
+    const auto enabled = [&] {
+        std::string keys;
+        for (const char* key : {"gravity", "locked", "mass", "animator", "k", "barrier"})
+            if (button("Toolbar2", key)->isEnabled()) keys += std::string(key) + " ";
+        return keys + (find<QComboBox>("lstSprites")->isEnabled() ? "sprites" : "");
+    };
+    EXPECT_EQ(enabled(), "gravity ");
+    click({100, 100});
+    EXPECT_EQ(enabled(), "gravity locked mass sprites");
+    click({200, 100});
+    click({400, 400}, Qt::RightButton);
+    click({400, 400}, Qt::RightButton);
+    EXPECT_EQ(enabled(), "gravity ");
+    click({150, 100});
+    EXPECT_EQ(enabled(), "gravity animator k barrier ");
+}
+
+}  // namespace
+
+}  // namespace zentrik
