@@ -35,23 +35,23 @@ protected:
 TEST_F(Seen, TheSceneShowsNodesUntilTheyGo) {
     const QPoint at(100, 100), elsewhere(300, 300);
     press("grid");
-    EXPECT_TRUE(await([&] { return !isWhite("picS"); }));
+    ASSERT_TRUE(await([&] { return !isWhite("picS"); }));
     click(elsewhere, Qt::RightButton);
-    EXPECT_TRUE(await([&] { return isWhite("picS"); })) << "blank until the next redraw";
+    ASSERT_TRUE(await([&] { return isWhite("picS"); })) << "blank until the next redraw";
     click(at);
     moveTo(elsewhere);
-    EXPECT_TRUE(shows("picS", at, Qt::red)) << "selected";
-    EXPECT_TRUE(shows("picS", {205, 205}, Qt::black)) << "the rubber band";
+    ASSERT_TRUE(shows("picS", at, Qt::red)) << "selected";
+    ASSERT_TRUE(shows("picS", {205, 205}, Qt::black)) << "the rubber band";
     click(elsewhere, Qt::RightButton);
     click(elsewhere, Qt::RightButton);
-    EXPECT_TRUE(shows("picS", at, colorOf(ed().NodeColor)));
-    EXPECT_TRUE(shows("picS", {205, 205}, Qt::white));
+    ASSERT_TRUE(shows("picS", at, colorOf(ed().NodeColor)));
+    ASSERT_TRUE(shows("picS", {205, 205}, Qt::white));
     moveTo(at);
-    EXPECT_TRUE(shows("picS", at, Qt::white)) << "pointed at";
+    ASSERT_TRUE(shows("picS", at, Qt::white)) << "pointed at";
     click(at);
     press("delete");
     moveTo(elsewhere);
-    EXPECT_TRUE(shows("picS", at + QPoint(3, 0), Qt::white));
+    ASSERT_TRUE(shows("picS", at + QPoint(3, 0), Qt::white));
 }
 
 TEST_F(Seen, GesturesReachTheEdgesOfTheSceneAndBeyond) {
@@ -82,7 +82,7 @@ TEST_F(Seen, DiscsFollowTheirAnglesAndThePointer) {
     for (const char* angle : {"112.5", "270"}) {
         answerNext(angle, Qt::Key_Return);
         pressProperty("angle");
-        EXPECT_TRUE(shows("picPhase", discAt(QString(angle).toDouble()), Qt::blue)) << angle;
+        ASSERT_TRUE(shows("picPhase", discAt(QString(angle).toDouble()), Qt::blue)) << angle;
     }
     EXPECT_NE(screenOf("picPhase").pixelColor(discAt(112.5)), QColor(Qt::blue));
     const auto stripClick = [&](QPoint at, Qt::MouseButton mouseButton = Qt::LeftButton) {
@@ -93,7 +93,7 @@ TEST_F(Seen, DiscsFollowTheirAnglesAndThePointer) {
     EXPECT_EQ(ed().SelectedAnimatorLink, 1) << "a link that is no animator leaves the disc marked";
     stripClick({600, 60});  // beside the disc
     EXPECT_EQ(ed().SelectedAnimatorLink, 2);
-    EXPECT_TRUE(shows("picPhase", discAt(270), colorOf(ed().NodeColor)));
+    ASSERT_TRUE(shows("picPhase", discAt(270), colorOf(ed().NodeColor)));
     stripClick(discAt(270));
     EXPECT_EQ(ed().SelectedLink, 1);
     QTest::mousePress(find("picPhase"), Qt::LeftButton, {}, discAt(270));
@@ -101,10 +101,10 @@ TEST_F(Seen, DiscsFollowTheirAnglesAndThePointer) {
     QTest::mouseRelease(find("picPhase"), Qt::LeftButton, {}, discAt(112.5));
     EXPECT_NEAR(ed().Links[1].Angle, 112.5, 1);
     QTest::mouseMove(find("picPhase"), {600, 60});
-    EXPECT_TRUE(shows("picPhase", discAt(112.5), Qt::blue)) << "let go";
+    ASSERT_TRUE(shows("picPhase", discAt(112.5), Qt::blue)) << "let go";
     stripClick({600, 60}, Qt::RightButton);
     EXPECT_EQ(ed().SelectedAnimatorLink, none);
-    EXPECT_TRUE(shows("picPhase", discAt(112.5), colorOf(ed().NodeColor)));
+    ASSERT_TRUE(shows("picPhase", discAt(112.5), colorOf(ed().NodeColor)));
 }
 
 TEST_F(Seen, ThePathIsErasedByAClickAndByReposition) {
@@ -113,9 +113,9 @@ TEST_F(Seen, ThePathIsErasedByAClickAndByReposition) {
     for (const bool byClick : {true, false}) {
         ASSERT_NE(ed().SelectedNode, none);
         runAWhile();
-        EXPECT_TRUE(await([&] { return !isWhite("frmPath"); }));
+        ASSERT_TRUE(await([&] { return !isWhite("frmPath"); }));
         byClick ? QTest::mouseClick(find("frmPath"), Qt::LeftButton) : press("reposition");
-        EXPECT_TRUE(await([&] { return isWhite("frmPath"); })) << byClick;
+        ASSERT_TRUE(await([&] { return isWhite("frmPath"); })) << byClick;
     }
     EXPECT_EQ(panelText(1), "Nodes: 1");
 }

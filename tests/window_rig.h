@@ -54,7 +54,7 @@ protected:
         start();
     }
 
-    static constexpr int longest = 60000;  // milliseconds, for what takes a few
+    static constexpr int longest = 30000;  // milliseconds, for what takes a few
     template <class Condition>
     static bool await(Condition holds) {
         return QTest::qWaitFor(holds, longest);
