@@ -33,25 +33,25 @@ protected:
 };
 
 TEST_F(Seen, TheSceneShowsNodesUntilTheyGo) {
-    const QPoint at(100, 100), elsewhere(300, 300);
+    const QPoint at(100, 100), inNode(98, 100), onBand(205, 205), elsewhere(300, 300);
     press("grid");
     ASSERT_TRUE(await([&] { return !isWhite("picS"); }));
     click(elsewhere, Qt::RightButton);
     ASSERT_TRUE(await([&] { return isWhite("picS"); })) << "blank until the next redraw";
     click(at);
     moveTo(elsewhere);
-    ASSERT_TRUE(shows("picS", at, Qt::red)) << "selected";
-    ASSERT_TRUE(shows("picS", {205, 205}, Qt::black)) << "the rubber band";
+    ASSERT_TRUE(shows("picS", inNode, Qt::red)) << "selected";
+    ASSERT_TRUE(shows("picS", onBand, Qt::black));
     click(elsewhere, Qt::RightButton);
     click(elsewhere, Qt::RightButton);
-    ASSERT_TRUE(shows("picS", at, colorOf(ed().NodeColor)));
-    ASSERT_TRUE(shows("picS", {205, 205}, Qt::white));
+    ASSERT_TRUE(shows("picS", inNode, colorOf(ed().NodeColor)));
+    ASSERT_TRUE(shows("picS", onBand, Qt::white));
     moveTo(at);
-    ASSERT_TRUE(shows("picS", at, Qt::white)) << "pointed at";
+    ASSERT_TRUE(shows("picS", inNode, Qt::white)) << "pointed at";
     click(at);
     press("delete");
     moveTo(elsewhere);
-    ASSERT_TRUE(shows("picS", at + QPoint(3, 0), Qt::white));
+    ASSERT_TRUE(shows("picS", at + QPoint(4, 0), Qt::white)) << "no outline";
 }
 
 TEST_F(Seen, GesturesReachTheEdgesOfTheSceneAndBeyond) {
@@ -135,7 +135,7 @@ TEST_F(Seen, AFileOfALargerSceneIsLaidOut) {
     const QSize scene = find("picS")->size();
     EXPECT_NEAR(scene.width(), large.width(), 10);
     EXPECT_NEAR(scene.height(), large.height(), 100);
-    EXPECT_EQ(scene * 15, QSize(ed().sceneWidth, ed().sceneHeight));
+    EXPECT_NEAR(scene.height(), ed().sceneHeight / 15.0, 1);
     EXPECT_EQ(find("picPhase")->width(), scene.width());
     EXPECT_GE(find("picPhase")->y(), find("picS")->geometry().bottom());
 }
