@@ -19,9 +19,9 @@ TEST(Menus, ValuesAndColoursAreAskedFor) {
     Desk desk;
     Editor& ed = desk.ed;
     const std::pair<const char*, const char*> asked[] = {
-        {"mnuGridSize", "49"},   {"mnuGridSize", "120.4"}, {"mnuGridSize", ""},
-        {"mnuSetRadius", "abc"}, {"mnuSetRadius", "-30"},  {"mnuSetRadius", ""},
-        {"mnuDefaultK", "7x"},   {"mnuDefaultK", ""},      {"mnuDefaultForce", ""}};
+        {"mnuGridSize", "49"},   {"mnuGridSize", "50"},   {"mnuGridSize", "120.4"}, {"mnuGridSize", ""},
+        {"mnuSetRadius", "abc"}, {"mnuSetRadius", "-30"}, {"mnuSetRadius", ""},     {"mnuDefaultK", "7x"},
+        {"mnuDefaultK", ""},     {"mnuDefaultForce", ""}};
     for (const auto& [name, answer] : asked) {
         desk.answer(answer);
         desk.choose(name);
@@ -29,6 +29,7 @@ TEST(Menus, ValuesAndColoursAreAskedFor) {
     EXPECT_EQ(desk.host.transcript,
               "input: Enter grid size.|Grid Size|250\n"
               "input: Enter grid size.|Grid Size|250\n"
+              "input: Enter grid size.|Grid Size|50\n"
               "input: Enter grid size.|Grid Size|120\n"
               "input: Enter node radius.|Set Node Radius|60\n"
               "input: Enter node radius.|Set Node Radius|0\n"

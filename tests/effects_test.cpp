@@ -67,6 +67,15 @@ TEST_F(Shooter, LooksForItsTriggerUntilItHasALink) {
     for (std::int32_t i = 1; i <= 3; ++i) EXPECT_EQ(GetTriggerNode(ed, i), triggers.at(std::size_t(i)));
 }
 
+TEST(Aim, IsCountedFromTheRightAgainstTheClock) {
+    const struct {
+        float dx, dy, degrees;
+    } cases[] = {{0, 0, 0},    {1, 0, 0},    {1, -1, 45}, {0, -1, 90}, {-1, -1, 135},
+                 {-1, 0, 180}, {-1, 1, 225}, {0, 1, 270}, {1, 1, 315}};
+    for (const auto& c : cases)
+        EXPECT_NEAR(GetVectorAngle(c.dx, c.dy) * 180 / 3.14159, c.degrees, 0.1) << c.degrees;
+}
+
 TEST_F(Shooter, FiresNothingWhenItCannot) {
     addNode(ed, 0, 0);
     ed.Nodes.back().Trigger = 0;

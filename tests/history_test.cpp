@@ -189,6 +189,12 @@ TEST_F(Undo, TellsWhetherTheFileHoldsTheModel) {
     EXPECT_TRUE(modified());
     redo();
     EXPECT_FALSE(modified());
+    press("start");
+    ticks(2);
+    press("grid");
+    ticks(2);
+    undo();
+    EXPECT_FALSE(modified()) << "whatever was pressed during the run";
     ed_.savedText = "another";
     EXPECT_TRUE(modified());
     ed_.savedText = "mine";

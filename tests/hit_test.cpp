@@ -73,11 +73,13 @@ TEST(Hit, DescribesWhatItFound) {
 TEST(Hit, SteppingWrapsOverUsedSlotsOnly) {
     struct {
         std::string used;
-        std::int32_t from, to;
+        std::int32_t from, next, previous;
     } const cases[] = {
-        {"010010001", 9, 2}, {"010010001", none, 2}, {"010010001", 5, 9}, {"010010001", 3, 5},
-        {"000010000", 5, 5}, {"100000000", 1, 1},    {"000000000", 4, 4}, {"000000000", none, none},
-        {"010010000", 9, 2}, {"010010000", 40, 2},
+        {"010010001", 9, 2, 5},  {"010010001", none, 2, 9},       {"010010001", 5, 9, 2},
+        {"010010001", 3, 5, 2},  {"000010000", 5, 5, 5},          {"100000000", 1, 1, 1},
+        {"000000000", 4, 4, 4},  {"000000000", none, none, none}, {"010010000", 9, 2, 5},
+        {"010010000", 40, 2, 5}, {"100000000", none, 1, 1},       {"100000000", 40, 1, 1},
+        {"110000000", 1, 2, 2},
     };
     for (const auto& c : cases) {
         Editor ed;
@@ -88,7 +90,11 @@ TEST(Hit, SteppingWrapsOverUsedSlotsOnly) {
         ed.SelectedNode = ed.SelectedLink = c.from;
         NextNode(ed);
         NextLink(ed);
-        EXPECT_EQ(selections(ed), (Selections{c.to, none, c.to, none})) << c.used << " from " << c.from;
+        EXPECT_EQ(selections(ed), (Selections{c.next, none, c.next, none})) << c.used << " from " << c.from;
+        ed.SelectedNode = ed.SelectedLink = c.from;
+        PreviousNode(ed);
+        PreviousLink(ed);
+        EXPECT_EQ(selections(ed), (Selections{c.previous, none, c.previous, none})) << c.used;
     }
 }
 

@@ -147,6 +147,9 @@ TEST_F(Keys, TheStripTurnsPhases) {
     press("snap");
     hit(Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_EQ(linkAt(ed(), 1).Angle, 22.5F);
+    hit(Qt::Key_Right, Qt::ShiftModifier, 2);
+    hit(Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_EQ(linkAt(ed(), 1).Angle, 45);
     hit(Qt::Key_Left);
     EXPECT_EQ(ed().SelectedLink, 2);
     hit(Qt::Key_Left, Qt::ShiftModifier);

@@ -208,10 +208,11 @@ TEST_F(Library, RefusesNamesThatAreNoProjects) {
     }
     EXPECT_EQ(entriesIn(folder.path), 0u);
     host.transcript.clear();
-    for (const char* name : {"console", "COM", "a..b", "a : b", "nulls"}) SaveFile(ed, host, name);
+    for (const char* name : {"console", "COM", "comet", "gun1", "a..b", "a : b", "nulls"})
+        SaveFile(ed, host, name);
     SaveFile(ed, host, std::string(200, 'a'));
     EXPECT_EQ(host.transcript, "");
-    EXPECT_EQ(entriesIn(zoo()), 6u);
+    EXPECT_EQ(entriesIn(zoo()), 8u);
 }
 
 TEST_F(Library, ReloadingShowsTheFileAndItsClock) {

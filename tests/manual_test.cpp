@@ -23,6 +23,7 @@ TEST_F(ManualWindow, OpensAndFindsItsWay) {
         text->document()->resource(QTextDocument::ImageResource, QUrl("pictures/window.png")).isNull());
     auto* contents = manual->findChild<QTreeWidget*>();
     EXPECT_GT(contents->topLevelItemCount(), 8);
+    EXPECT_GT(text->width(), 2 * contents->width()) << "most of the room is for reading";
 
     EXPECT_EQ(text->horizontalScrollBar()->maximum(), 0) << "a picture is wider than the window";
     // Every link inside leads to its chapter.

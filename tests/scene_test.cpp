@@ -113,6 +113,8 @@ TEST(Scene, EveryLayerShowsWhereItsSwitchesSay) {
         {"unused link", [](Editor& ed) { ed.Links[1].Used = false; }, 2500, 1500, paper},
         {"link to nowhere", [](Editor& ed) { ed.Links[1].N2 = 77; }, 2500, 1500, paper},
         {"barrier", [](Editor& ed) { ed.Links[1].Barrier = true; }, 2500, 1485, red},
+        {"barrier at the very edge",
+         [](Editor& ed) { ed.Links[1].Barrier = true, ed.Nodes[1].Y = ed.Nodes[2].Y = -15; }, 2500, 5, red},
         {"link is thin", nothing, 2500, 1485, paper},
         {"selected link", [](Editor& ed) { ed.SelectedLink = 1; }, 2500, 1500, blue},
         {"selected barrier is thin", [](Editor& ed) { ed.SelectedLink = 1, ed.Links[1].Barrier = true; },
@@ -251,6 +253,33 @@ TEST(Lettering, NumbersByGroupsLookLikeDigitsOneByOne) {
             // Where groups meet, a few pixels of one halo are missing; on a ground of its colour nothing is.
             EXPECT_LE(apart, ground == QColor(Qt::white) ? 0 : 40 * ratio * ratio) << ratio;
         }
+}
+
+TEST(Lettering, StandsInItsInkOnItsPaper) {
+    const auto count = [](std::int32_t ground, std::int32_t inkColour, std::int32_t paperColour,
+                          QColor wanted) {
+        QImage image = blankImage(1500, 600, 1);
+        image.fill(colorOf(ground));
+        QPainter painter(&image);
+        lettering(1, inkColour, paperColour).print(painter, {10, 10}, "Ink 42");
+        int found = 0;
+        for (int i = 0; i < image.width() * image.height(); ++i) {
+            const QColor pixel = image.pixelColor(i % image.width(), i / image.width());
+            found += std::abs(pixel.red() - wanted.red()) + std::abs(pixel.green() - wanted.green()) +
+                         std::abs(pixel.blue() - wanted.blue()) <
+                     120;
+        }
+        return found;
+    };
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_GT(count(white, blue, white, Qt::blue), 20);
+        EXPECT_GT(count(white, red, white, Qt::red), 20) << "not the ink used last";
+        EXPECT_EQ(count(white, red, white, Qt::blue), 0);
+    }
+    EXPECT_GT(count(black, black, white, Qt::white), 80) << "a halo of paper";
+    EXPECT_LT(count(black, black, white, Qt::white), 200);
+    const int mixed = count(black, blue, black, QColor(128, 128, 255));
+    EXPECT_GT(mixed, 20) << "blue is made lighter on black, and stays blue";
 }
 
 TEST(Scene, PlacesAndSizesOfAnyMagnitudeArePaintable) {

@@ -118,6 +118,8 @@ TEST_F(Seen, ThePathIsErasedByAClickAndByReposition) {
         ASSERT_TRUE(await([&] { return isWhite("frmPath"); })) << byClick;
     }
     EXPECT_EQ(panelText(1), "Nodes: 1");
+    find("frmPath")->resize(900, 500);
+    ASSERT_TRUE(await([&] { return screenOf("frmPath").width() == 900 && isWhite("frmPath"); }));
 }
 
 TEST_F(Seen, AFileOfALargerSceneIsLaidOut) {

@@ -43,7 +43,7 @@ struct SettingsFile : testing::Test {
 // The file's form is that of QSettings, which wrote it before and which other tools read it with.
 TEST_F(SettingsFile, SpeaksTheLanguageOfQSettingsBothWays) {
     std::mt19937 random(7);
-    const QString letters = QString::fromUtf8("ab 09fF=;,\"\\'@[]%#:\t\n\räλ\u2028x");
+    const QString letters = QString::fromUtf8("ab 09fF=;,\"\\'@[]%#:\t\n\räλ\u2028x\x01\x1f");
     const QString place = QString::fromStdString(file.string());
     for (int round = 0; round < 300; ++round) {
         QString text;
@@ -65,7 +65,7 @@ TEST_F(SettingsFile, SpeaksTheLanguageOfQSettingsBothWays) {
 
 TEST_F(SettingsFile, KeepsWhatItDoesNotKnow) {
     putFile(file,
-            "; by hand\n[Window]\nWalls=1\n\n[Settings]\nWalls=False\nFuture=\"a, b\"\n\n[Last]\nx=y\n");
+            "; by hand\n[Window]\nWalls=1\n\n[Settings]\n Walls = False\nFuture=\"a, b\"\n\n[Last]\nx=y\n");
     Program program;
     EXPECT_EQ(program.said, "");
     EXPECT_FALSE(program.ed.marks.mnuWalls);

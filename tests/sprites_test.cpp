@@ -73,6 +73,9 @@ TEST_F(Sprites, ReadAgainKnownOnesKeepTheirNumber) {
     EXPECT_EQ(read(sprites), std::vector<std::string>{"d.txt"}) << "told once";
     EXPECT_EQ(sprites.names(), (std::vector<std::string>{"<none>", "b.png", "a.png"}));
     EXPECT_EQ(sprites.picture(2).size(), QSize(8, 8));
+    EXPECT_EQ(sprites.picture(2).devicePixelRatio(), 1);
+    sprites.setRatio(2);
+    EXPECT_EQ(sprites.picture(2).devicePixelRatio(), 2) << "on another screen";
     ASSERT_TRUE(QFile::remove(folder.filePath("b.png")));
     read(sprites);
     EXPECT_TRUE(sprites.picture(1).isNull()) << "gone";

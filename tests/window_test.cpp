@@ -193,6 +193,23 @@ TEST_F(Window, TheWheelLeavesTheListsAlone) {
     EXPECT_EQ(ed().Nodes[1].Sprite, noSprite);
 }
 
+TEST_F(Window, TheWheelOverTheClockGoesThroughTheRun) {
+    click({100, 100});
+    click({400, 400}, Qt::RightButton);
+    runAWhile();
+    const float end = ed().AnimationTime;
+    const auto turn = [&](int notches) {
+        QWheelEvent wheel({9, 9}, find("Panel4")->mapToGlobal(QPointF(9, 9)), {}, {0, 120 * notches}, {}, {},
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(find("Panel4"), &wheel);
+        return ed().AnimationTime;
+    };
+    EXPECT_LT(turn(-2), end) << panelText(5).toStdString();
+    EXPECT_FLOAT_EQ(turn(2), end);
+    QTest::keyClick(find("picS"), Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_LT(ed().AnimationTime, end);
+}
+
 TEST_F(Window, ARestartShowsTheSameWorld) {
     click({100, 100});
     click({200, 100});

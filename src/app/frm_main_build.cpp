@@ -7,7 +7,6 @@
 #include "model/redraw.h"
 #include "model/store.h"
 #include "project/library.h"
-#include "sim/run.h"
 #include "ui/layout.h"
 #include "ui/online.h"
 #include "ui/phase_manager.h"
@@ -209,7 +208,7 @@ void frmMain::connectTimers() {
     Timer1_.setParent(this);
     Timer1_.setTimerType(Qt::PreciseTimer);
     connect(&Timer1_, &QTimer::timeout, this,
-            [this] { run(Event::timer, "", [](Editor& ed, Host&) { Timer1_Timer(ed); }); });
+            [this] { run(Event::timer, "", [this](Editor& ed, Host&) { tick(timeline_, ed); }); });
     timerFireWorks_.setObjectName("timerFireWorks");
     timerFireWorks_.setParent(this);
     connect(&timerFireWorks_, &QTimer::timeout, this, [this] {
