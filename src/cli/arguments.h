@@ -16,7 +16,7 @@ struct OptionRow {
     const char* value;   // what stands for its value in the help; null for an option without one
     const char* text;    // what it does
 };
-using OptionGroups = std::array<std::span<const OptionRow>, 3>;
+using OptionGroups = std::array<std::span<const OptionRow>, 4>;
 
 inline constexpr OptionRow commonOptions[] = {{"h", "help", nullptr, "Say how the command is used, and end."},
                                               {"v", "version", nullptr, "Say the version, and end."}};

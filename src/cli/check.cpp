@@ -58,8 +58,11 @@ const Command checkCommand{
     anyNumber,
     "Tells every problem of project files: what cannot be read, links without nodes, free nodes of mass 0, "
     "triggers that name nothing.",
-    "A problem is a line FILE:LINE: field NUMBER (NAME) and what is wrong, on the error stream. The exit "
-    "status is 1 if there is any.",
+    [] {
+        return std::string(
+            "A problem is a line FILE:LINE: field NUMBER (NAME) and what is wrong, on the error "
+            "stream. The exit status is 1 if there is any.");
+    },
     {options},
     check};
 

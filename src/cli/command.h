@@ -30,7 +30,7 @@ struct Command {
     const char* operands;      // as the usage line shows them
     std::size_t fewest, most;  // of them
     const char* summary;       // one sentence
-    const char* details;       // what else its help says; may be empty
+    std::string (*details)();  // what else its help says; may be null
     OptionGroups options;
     ExitStatus (*run)(const Arguments& arguments, Streams& streams);
 };

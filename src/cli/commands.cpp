@@ -4,13 +4,15 @@
 #include "cli/files.h"
 #include "cli/help.h"
 
+#include <exception>
 #include <ostream>
 
 namespace zentrik::cli {
 
 namespace {
 
-constexpr const Command* table[] = {&checkCommand, &infoCommand, &runCommand};
+constexpr const Command* table[] = {&checkCommand, &infoCommand,  &runCommand,
+                                    &sweepCommand, &mergeCommand, &improveCommand};
 
 const Command* find(const std::string& name) {
     for (const Command* command : table)
@@ -67,6 +69,9 @@ int runCommandLine(const std::vector<std::string>& words, Streams& streams) {
         streams.error << name << ": " << failure.text << "\n";
         if (failure.status == wrongUse) streams.error << "Try " << name << " --help.\n";
         return failure.status;
+    } catch (const std::exception& error) {  // as when there is not enough memory
+        streams.error << name << ": " << error.what() << "\n";
+        return finding;
     }
 }
 

@@ -9,6 +9,17 @@
 
 namespace zentrik::cli {
 
+namespace {
+
+std::string allOf(std::istream& in) { return {std::istreambuf_iterator<char>(in), {}}; }
+
+std::string bytesOf(FileBytes read, const std::string& file) {
+    if (!read.problem.empty()) throw Failure{finding, file + ": " + read.problem};
+    return std::move(read.bytes);
+}
+
+}  // namespace
+
 std::string shownName(const std::string& file) { return file == "-" ? "standard input" : file; }
 
 std::string problemText(const std::string& file, const ReadProblem& problem) {
@@ -17,10 +28,11 @@ std::string problemText(const std::string& file, const ReadProblem& problem) {
 }
 
 std::string readBytes(const std::string& file, Streams& streams) {
-    if (file == "-") return {std::istreambuf_iterator<char>(streams.in), {}};
-    FileBytes read = readProjectFile(file);
-    if (!read.problem.empty()) throw Failure{finding, file + ": " + read.problem};
-    return std::move(read.bytes);
+    return file == "-" ? allOf(streams.in) : bytesOf(readProjectFile(file), file);
+}
+
+std::string readAnyBytes(const std::string& file, Streams& streams) {
+    return file == "-" ? allOf(streams.in) : bytesOf(readWholeFile(file), file);
 }
 
 void writeBytes(const std::string& file, std::string_view bytes, Streams& streams) {

@@ -17,6 +17,9 @@ std::string problemText(const std::string& file, const ReadProblem& problem);
 // The bytes of a project file; throws a Failure that names it when there is none.
 std::string readBytes(const std::string& file, Streams& streams);
 
+// The same of any other file.
+std::string readAnyBytes(const std::string& file, Streams& streams);
+
 // Writes the whole or nothing, and throws a Failure that names the file.
 void writeBytes(const std::string& file, std::string_view bytes, Streams& streams);
 

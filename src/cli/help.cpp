@@ -62,7 +62,7 @@ std::string helpOf(const Command& command) {
     for (const auto& group : command.options)
         for (const OptionRow& row : group) text += optionEntry(row);
     for (const OptionRow& row : commonOptions) text += optionEntry(row);
-    if (*command.details != '\0') text += "\n" + wrapped(command.details, 0, 0);
+    if (command.details != nullptr) text += "\n" + wrapped(command.details(), 0, 0);
     return text;
 }
 

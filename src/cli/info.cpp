@@ -118,7 +118,7 @@ const Command infoCommand{"info",
                           1,
                           anyNumber,
                           "Tells what projects hold: title, clock, counts, extent in twips, settings.",
-                          "",
+                          nullptr,
                           {options},
                           info};
 

@@ -61,11 +61,15 @@ void applySet(Editor& ed, const std::string& text) {
 
 }  // namespace
 
-const char* const modelDetails =
-    "The scene has the size the file names. NAME is a global setting as project files call it (Gravity, "
-    "Friction, Viscosity, LeftWind, Bounce, TimeInterval, timer period, DeltaAngle, scene width, scene "
-    "height, AnimationTime), one of the settings file (NodeRadius, ...), or a column of nodes or links with "
-    "their numbers: \"node 4.Mass\", \"link 3..9.Angle\", \"link 2,5.k\", \"node all.Vxo\".";
+std::string modelDetails() {
+    return "The scene has the size the file names. NAME is a global setting as project files call it "
+           "(Gravity, "
+           "Friction, Viscosity, LeftWind, Bounce, TimeInterval, timer period, DeltaAngle, scene width, "
+           "scene "
+           "height, AnimationTime), one of the settings file (NodeRadius, ...), or a column of nodes or "
+           "links with "
+           "their numbers: \"node 4.Mass\", \"link 3..9.Angle\", \"link 2,5.k\", \"node all.Vxo\".";
+}
 
 std::span<const OptionRow> modelOptions() { return options; }
 std::span<const OptionRow> lengthOptions() { return lengths; }

@@ -11,7 +11,7 @@ namespace zentrik::cli {
 std::span<const OptionRow> modelOptions();
 
 // What a command says of them in its help.
-extern const char* const modelDetails;
+std::string modelDetails();
 
 // Throws a Failure when the file cannot be read or an option does not fit the model.
 Editor openModel(const std::string& file, const Arguments& arguments, Streams& streams);
