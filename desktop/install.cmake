@@ -9,6 +9,7 @@ install(DIRECTORY zoo sprites DESTINATION ${CMAKE_INSTALL_DATADIR}/zentrik
         FILES_MATCHING PATTERN "*.bot" PATTERN "*.svg" PATTERN "*.png")
 install(FILES docs/manual.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR} FILES_MATCHING PATTERN "*.png")
+install(DIRECTORY docs/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} USE_SOURCE_PERMISSIONS)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
 
 configure_file(${desktop_in}/zentrik.desktop.in ${desktop_out}/${ZENTRIK_ID}.desktop @ONLY)

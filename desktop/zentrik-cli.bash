@@ -10,6 +10,11 @@ _zentrik_cli() {
             mapfile -t COMPREPLY < <(compgen -W "on off" -- "$word")
             return
             ;;
+        --measure)
+            mapfile -t COMPREPLY < <(compgen -W "$("$program" sweep --help 2>/dev/null |
+                sed -n '/^WHAT is/,/^$/s/^\([a-z][a-z]*\):.*/\1/p')" -- "$word")
+            return
+            ;;
         --out | -o | --table)
             mapfile -t COMPREPLY < <(compgen -f -- "$word")
             return

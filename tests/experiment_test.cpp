@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QtTest/QTest>
 #include <algorithm>
+#include <cmath>
 #include <csignal>
 
 namespace zentrik {
@@ -187,6 +188,17 @@ TEST_F(ImproveCommand, FindsTheSameBetterOneEveryTime) {
     EXPECT_TRUE(lines[4].starts_with("link 8..11.Angle=")) << lines[4];
     const Said least = zentrikCli(improve("least.bot") + Words{"--runs=60", "--least"});
     EXPECT_LT(std::stod(distanceOf("least.bot")), std::stod(distanceOf("first.bot"))) << least.error;
+}
+
+// The walker that the manual shows, by the manual's figures.
+TEST_F(ImproveCommand, TheShippedExampleWalksThatFar) {
+    const auto distance = [](const std::string& path) {
+        const Said said = zentrikCli(
+            {"sweep", path, "--vary=Speed=10:10:1", "--time=30", "--measure=distance", "--walls=off"});
+        return said.status == 0 ? std::lround(std::stod(cellsOf(linesOf(said.out)[1])[2])) : 0;
+    };
+    EXPECT_EQ(distance(sample("walker")), 5636);
+    EXPECT_EQ(distance(ZENTRIK_SOURCE_DIR "/docs/examples/better_walker.bot"), 21787);
 }
 
 TEST_F(ImproveCommand, AnInterruptEndsItAndKeepsTheBest) {

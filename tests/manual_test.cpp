@@ -1,3 +1,5 @@
+#include "cli/commands.h"
+#include "measure/run_measures.h"
 #include "ui/command_toolbar.h"
 #include "ui/keys.h"
 #include "ui/menus.h"
@@ -82,6 +84,34 @@ TEST(Manual, ListsWhatThereIs) {
         const char* owner = row.owner == Owner::node ? "node" : row.owner == Owner::link ? "link" : "world";
         EXPECT_TRUE(properties.contains("\n| " + name + " | " + owner + " | ")) << name.toStdString();
     }
+}
+
+// The companion program's commands and options, in the manual as in its own help.
+TEST(Manual, ListsWhatTheCompanionProgramTakes) {
+    QFile file(":/docs/manual.md"), page(ZENTRIK_SOURCE_DIR "/desktop/zentrik-cli.1.in");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly) && page.open(QIODevice::ReadOnly));
+    const QString manual =
+        QString::fromUtf8(file.readAll()).section("## Without a window", 1).section("\n## ", 0, 0);
+    const QString manPage = QString::fromUtf8(page.readAll());
+    QSet<QString> rows;
+    for (const cli::Command* command : cli::commands()) {
+        rows.insert(QString("| `%1 %2` | %3 |").arg(command->name, command->operands, command->summary));
+        EXPECT_TRUE(manPage.contains(QString("\n.It Cm %1").arg(command->name))) << command->name;
+        for (const auto& group : command->options)
+            for (const cli::OptionRow& row : group) {
+                const QString letter = row.letter ? QString("`-%1` or ").arg(row.letter) : "";
+                const QString value = row.value ? QString("=%1").arg(row.value).replace('|', "\\|") : "";
+                rows.insert(QString("| %1`--%2%3` | %4 |").arg(letter, row.name, value, row.text));
+                EXPECT_TRUE(manPage.contains(QString("Fl -%1").arg(row.name))) << row.name;
+            }
+    }
+    for (const Measure& measure : measures())
+        rows.insert(QString("| %1 | %2 |").arg(measure.name, measure.meaning));
+    for (const QString& row : rows) EXPECT_TRUE(manual.contains("\n" + row + "\n")) << row.toStdString();
+    EXPECT_EQ(manual.count("\n| ") - manual.count("\n| Command | What") -
+                  manual.count("\n| Option | Effect |") - manual.count("\n| Measure | What"),
+              rows.size())
+        << "something that is gone is listed still";
 }
 
 }  // namespace

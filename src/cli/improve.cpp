@@ -59,7 +59,7 @@ public:
         start_ = tryOut({});
         worth_ = start_;
         // Three quarters to look everywhere, the rest to climb from the best place that was found.
-        search(nlopt::GN_ESCH, runs_ * 3 / 4);
+        search(nlopt::GN_CRS2_LM, runs_ * 3 / 4);
         search(nlopt::LN_SBPLX, runs_);
         if (failure_) std::rethrow_exception(failure_);
     }
