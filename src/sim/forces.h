@@ -32,10 +32,18 @@ struct AnimatorClock {
 };
 AnimatorClock animatorClock(const Editor& ed);
 
+// Factor by which an animator stretches its link's rest length; it starts once the clock's phase has
+// passed its own.
+[[gnu::noinline]] float animatorFactor(const Link& link, const AnimatorClock& clock);
+
 // The length at which a link is at rest then, twips.
-double restLength(const Link& link, const AnimatorClock& clock);
+inline double restLength(const Link& link, const AnimatorClock& clock) {
+    return link.Animator ? wide(animatorFactor(link, clock)) * link.RestLength : wide(link.RestLength);
+}
 // With which a link of this length pulls its ends together; below 0 it pushes them apart.
-float springForce(const Link& link, float length, double rest);
+inline float springForce(const Link& link, float length, double rest) {
+    return real((length - rest) * link.k * 100);
+}
 
 // Springs and animators of all links, in index order; measures every link's CurrentLength. Appends the
 // used barrier links with both ends to barriers. placesAreSmall: the differences of all coordinates are

@@ -8,7 +8,7 @@ namespace zentrik {
 namespace {
 
 void alternate(NodeRun::Column<double>& column, double x, double y) {
-    for (std::size_t k = 0; k < column.size(); ++k) column[k] = k % 2 == 0 ? x : y;
+    for (std::size_t k = 0; k < column.size(); k += 2) store(&column[k], Double2{x, y});
 }
 
 }  // namespace

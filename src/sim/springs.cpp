@@ -7,29 +7,15 @@
 
 namespace zentrik {
 
-namespace {
-
-// Factor by which an animator stretches its link's rest length; it starts once the clock's phase has
-// passed its own.
-[[gnu::noinline]] float animatorFactor(const Link& link, const AnimatorClock& clock) {
-    const double angle = link.Angle * degreesToRadians;
-    if (!clock.running || !(real(angle) < clock.reached)) return 1;
-    return real(link.Force * std::sin(clock.phase - angle) + 1);
-}
-
-}  // namespace
-
 AnimatorClock animatorClock(const Editor& ed) {
     const double phase = wide(ed.DeltaAngle) * ed.AnimationTime;
     return {ed.buttons.animation, phase, std::fabs(real(phase))};
 }
 
-double restLength(const Link& link, const AnimatorClock& clock) {
-    return link.Animator ? wide(animatorFactor(link, clock)) * link.RestLength : wide(link.RestLength);
-}
-
-float springForce(const Link& link, float length, double rest) {
-    return real((length - rest) * link.k * 100);
+float animatorFactor(const Link& link, const AnimatorClock& clock) {
+    const double angle = link.Angle * degreesToRadians;
+    if (!clock.running || !(real(angle) < clock.reached)) return 1;
+    return real(link.Force * std::sin(clock.phase - angle) + 1);
 }
 
 void applySprings(Editor& ed, ForcePoints& points, bool placesAreSmall, std::vector<std::int32_t>& barriers) {
