@@ -12,6 +12,8 @@
 #include <gtest/gtest.h>
 
 #include <QImageReader>
+#include <QProcess>
+#include <QStandardPaths>
 #include <filesystem>
 
 namespace zentrik {
@@ -91,6 +93,98 @@ TEST_F(Films, ATransparentGifIsClearWhereNothingIsDrawn) {
         reel.next();
     }
     EXPECT_FALSE(reel.next()) << "the film is shorter than planned";
+}
+
+// What the browser shows of a page: its first rows, as wide as its window.
+QImage shownBy(const std::string& browser, const std::string& page, const TemporaryFolder& folder,
+               QSize size) {
+    const QString shot = QString::fromStdString((folder.path / "shot.png").string());
+    const QStringList options{"--headless",
+                              "--no-sandbox",
+                              "--disable-gpu",
+                              "--disable-quic",
+                              "--no-first-run",
+                              "--disable-background-networking",
+                              "--disable-component-update",
+                              "--disable-sync",
+                              "--hide-scrollbars",
+                              "--user-data-dir=" + QString::fromStdString((folder.path / "browser").string()),
+                              QString("--window-size=%1,%2").arg(size.width()).arg(size.height() + 200),
+                              "--screenshot=" + shot,
+                              QString::fromStdString("file://" + page)};
+    QProcess process;
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(QString::fromStdString(browser), options);
+    EXPECT_TRUE(process.waitForFinished(120000));
+    return QImage(shot).copy(QRect(QPoint(), size));
+}
+
+TEST_F(Films, APageIsSmallAndShowsTheRunInABrowser) {
+    const std::string browser = QStandardPaths::findExecutable("chromium").toStdString();
+    if (browser.empty()) GTEST_SKIP() << "there is no browser";
+    Editor ed = walker();
+    ed.ProjectTitle = "A <b>walker</b> & \"more\" @FILM@";
+    ed.buttons.activeline = ed.buttons.numbers = ed.marks.mnuDisplayTitle = true;
+    ed.BackColor = 0xE0F0FF;
+    const FilmPlan plan = planOf(ed, 10, 25);
+    ASSERT_EQ(makeFilm(ed, format("html"), plan, path("walker.html"), goOn).problem, "");
+    EXPECT_LT(fs::file_size(path("walker.html")), 150'000U);
+    Reel reel(ed, plan);
+    for (int picture = 0; picture < 250; ++picture, reel.next()) {
+        if (picture != 0 && picture != 137) continue;
+        SCOPED_TRACE(picture);
+        const QImage scene = sceneImage(reel.subject(), plan.look);
+        const std::string page = path("walker.html") + "#t=" + std::to_string(picture / 25.0);
+        const Difference by = softDifference(shownBy(browser, page, folder_, scene.size()), scene);
+        EXPECT_LE(by.largest, 100);
+        EXPECT_LE(by.perMille, 30);
+    }
+}
+
+TEST_F(Films, VideosShowTheRun) {
+    if (QStandardPaths::findExecutable("ffmpeg").isEmpty()) GTEST_SKIP() << "there is no ffmpeg";
+    const Editor ed = walker();
+    const FilmPlan plan = planOf(ed, 2, 10);
+    for (const char* suffix : {"mp4", "webm"}) {
+        SCOPED_TRACE(suffix);
+        ASSERT_EQ(makeFilm(ed, format(suffix), plan, path(suffix), goOn).problem, "");
+        const QString pattern = QString::fromStdString(path(suffix)) + "-%d.png";
+        QProcess decoder;
+        decoder.start("ffmpeg", {"-nostdin", "-i", QString::fromStdString(path(suffix)), pattern});
+        ASSERT_TRUE(decoder.waitForFinished(60000));
+        Reel reel(ed, plan);
+        int number = 0;
+        do {
+            const QImage scene = sceneImage(reel.subject(), plan.look);
+            const QImage frame(QString(pattern).replace("%d", QString::number(++number)));
+            ASSERT_EQ(frame.height(), 208) << "even";
+            const Difference by = softDifference(frame.copy(scene.rect()), scene);
+            ASSERT_LE(by.perMille, 10) << number;
+        } while (reel.next());
+        EXPECT_EQ(number, 20);
+    }
+}
+
+TEST_F(Films, WithoutTheEncoderItsPackageIsNamed) {
+    const QByteArray programs = qgetenv("PATH");
+    qputenv("PATH", folder_.path.c_str());
+    const FilmResult result = makeFilm(walker(), format("mp4"), {10, 10, {}}, path("film.mp4"), goOn);
+    qputenv("PATH", programs);
+    EXPECT_NE(result.problem.find("package is called ffmpeg"), std::string::npos);
+    EXPECT_EQ(entriesIn(folder_.path), 0U);
+}
+
+TEST_F(Films, NumberedPicturesAreAFolderOfTheirOwn) {
+    const Editor ed = walker();
+    const FilmPlan plan = planOf(ed, 1, 10);
+    ASSERT_EQ(makeFilm(ed, format(""), plan, path("film"), goOn).problem, "");
+    EXPECT_EQ(entriesIn(folder_.path / "film"), 10U);
+    const QImage first(QString::fromStdString(path("film/0001.png")));
+    EXPECT_EQ(difference(first, sceneImage(Reel(ed, plan).subject(), {})).largest, 0);
+    EXPECT_EQ(makeFilm(ed, format(""), plan, path("film"), goOn).problem,
+              "There is something of that name already.");
+    EXPECT_EQ(entriesIn(folder_.path / "film"), 10U);
+    EXPECT_EQ(entriesIn(folder_.path), 1U);
 }
 
 // Chance and fireworks start alike, so that a film does not depend on who makes it, nor when.

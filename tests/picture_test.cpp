@@ -70,21 +70,13 @@ TEST(Pictures, APngIsThePaintedSceneAtItsScale) {
     EXPECT_EQ(clear.pixelColor(100, 100).alpha(), 255);  // node 1
 }
 
-// Softened, since places are whole pixels in the one and exact in the other.
-Difference softDifference(const QImage& a, const QImage& b, const QRect& part) {
-    const auto soft = [&](const QImage& image) {
-        return image.copy(part).scaled(part.size() / 3, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    };
-    return difference(soft(a), soft(b));
-}
-
 TEST(Pictures, AnSvgLooksLikeTheScene) {
     constexpr QRect walker(90, 50, 180, 135), all(0, 0, 952, 207);
     Editor ed = everything();
     const auto compare = [&](const QRect& part, double perMille) {
         const QImage scene = sceneImage(Subject(ed), {});
-        const Difference by =
-            softDifference(rendered(fileOf(ed, PictureFormat::svg), scene.size()), scene, part);
+        const Difference by = softDifference(
+            rendered(fileOf(ed, PictureFormat::svg), scene.size()).copy(part), scene.copy(part));
         EXPECT_LE(by.largest, 100);
         EXPECT_LE(by.perMille, perMille);
     };

@@ -27,4 +27,12 @@ inline Difference difference(const QImage& a, const QImage& b) {
     return found;
 }
 
+// Softened, where places are whole pixels in the one and exact in the other.
+inline Difference softDifference(const QImage& a, const QImage& b) {
+    const auto soft = [](const QImage& image) {
+        return image.scaled(image.size() / 3, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    };
+    return difference(soft(a), soft(b));
+}
+
 }  // namespace zentrik

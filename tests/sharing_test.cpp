@@ -42,8 +42,8 @@ protected:
     }
     std::string out(const char* name) const { return (folder_.path / "out" / name).string(); }
 
-    // Answers a dialog of fields.
-    void fill(std::map<const char*, int> fields) {
+    // Answers a dialog of fields, in this order.
+    void fill(std::vector<std::pair<const char*, int>> fields) {
         script_.emplace_back([fields](QWidget& box) {
             for (const auto& [name, value] : fields) {
                 auto* field = box.findChild<QWidget*>(name);
@@ -158,6 +158,19 @@ TEST_F(SharingTest, RecordsBesideARunningWindow) {
     recording()->openFolder = [&](const QString& folder) { opened = folder; };
     QTest::mouseClick(recording()->findChild<QPushButton*>("openFolder"), Qt::LeftButton);
     EXPECT_EQ(opened.toStdString(), (folder_.path / "out").string());
+}
+
+TEST_F(SharingTest, SavesTheTableOfTheSelectedNode) {
+    click({100, 100});
+    fill({{"unit", 1}, {"length", 30}});
+    name(out("run"));
+    share("shareTable");
+    awaitFilm();
+    const std::string table = contentOf(out("run.csv"));
+    EXPECT_EQ(std::count(table.begin(), table.end(), '\n'), 32);
+    EXPECT_NE(table.find("node 1 x"), std::string::npos) << table.substr(0, 200);
+    EXPECT_EQ(table.find("node 2 x"), std::string::npos);
+    EXPECT_EQ(ed().Cycles, 0) << "the window's model stays where it is";
 }
 
 TEST_F(SharingTest, ACancelledFilmAndAClosedWindowLeaveNothing) {

@@ -21,6 +21,7 @@ QString askFileName(DesktopHost& host, QWidget& window, const FileKind& kind, co
         QString file = box.selectedFiles().first();
         if (!file.endsWith(ending, Qt::CaseInsensitive)) file += ending;
         const QFileInfo info(file);
+        if (ending.isEmpty()) return file;  // a folder, which nothing replaces
         const QString question = info.fileName() + " exists already. Replace it?";
         if (!info.exists() || host.confirm(question.toStdString(), "Zentrik")) return file;
     }

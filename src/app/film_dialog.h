@@ -1,22 +1,22 @@
 #pragma once
+#include "app/length_field.h"
 #include "app/look_fields.h"
 #include "export/film.h"
 
 #include <QDialog>
 
 class QComboBox;
-class QDoubleSpinBox;
 class QLabel;
 
 namespace zentrik {
 
 struct FilmChoice {
     int format = 0;  // place among the formats
-    double length = 10;
-    bool inSteps = false;  // else seconds of model time
+    RunLength length;
     int rate = 20;
     Look look;
 };
+FilmPlan planOf(const Editor& ed, const FilmChoice& choice);
 
 // Asks what kind of film it is to be.
 class FilmDialog : public QDialog {
@@ -28,18 +28,14 @@ public:
 private:
     const Editor& ed_;
     QFormLayout* const form_;
+    LengthField length_;
     QComboBox* const format_;
-    QDoubleSpinBox* const length_;
-    QComboBox* const unit_;
     QSpinBox* const rate_;
     LookFields fields_;
     QLabel* const summary_;
 
     void chooseFormat();
-    void chooseUnit();
     void tell();
 };
-
-FilmPlan planOf(const Editor& ed, const FilmChoice& choice);
 
 }  // namespace zentrik

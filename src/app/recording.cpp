@@ -24,8 +24,7 @@ QString timeText(double seconds) {
 
 }  // namespace
 
-Recording::Recording(const Editor& ed, const FilmFormat& format, const FilmPlan& plan, const QString& path,
-                     QWidget* parent)
+Recording::Recording(const QString& title, const QString& path, Job job, QWidget* parent)
     : QDialog(parent),
       path_(path),
       text_(new QLabel(this)),
@@ -33,7 +32,7 @@ Recording::Recording(const Editor& ed, const FilmFormat& format, const FilmPlan&
       folder_(new QPushButton("Open &Folder", this)),
       end_(new QPushButton("Cancel", this)) {
     setObjectName("Recording");
-    setWindowTitle("Record Animation");
+    setWindowTitle(title);
     folder_->setObjectName("openFolder");
     end_->setObjectName("cancel");
     text_->setTextFormat(Qt::PlainText);
@@ -50,8 +49,8 @@ Recording::Recording(const Editor& ed, const FilmFormat& format, const FilmPlan&
     connect(row, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(folder_, &QPushButton::clicked, this, [this] { openFolder(QFileInfo(path_).absolutePath()); });
     connect(&look_, &QTimer::timeout, this, &Recording::showProgress);
-    thread_.reset(QThread::create([this, ed, &format, plan, file = path.toStdString()] {
-        result_ = makeFilm(ed, format, plan, file, [this](double done) {
+    thread_.reset(QThread::create([this, job = std::move(job)] {
+        result_ = job([this](double done) {
             done_ = done;
             return !cancelled_;
         });

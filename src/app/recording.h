@@ -14,12 +14,12 @@ class QThread;
 
 namespace zentrik {
 
-// Makes a film of a copy of the model in a thread of its own, and shows how far it is beside the window,
-// which stays usable. Ends with the file's name and size, or with what went wrong. Closing it cancels.
+// Makes a film or a table in a thread of its own, and shows how far it is beside the window, which stays
+// usable. Ends with the file's name and size, or with what went wrong. Closing it cancels.
 class Recording : public QDialog {
 public:
-    Recording(const Editor& ed, const FilmFormat& format, const FilmPlan& plan, const QString& path,
-              QWidget* parent);
+    using Job = std::function<FilmResult(const FilmProgress&)>;
+    Recording(const QString& title, const QString& path, Job job, QWidget* parent);
     ~Recording() override;
 
     std::function<void(const QString& folder)> openFolder;

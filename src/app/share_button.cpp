@@ -21,6 +21,8 @@ constexpr ShareRow rows[] = {
     {Share::savePicture, "sharePicture", "&Save Picture...", "Saves the scene as PNG, SVG or PDF"},
     {Share::recordAnimation, "shareFilm", "&Record Animation...",
      "Makes a film of the run that begins here: a GIF, a page for browsers, a video or numbered pictures"},
+    {Share::saveTable, "shareTable", "Save &Table...",
+     "Writes the run that begins here as a table, a row a step"},
 };
 
 }  // namespace
@@ -31,7 +33,7 @@ ShareButton::ShareButton(QWidget* parent) : QToolButton(parent), menu_(this) {
     setFocusPolicy(Qt::TabFocus);
     setIconSize({16, 16});
     setFixedWidth(26);
-    setToolTip("Share pictures and films of the scene");
+    setToolTip("Share pictures, films and tables of the scene");
     setStatusTip(toolTip());
     setAccessibleName("Share");
     menu_.setObjectName("shareMenu");

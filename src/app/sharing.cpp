@@ -2,6 +2,7 @@
 
 #include "app/desktop_host.h"
 #include "app/file_name_box.h"
+#include "export/table.h"
 #include "model/store.h"
 #include "project/write_file.h"
 #include "project/zoo.h"
@@ -40,6 +41,8 @@ void Sharing::begin(Share what) {
             return savePicture();
         case Share::recordAnimation:
             return recordAnimation();
+        case Share::saveTable:
+            return saveTable();
     }
 }
 
@@ -91,23 +94,48 @@ void Sharing::savePicture() {
                      BoxIcon::exclamation);
 }
 
+// One thing at a time.
+bool Sharing::isBusy() {
+    if (!recording_ || !recording_->isRunning()) return false;
+    recording_->raise();
+    recording_->activateWindow();
+    return true;
+}
+
+void Sharing::work(const char* title, const QString& file, Recording::Job job) {
+    cancelRecording();  // one that has ended
+    recording_ = new Recording(title, file, std::move(job), &window_);
+    recording_->openFolder = [this](const QString& folder) {
+        host_.openAddress(QUrl::fromLocalFile(folder).toEncoded().toStdString());
+    };
+    recording_->show();
+}
+
 void Sharing::recordAnimation() {
-    if (recording_ && recording_->isRunning()) {
-        recording_->raise();
-        return recording_->activateWindow();
-    }
+    if (isBusy()) return;
     FilmDialog dialog(ed_, film_, &window_);
     if (host_.show(dialog) != QDialog::Accepted) return;
     film_ = dialog.choice();
     const FilmFormat& format = filmFormats()[static_cast<std::size_t>(film_.format)];
     const QString file = askName(format.name, format.suffix);
     if (file.isEmpty()) return;
-    cancelRecording();  // one that has ended
-    recording_ = new Recording(ed_, format, planOf(ed_, film_), file, &window_);
-    recording_->openFolder = [this](const QString& folder) {
-        host_.openAddress(QUrl::fromLocalFile(folder).toEncoded().toStdString());
-    };
-    recording_->show();
+    work("Record Animation", file,
+         [ed = ed_, &format, plan = planOf(ed_, film_), path = file.toStdString()](const FilmProgress& goOn) {
+             return makeFilm(ed, format, plan, path, goOn);
+         });
+}
+
+void Sharing::saveTable() {
+    if (isBusy()) return;
+    TableDialog dialog(ed_, table_, &window_);
+    if (host_.show(dialog) != QDialog::Accepted) return;
+    table_ = dialog.choice();
+    const QString file = askName("CSV table", "csv");
+    if (file.isEmpty()) return;
+    work("Save Table", file,
+         [ed = ed_, steps = stepsOf(ed_, table_), path = file.toStdString()](const FilmProgress& goOn) {
+             return makeTable(ed, steps, path, goOn);
+         });
 }
 
 }  // namespace zentrik

@@ -3,6 +3,7 @@
 #include "app/picture_dialog.h"
 #include "app/recording.h"
 #include "app/share_button.h"
+#include "app/table_dialog.h"
 
 #include <QPointer>
 
@@ -27,11 +28,15 @@ private:
     QWidget& window_;
     PictureChoice picture_;  // the last ones
     FilmChoice film_;
+    RunLength table_;
     QPointer<Recording> recording_;
 
     void copyPicture();
     void savePicture();
     void recordAnimation();
+    void saveTable();
+    bool isBusy();
+    void work(const char* title, const QString& file, Recording::Job job);
     QString askName(const QString& kind, const QString& suffix);
     void say(const QString& text);
 };

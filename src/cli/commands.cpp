@@ -10,7 +10,7 @@ namespace zentrik::cli {
 
 namespace {
 
-constexpr const Command* table[] = {&checkCommand, &infoCommand, &runCommand};
+constexpr const Command* table[] = {&checkCommand, &infoCommand, &runCommand, &exportCommand};
 
 const Command* find(const std::string& name) {
     for (const Command* command : table)

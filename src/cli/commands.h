@@ -7,7 +7,7 @@
 
 namespace zentrik::cli {
 
-extern const Command checkCommand, infoCommand, runCommand;
+extern const Command checkCommand, infoCommand, runCommand, exportCommand;
 
 std::span<const Command* const> commands();
 

@@ -1,6 +1,9 @@
 #include "export/film.h"
 
 #include "export/gif.h"
+#include "export/numbered.h"
+#include "export/page.h"
+#include "export/video.h"
 
 namespace zentrik {
 
@@ -13,6 +16,10 @@ std::unique_ptr<FilmWriter> make(const std::string& path, const Editor& ed, cons
 
 constexpr FilmFormat formats[] = {
     {"GIF", "gif", 20, 50, true, make<GifWriter>},
+    {"Web page", "html", 25, 100, true, make<PageWriter>},
+    {"MP4 video", "mp4", 30, 100, false, make<Mp4Writer>},
+    {"WebM video", "webm", 30, 100, true, make<WebmWriter>},
+    {"Folder of numbered PNG pictures", "", 25, 100, true, make<NumberedWriter>},
 };
 
 }  // namespace

@@ -40,10 +40,13 @@ struct FilmResult {
     bool cancelled = false;
 };
 
+// Of a film or table that nobody gave a length, in seconds of the model's time.
+inline constexpr double usualFilm = 10;
+
 // Told how much of the work is done, 0 to 1; false ends it. Called by the thread that makes the film.
 using FilmProgress = std::function<bool(double done)>;
 
-// Makes the film, wholly or not at all, and replaces what is at the path. Any thread may call it.
+// Makes the film, wholly or not at all, and replaces a file at the path. Any thread may call it.
 FilmResult makeFilm(const Editor& ed, const FilmFormat& format, const FilmPlan& plan, const std::string& path,
                     const FilmProgress& goOn);
 

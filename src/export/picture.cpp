@@ -22,13 +22,6 @@ constexpr int largestScene = 1 << 20;
 
 Ground groundOf(const Look& look) { return look.transparent ? Ground::clear : Ground::painted; }
 
-// A title as a file may hold it: of any length and with any characters.
-QString titleOf(const Editor& ed) {
-    QString title = QString::fromStdString(ed.ProjectTitle).left(1000);
-    title.removeIf([](QChar c) { return c < u' ' || c.isNonCharacter() || c.isSurrogate(); });
-    return title;
-}
-
 // A sprite that stands among shapes is to be sharp when they are enlarged.
 constexpr double spritesAmongShapes = 4;
 
@@ -67,6 +60,12 @@ std::string pdfBytes(Subject& subject, const Look& look) {
 }
 
 }  // namespace
+
+QString titleOf(const Editor& ed) {
+    QString title = QString::fromStdString(ed.ProjectTitle).left(1000);
+    title.removeIf([](QChar c) { return c < u' ' || c.isNonCharacter() || c.isSurrogate(); });
+    return title;
+}
 
 QSize sceneSize(const Editor& ed) {
     const auto extent = [](std::int32_t twips) { return std::clamp(pixels(twips), 1, largestScene); };

@@ -17,6 +17,9 @@ inline constexpr int largestScale = 8;
 // As the window shows it, in device-independent pixels; at least 1.
 QSize sceneSize(const Editor& ed);
 
+// The project's title as a file may hold it: not too long, and without control characters.
+QString titleOf(const Editor& ed);
+
 // Null where it would be larger than 32767 pixels a side, or than memory holds.
 QImage sceneImage(const Subject& subject, const Look& look);
 

@@ -1,7 +1,7 @@
 #include "export/reel.h"
 
 #include "effects/fireworks.h"
-#include "sim/run.h"
+#include "measure/model_run.h"
 #include "sim/step.h"
 
 #include <algorithm>
@@ -37,35 +37,32 @@ Reel::Reel(const Editor& from, const FilmPlan& plan)
     : subject_(from), plan_(plan), pictures_(pictureCount(from, plan)) {
     Editor& ed = subject_.ed;
     subject_.sprites.setRatio(plan.look.scale);
+    if (!ed.buttons.start) beginRun(ed);
     ed.chance.tie(0);
     ed.chance.reseed();
-    if (ed.buttons.start) return;
-    ed.buttons.start = true;
-    ed.InitialVelocityPending = true;
-    StartStop(ed);
 }
 
 bool Reel::next() {
     if (picture_ + 1 >= pictures_) return false;
     ++picture_;
     for (const std::int64_t shown = stepOf(subject_.ed, plan_, picture_); step_ < shown;) {
-        step();
-        if (!subject_.ed.Timer1.enabled) {
-            stopped_ = subject_.ed.panels[4];
+        if (!step()) {
+            stopped_ = whyStopped(subject_.ed);
             return false;
         }
     }
     return true;
 }
 
-void Reel::step() {
+bool Reel::step() {
     Editor& ed = subject_.ed;
     ++step_;
-    Timer1_Timer(ed);
+    if (!stepRun(ed)) return false;
     fireworksDue_ += ed.Timer1.interval;
-    if (!ed.timerFireWorks.enabled || fireworksDue_ < ed.timerFireWorks.interval) return;
+    if (!ed.timerFireWorks.enabled || fireworksDue_ < ed.timerFireWorks.interval) return true;
     fireworksDue_ = 0;
     timerFireWorks_Timer(ed);
+    return true;
 }
 
 }  // namespace zentrik

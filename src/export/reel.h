@@ -39,7 +39,7 @@ private:
     std::int64_t fireworksDue_ = 0;  // milliseconds since the last ones
     std::string stopped_;
 
-    void step();
+    bool step();
 };
 
 }  // namespace zentrik
