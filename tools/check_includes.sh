@@ -22,12 +22,12 @@ allow model none model
 allow sim none model sim
 allow effects none model effects
 allow project none model project
-allow display 'Q(Painter|PainterPath|Image|ImageReader|Pixmap|Font|FontMetricsF?|Color|PointF?|LineF?|RectF?|Size|SizeF|Pen|Brush|String|StringList|Hash|Cache|List|SvgRenderer|Buffer|ByteArray|Dir|File|FileInfo|Transform|StaticText|Vector|TextStream|RawFont|GlyphRun|TextLayout|Polygon|PolygonF)' model display
+allow display 'Q(Painter|PainterPath|PaintEngine|Image|ImageReader|Pixmap|Font|FontMetricsF?|Color|PointF?|LineF?|RectF?|Size|SizeF|Pen|Brush|String|StringList|Hash|Cache|List|SvgRenderer|Buffer|ByteArray|Dir|File|FileInfo|Transform|StaticText|Vector|TextStream|RawFont|GlyphRun|TextLayout|Polygon|PolygonF)' model display
 allow edit none model sim effects edit
 allow history none model sim history
 allow measure none model sim measure
 allow ui none model sim effects project edit history ui
-allow export 'Q.*' model sim measure display export
+allow export 'Q.*' model sim effects project measure display export
 allow cli 'Q.*' model sim effects project display edit history measure export cli
 allow app '.*' model sim effects project display edit history measure export ui app
 

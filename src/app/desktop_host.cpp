@@ -62,20 +62,19 @@ void prepare(QMessageBox& box) {
         grid->addItem(new QSpacerItem(widthFor(box), 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
-// Runs a dialog while `open` counts it.
-int run(QDialog& dialog, int& open) {
-    ++open;
-    const int answer = dialog.exec();
-    --open;
-    return answer;
-}
-
 }  // namespace
 
 DesktopHost::DesktopHost(QWidget& window) : window_(window) {
     fetcher_.fetched = [this](const QString& message, const QString& problem) {
         if (messageFetched) messageFetched(message, problem);
     };
+}
+
+int DesktopHost::show(QDialog& dialog) {
+    ++open_;
+    const int answer = dialog.exec();
+    --open_;
+    return answer;
 }
 
 std::string DesktopHost::inputBox(const std::string& prompt, const std::string& title,
@@ -93,20 +92,20 @@ std::string DesktopHost::ask(InputBox::Kind kind, const std::string& prompt, con
     InputBox box(kind, text(prompt), text(preset), &window_);
     box.setWindowTitle(caption(title));
     box.resize(std::max(380, widthFor(box)), box.sizeHint().height());
-    return run(box, open_) == QDialog::Accepted ? box.answer().toStdString() : std::string();
+    return show(box) == QDialog::Accepted ? box.answer().toStdString() : std::string();
 }
 
 void DesktopHost::messageBox(const std::string& message, const std::string& title, BoxIcon icon) {
     QMessageBox box(iconOf(icon), caption(title), text(message), QMessageBox::Ok, &window_);
     prepare(box);
-    run(box, open_);
+    show(box);
 }
 
 bool DesktopHost::confirm(const std::string& question, const std::string& title) {
     QMessageBox box(QMessageBox::Information, caption(title), text(question),
                     QMessageBox::Ok | QMessageBox::Cancel, &window_);
     prepare(box);
-    return run(box, open_) == QMessageBox::Ok;
+    return show(box) == QMessageBox::Ok;
 }
 
 std::size_t DesktopHost::choose(const std::string& question, const std::string& title,
@@ -118,20 +117,20 @@ std::size_t DesktopHost::choose(const std::string& question, const std::string& 
     const QList<QAbstractButton*> buttons = box.buttons();
     box.setDefaultButton(static_cast<QPushButton*>(buttons.first()));
     box.setEscapeButton(buttons.at(static_cast<qsizetype>(otherwise)));
-    run(box, open_);
+    show(box);
     const qsizetype chosen = buttons.indexOf(box.clickedButton());
     return chosen < 0 ? otherwise : static_cast<std::size_t>(chosen);
 }
 
 std::int32_t DesktopHost::chooseVersion(const std::string& project, const std::vector<std::string>& files) {
     VersionsDialog dialog(project, files, &window_);
-    return run(dialog, open_) == QDialog::Accepted ? dialog.chosen() : none;
+    return show(dialog) == QDialog::Accepted ? dialog.chosen() : none;
 }
 
 std::int32_t DesktopHost::SelectColor() {
     QColorDialog dialog(&window_);
     dialog.setObjectName("ColorBox");
-    if (run(dialog, open_) != QDialog::Accepted) return none;
+    if (show(dialog) != QDialog::Accepted) return none;
     const QColor color = dialog.selectedColor();
     return color.red() + 256 * color.green() + 65536 * color.blue();
 }

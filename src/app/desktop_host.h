@@ -21,6 +21,8 @@ public:
 
     // While a box is open its event loop delivers ticks and clicks that must wait.
     bool isAsking() const { return open_ > 0; }
+    // Runs a dialog as one of the window's boxes; gives its result.
+    int show(QDialog& dialog);
     void closeHelp();  // about box and manual
 
     std::string inputBox(const std::string& prompt, const std::string& title,

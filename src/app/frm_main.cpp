@@ -42,6 +42,8 @@ frmMain::frmMain(const QString& folder)
       client_(new QWidget(this)),
       bars_(*this),
       undo_(new UndoButtons(this)),
+      share_(new ShareButton(this)),
+      sharing_(ed_, host_, *this),
       picS_(new SceneView(ed_, client_)),
       picPhase_(new PhaseView(ed_, client_)),
       Frame1_(new SpriteBrowser(client_)),
@@ -53,7 +55,9 @@ frmMain::frmMain(const QString& folder)
     buildClient();
     connectBars();
     connectLists();
+    fillCorner();
     connectUndo();
+    connectSharing();
     connectTime();
     connectViews();
     connectTimers();
@@ -117,6 +121,7 @@ void frmMain::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
         bars_.followPalette();
         undo_->drawIcons();
+        share_->drawIcon();
         showRecord();
     }
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {

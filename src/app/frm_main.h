@@ -3,6 +3,7 @@
 #include "app/path_window.h"
 #include "app/recovery_keeper.h"
 #include "app/settings_store.h"
+#include "app/sharing.h"
 #include "app/sprite_browser.h"
 #include "app/status_panels.h"
 #include "app/toolbars.h"
@@ -77,6 +78,8 @@ private:
     QWidget* const client_;
     Toolbars bars_;
     UndoButtons* const undo_;
+    ShareButton* const share_;
+    Sharing sharing_;
     SceneView* const picS_;
     PhaseView* const picPhase_;
     SpriteBrowser* const Frame1_;
@@ -87,7 +90,9 @@ private:
     void buildClient();
     void connectBars();
     void connectLists();
+    void fillCorner();
     void connectUndo();
+    void connectSharing();
     void connectTime();
     void connectViews();
     void connectTimers();

@@ -15,6 +15,7 @@
 #include "ui/undo.h"
 
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QShortcut>
@@ -108,8 +109,24 @@ void frmMain::connectLists() {
     };
 }
 
+void frmMain::fillCorner() {
+    auto* corner = new QWidget(this);
+    auto* row = new QHBoxLayout(corner);
+    row->setContentsMargins(0, 0, 4, 0);
+    row->setSpacing(0);
+    row->addWidget(undo_);
+    row->addWidget(share_);
+    menuBar()->setCornerWidget(corner);
+}
+
+void frmMain::connectSharing() {
+    share_->chosen = [this](Share what) { sharing_.begin(what); };
+    sharing_.change = [this](const std::function<void(Editor&)>& how) {
+        follow([&](Editor& ed, Host&) { how(ed); });
+    };
+}
+
 void frmMain::connectUndo() {
-    menuBar()->setCornerWidget(undo_);
     const auto take = [this](void (*way)(Editor&, History&)) {
         follow([&](Editor& ed, Host&) { way(ed, history_); });
         forgetRun(timeline_);

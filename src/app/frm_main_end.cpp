@@ -34,6 +34,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     ed_.Timer1.enabled = false;
     showTimers();
     host_.closeHelp();
+    sharing_.cancelRecording();
     frmPath_->hide();
     event->accept();
 }

@@ -103,6 +103,8 @@ void frmMain::pressKey(const KeyRow& row) {
             return perform("Object pasted", [this](Editor& ed, Host&) {
                 pasteObject(ed, QApplication::clipboard()->text().toStdString(), picS_->pointerPlace());
             });
+        case KeyAct::copyPicture:
+            return sharing_.begin(Share::copyPicture);
         case KeyAct::pointer:
         case KeyAct::presets:
             return;  // the scene's and the buttons' own

@@ -42,7 +42,7 @@ QString newestOf(const std::deque<Step>& steps) {
 UndoButtons::UndoButtons(QWidget* parent)
     : QWidget(parent), undoButton_(makeButton("undo", *this)), redoButton_(makeButton("redo", *this)) {
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 4, 0);
+    row->setContentsMargins({});
     row->setSpacing(0);
     row->addWidget(undoButton_);
     row->addWidget(redoButton_);

@@ -11,7 +11,7 @@ namespace zentrik::cli {
 
 namespace {
 
-constexpr const Command* table[] = {&checkCommand, &infoCommand,  &runCommand,
+constexpr const Command* table[] = {&checkCommand, &infoCommand,  &runCommand,    &exportCommand,
                                     &sweepCommand, &mergeCommand, &improveCommand};
 
 const Command* find(const std::string& name) {

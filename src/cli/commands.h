@@ -7,7 +7,8 @@
 
 namespace zentrik::cli {
 
-extern const Command checkCommand, infoCommand, runCommand, sweepCommand, mergeCommand, improveCommand;
+extern const Command checkCommand, infoCommand, runCommand, exportCommand, sweepCommand, mergeCommand,
+    improveCommand;
 
 std::span<const Command* const> commands();
 

@@ -3,6 +3,7 @@
 #include "model/numbers.h"
 #include "model/units.h"
 
+#include <QPaintEngine>
 #include <algorithm>
 
 namespace zentrik {
@@ -24,11 +25,14 @@ QColor colorOf(std::int32_t color) {
     return QColor(part(0), part(8), part(16));
 }
 
+bool keepsShapes(const QPainter& painter) { return painter.paintEngine()->type() != QPaintEngine::Raster; }
+
 Canvas::Canvas(QPainter& target, std::int32_t width, std::int32_t height)
     : painter(target),
       ratio(target.device()->devicePixelRatioF()),
       frame(frameOf(width, height, ratio)),
       thinWidth(std::max(1, static_cast<int>(std::lround(ratio)))),
+      shapes(keepsShapes(target)),
       unit(ratio / twipsPerPixel) {
     painter.save();
     painter.scale(1 / ratio, 1 / ratio);

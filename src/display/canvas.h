@@ -17,6 +17,10 @@ namespace zentrik {
 // From the model's colours; bits above the 24 are dropped.
 QColor colorOf(std::int32_t color);
 
+// Whether a painter's device keeps shapes, as a vector file does, instead of pixels. What is drawn on one is
+// neither rounded to pixels nor stamped from pictures.
+bool keepsShapes(const QPainter& painter);
+
 // While it lives, the painter's unit is one device pixel and its clip the area. The full-frame clip is
 // what puts QPainter's lines on their fast path.
 class Canvas {
@@ -31,18 +35,21 @@ public:
     const double ratio;   // device pixels to a device-independent one
     const QRect frame;    // device pixels
     const int thinWidth;  // of a line one device-independent pixel wide, in device pixels
+    const bool shapes;    // are kept by the device
 
     double pixels(double twips) const { return twips * unit; }
     // Width in device pixels of a line `width` device-independent pixels wide; at least 1.
     int lineWidth(double width) const { return std::max(1, static_cast<int>(std::lround(width * ratio))); }
     // The place in device pixels through which thin lines run sharp: the middle of a device pixel when
-    // they are an odd number of device pixels wide, the border between two when even.
+    // they are an odd number of device pixels wide, the border between two when even. Where shapes are kept,
+    // the place itself, half a pixel in as on a screen.
     QPointF place(double x, double y) const { return {sharp(x), sharp(y)}; }
 
 private:
     const double unit;  // device pixels a twip
     double sharp(double twips) const {
-        return std::floor(twips * unit + 0.5) + (thinWidth % 2 == 1 ? 0.5 : 0);
+        const double middle = thinWidth % 2 == 1 ? 0.5 : 0;
+        return (shapes ? twips * unit : std::floor(twips * unit + 0.5)) + middle;
     }
 };
 

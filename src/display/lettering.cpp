@@ -45,14 +45,18 @@ QRect inked(const QImage& image) {
 
 constexpr double haloReach = 0.14;  // of the font's size
 
-void strokeHalo(QPainter& painter, QPointF baseline, const QFont& font, const QString& text, QColor paper) {
-    QPainterPath outline;
-    outline.addText(baseline, font, text);
+void strokeHalo(QPainter& painter, const QPainterPath& outline, const QFont& font, QColor paper) {
     paper.setAlpha(220);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.strokePath(
         outline, QPen(paper, 2 * haloReach * font.pixelSize(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+QPainterPath outlineOf(QPointF baseline, const QFont& font, const QString& text) {
+    QPainterPath outline;
+    outline.addText(baseline, font, text);
+    return outline;
 }
 
 }  // namespace
@@ -87,7 +91,10 @@ std::int32_t legibleInk(std::int32_t ink, std::int32_t paper) {
 
 void drawHaloText(QPainter& painter, QPointF baseline, const QFont& font, const QString& text, QColor ink,
                   QColor paper) {
-    strokeHalo(painter, baseline, font, text, paper);
+    const QPainterPath outline = outlineOf(baseline, font, text);
+    strokeHalo(painter, outline, font, paper);
+    // Shapes read alike whatever fonts there are where they are shown.
+    if (keepsShapes(painter)) return painter.fillPath(outline, ink);
     painter.setFont(font);
     painter.setPen(ink);
     painter.drawText(baseline, text);
@@ -108,6 +115,7 @@ const Lettering::Letter& Lettering::letter(char c) {
     made.made = true;
     made.advance = metrics.horizontalAdvance(text);
     if (c == ' ') return made;
+    made.outline = outlineOf({0, ascent_}, font_, text);
 
     const QPointF baseline(0, ascent_);
     const auto picture = [&](double margin, auto draw) {
@@ -122,8 +130,9 @@ const Lettering::Letter& Lettering::letter(char c) {
         draw(painter);
         return result;
     };
-    made.halo = picture(haloReach * font_.pixelSize() + 1,
-                        [&](QPainter& painter) { strokeHalo(painter, baseline, font_, text, paper_); });
+    made.halo = picture(haloReach * font_.pixelSize() + 1, [&](QPainter& painter) {
+        strokeHalo(painter, outlineOf(baseline, font_, text), font_, paper_);
+    });
     made.ink = picture(1, [&](QPainter& painter) {
         painter.setFont(font_);
         painter.setPen(ink_);
@@ -133,10 +142,26 @@ const Lettering::Letter& Lettering::letter(char c) {
 }
 
 void Lettering::print(QPainter& painter, QPointF topLeft, std::string_view text) {
-    if (text.find_first_not_of(" 0123456789") == std::string_view::npos)
+    if (keepsShapes(painter))
+        printShapes(painter, topLeft, text);
+    else if (text.find_first_not_of(" 0123456789") == std::string_view::npos)
         printNumber(painter, topLeft, text);
     else
         printLetters(painter, topLeft, text);
+}
+
+void Lettering::printShapes(QPainter& painter, QPointF topLeft, std::string_view text) {
+    for (const bool halo : {true, false}) {
+        painter.save();
+        painter.translate(topLeft);
+        for (const char c : text) {
+            const Letter& made = letter(c);
+            if (halo && !made.outline.isEmpty()) strokeHalo(painter, made.outline, font_, paper_);
+            if (!halo && !made.outline.isEmpty()) painter.fillPath(made.outline, ink_);
+            painter.translate(made.advance, 0);
+        }
+        painter.restore();
+    }
 }
 
 // All halos first, so that none covers its neighbour's ink.

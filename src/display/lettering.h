@@ -6,6 +6,7 @@
 
 #include <QFont>
 #include <QImage>
+#include <QPainterPath>
 #include <QPoint>
 #include <QString>
 #include <array>
@@ -47,8 +48,10 @@ private:
         bool made = false;
         double advance = 0;
         Picture halo, ink;
+        QPainterPath outline;
     };
     const Letter& letter(char c);
+    void printShapes(QPainter& painter, QPointF topLeft, std::string_view text);
     void printLetters(QPainter& painter, QPointF topLeft, std::string_view text);
     void printNumber(QPainter& painter, QPointF topLeft, std::string_view text);
     const Picture& digitsPicture(std::string_view digits, bool first);

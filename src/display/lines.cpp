@@ -68,7 +68,7 @@ private:
         canvas_.painter.setPen(pen);
         canvas_.painter.setRenderHint(QPainter::Antialiasing, width == 1 || smoothWide_);
         // An even width is sharp around a border between pixels, an odd one around a pixel's middle.
-        const double shift = (width - canvas_.thinWidth) % 2 == 0 ? 0 : -0.5;
+        const double shift = canvas_.shapes || (width - canvas_.thinWidth) % 2 == 0 ? 0 : -0.5;
         canvas_.painter.translate(shift, shift);
         canvas_.painter.drawLines(lines_);
         canvas_.painter.translate(-shift, -shift);
@@ -84,6 +84,13 @@ private:
     int width_ = 1;
 };
 
+void drawDots(const Canvas& canvas, const Editor& ed, std::int64_t step, double radius) {
+    Stamp dot(canvas, Shape::circle, radius);
+    for (std::int64_t y = step; y <= ed.sceneHeight; y += step)
+        for (std::int64_t x = step; x <= ed.sceneWidth; x += step)
+            dot.paint(static_cast<double>(x), static_cast<double>(y), gridGrey, gridGrey);
+}
+
 }  // namespace
 
 // All rows of the grid are alike: one is stamped dot by dot, the others are copies of it, so that even
@@ -92,6 +99,7 @@ void DisplayGrid(const Canvas& canvas, const Editor& ed) {
     const std::int64_t step = toInt(ed.GridSize);
     if (!ed.buttons.grid || step < 1 || step > ed.sceneWidth || step > ed.sceneHeight) return;
     const double radius = std::clamp<double>(ed.GridRadius, 0, static_cast<double>(step));
+    if (canvas.shapes) return drawDots(canvas, ed, step, radius);
     const int reach = static_cast<int>(std::ceil(canvas.pixels(radius))) + canvas.thinWidth;
     QImage row(canvas.frame.width(), 2 * reach + 1, QImage::Format_ARGB32_Premultiplied);
     row.setDevicePixelRatio(canvas.ratio);

@@ -34,8 +34,8 @@ bool spritesShown(const Editor& ed) {
 
 }  // namespace
 
-void drawUnderMarks(const Canvas& canvas, const Editor& ed) {
-    canvas.painter.fillRect(canvas.frame, colorOf(ed.BackColor));
+void drawUnderMarks(const Canvas& canvas, const Editor& ed, Ground ground) {
+    if (ground == Ground::painted) canvas.painter.fillRect(canvas.frame, colorOf(ed.BackColor));
     if (ed.sceneBlank) return;
     if (!ed.drawnRunning || ed.marks.mnuAllowGrid) DisplayGrid(canvas, ed);
     if (ed.buttons.line) drawLinks(canvas, ed);
@@ -65,9 +65,9 @@ bool anythingOverMarks(const Editor& ed) {
            spritesShown(ed) || ed.instructionsShown;
 }
 
-void drawScene(QPainter& painter, const Editor& ed, const SpritePictures& sprites) {
+void drawScene(QPainter& painter, const Editor& ed, const SpritePictures& sprites, Ground ground) {
     const Canvas canvas(painter, ed.sceneWidth, ed.sceneHeight);
-    drawUnderMarks(canvas, ed);
+    drawUnderMarks(canvas, ed, ground);
     drawMarksAndBand(canvas, ed);
     drawOverMarks(canvas, ed, sprites);
 }

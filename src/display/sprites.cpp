@@ -136,9 +136,10 @@ void ShowImages(const Canvas& canvas, const Editor& ed, const SpritePictures& sp
         const QPointF corner =
             canvas.place(node.X, node.Y) - QPointF(size.width() / 2.0, size.height() / 2.0);
         if (!QRectF(corner, QSizeF(size)).intersects(QRectF(canvas.frame))) return;
-        const QPoint at(static_cast<int>(std::floor(corner.x())), static_cast<int>(std::floor(corner.y())));
+        const QPointF whole(std::floor(corner.x()), std::floor(corner.y()));
         if (std::exchange(last, number) != number) picture = sprites.picture(number);
-        if (!picture.isNull()) canvas.painter.drawImage(QRect(at, size), picture);
+        if (!picture.isNull())
+            canvas.painter.drawImage(QRectF(canvas.shapes ? corner : whole, size), picture);
     });
     canvas.painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
 }

@@ -21,6 +21,11 @@ void drawShape(QPainter& painter, Shape shape, QPointF centre, double radius, in
         painter.setRenderHint(QPainter::Antialiasing, false);
         return;
     }
+    if (keepsShapes(painter)) {
+        painter.setPen(QPen(outline, outlineWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.setBrush(fill);
+        return painter.drawRect(QRectF(centre - QPointF(radius, radius), 2 * QSizeF(radius, radius)));
+    }
     // Whole pixels, so that all four edges are sharp.
     const int side = 2 * static_cast<int>(std::lround(radius)) + outlineWidth;
     const QRect outer(static_cast<int>(std::lround(centre.x() - side / 2.0)),
@@ -41,7 +46,7 @@ void Stamp::paint(double x, double y, std::int32_t fill, std::int32_t outline) {
     if (centre.x() < -reach_ || centre.y() < -reach_ || centre.x() > frame.width() + reach_ ||
         centre.y() > frame.height() + reach_)
         return;
-    if (reach_ > largestStamp) {
+    if (canvas_.shapes || reach_ > largestStamp) {
         drawShape(canvas_.painter, shape_, centre, radius_, canvas_.thinWidth, colorOf(fill),
                   colorOf(outline));
         return;

@@ -1,11 +1,12 @@
 #include "model/chance.h"
 
+#include <atomic>
 #include <chrono>
 
 namespace zentrik {
 
 std::uint64_t clockSeed() {
-    static std::uint64_t calls = 0;  // two calls within one tick of the clock still differ
+    static std::atomic<std::uint64_t> calls = 0;  // two calls within one tick of the clock still differ
     const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
     return static_cast<std::uint64_t>(now) + (++calls << 40);
 }

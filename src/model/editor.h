@@ -133,6 +133,7 @@ struct Editor {
     std::int32_t pathErased = 0;       // counts erasures, so that a view knows to start afresh
 
     std::string programFolder;  // where zoo and sprites are
+    std::string shareFolder;    // where a picture or film was saved last; empty for none yet
 };
 
 // Panels are numbered from 1, as the status bar counts them.

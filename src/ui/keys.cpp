@@ -57,6 +57,7 @@ constexpr KeyRow rows[] = {
     own("Ctrl+O", "opens the list of projects", window, KeyAct::openList),
     own("Ctrl+C", "copies the selected object as project text", window, KeyAct::copy),
     own("Ctrl+V", "pastes project text at the pointer, or in the middle of the scene", window, KeyAct::paste),
+    own("Ctrl+Shift+C", "copies the scene as a picture", window, KeyAct::copyPicture),
     own("F1", "shows this manual", window, KeyAct::help),
     own("F6", "goes to the next part of the window", window, KeyAct::nextPart),
     own("Shift+F6", "goes to the part before", window, KeyAct::previousPart),

@@ -22,6 +22,7 @@ enum class KeyAct {
     previousPart,
     copy,
     paste,
+    copyPicture,
     presets,  // of the button that has the keyboard
 };
 

@@ -86,8 +86,9 @@ constexpr SettingRow rows[] = {
 static_assert(std::size(rows) == 54 &&
               !anyShared(rows, [](const SettingRow& row) { return std::string_view(row.key); }));
 
-// Stands beside the table: whether the window comes back maximised.
+// Stand beside the table: whether the window comes back maximised, and where pictures are saved.
 constexpr const char* maximizedKey = "Maximized";
+constexpr const char* shareFolderKey = "ShareFolder";
 
 // Where a row's value lives, for reading (const records) and for writing.
 template <class EditorType, class PlacementType>
@@ -145,6 +146,7 @@ void getSettings(Editor& ed, Placement& placement, SettingsStore& store) {
             takeFirst(row, ed, placement);
     }
     ed.windowMaximized = store.read(maximizedKey) == "True";
+    ed.shareFolder = store.read(shareFolderKey).value_or("");
     setNodeRadius(ed, ed.NodeRadius);
     ed.timerFireWorks.enabled = ed.marks.mnuDisplayFireWorks;
 }
@@ -156,6 +158,7 @@ void saveSettings(const Editor& ed, const std::optional<Placement>& placement, S
         store.write(row.key, textOf(row, ed, placement.value_or(Placement{})));
     }
     store.write(maximizedKey, booleanText(ed.windowMaximized));
+    if (!ed.shareFolder.empty()) store.write(shareFolderKey, ed.shareFolder);
 }
 
 }  // namespace zentrik

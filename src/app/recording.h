@@ -1,0 +1,50 @@
+#pragma once
+#include "export/film.h"
+
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QTimer>
+#include <atomic>
+#include <memory>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QThread;
+
+namespace zentrik {
+
+// Makes a film or a table in a thread of its own, and shows how far it is beside the window, which stays
+// usable. Ends with the file's name and size, or with what went wrong. Closing it cancels.
+class Recording : public QDialog {
+public:
+    using Job = std::function<FilmResult(const FilmProgress&)>;
+    Recording(const QString& title, const QString& path, Job job, QWidget* parent);
+    ~Recording() override;
+
+    std::function<void(const QString& folder)> openFolder;
+
+    bool isRunning() const { return thread_ != nullptr; }
+
+protected:
+    void done(int result) override;
+
+private:
+    const QString path_;
+    QLabel* const text_;
+    QProgressBar* const bar_;
+    QPushButton* const folder_;
+    QPushButton* const end_;  // Cancel, then Close
+    QTimer look_;
+    QElapsedTimer since_;
+    std::unique_ptr<QThread> thread_;
+    std::atomic<double> done_ = 0;
+    std::atomic<bool> cancelled_ = false;
+    FilmResult result_;
+
+    void showProgress();
+    void finish();
+    void cancel();
+};
+
+}  // namespace zentrik

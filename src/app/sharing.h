@@ -1,0 +1,44 @@
+#pragma once
+#include "app/film_dialog.h"
+#include "app/picture_dialog.h"
+#include "app/recording.h"
+#include "app/share_button.h"
+#include "app/table_dialog.h"
+
+#include <QPointer>
+
+namespace zentrik {
+
+class DesktopHost;
+
+// What the window does for its share button: asks what is wanted and where, and makes it.
+class Sharing {
+public:
+    Sharing(const Editor& ed, DesktopHost& host, QWidget& window);
+
+    // Changes what the record holds of it, and shows that.
+    std::function<void(const std::function<void(Editor&)>&)> change;
+
+    void begin(Share what);
+    void cancelRecording();
+
+private:
+    const Editor& ed_;
+    DesktopHost& host_;
+    QWidget& window_;
+    PictureChoice picture_;  // the last ones
+    FilmChoice film_;
+    RunLength table_;
+    QPointer<Recording> recording_;
+
+    void copyPicture();
+    void savePicture();
+    void recordAnimation();
+    void saveTable();
+    bool isBusy();
+    void work(const char* title, const QString& file, Recording::Job job);
+    QString askName(const QString& kind, const QString& suffix);
+    void say(const QString& text);
+};
+
+}  // namespace zentrik

@@ -1,0 +1,53 @@
+#include "export/film.h"
+
+#include "export/gif.h"
+#include "export/numbered.h"
+#include "export/page.h"
+#include "export/video.h"
+
+namespace zentrik {
+
+namespace {
+
+template <class Writer>
+std::unique_ptr<FilmWriter> make(const std::string& path, const Editor& ed, const FilmPlan& plan) {
+    return std::make_unique<Writer>(path, ed, plan);
+}
+
+constexpr FilmFormat formats[] = {
+    {"GIF", "gif", 20, 50, true, make<GifWriter>},
+    {"Web page", "html", 25, 100, true, make<PageWriter>},
+    {"MP4 video", "mp4", 30, 100, false, make<Mp4Writer>},
+    {"WebM video", "webm", 30, 100, true, make<WebmWriter>},
+    {"Folder of numbered PNG pictures", "", 25, 100, true, make<NumberedWriter>},
+};
+
+}  // namespace
+
+std::span<const FilmFormat> filmFormats() { return formats; }
+
+FilmResult makeFilm(const Editor& ed, const FilmFormat& format, const FilmPlan& plan, const std::string& path,
+                    const FilmProgress& goOn) {
+    const auto writer = format.makeWriter(path, ed, plan);
+    const double work = static_cast<double>(pictureCount(ed, plan)) * (writer->looksFirst() ? 2 : 1);
+    double done = 0;
+    FilmResult result;
+    // False when it is over before the film is.
+    const auto show = [&](auto take) {
+        Reel reel(ed, plan);
+        do {
+            result.problem = take(reel.subject());
+            result.cancelled = result.problem.empty() && !goOn(++done / work);
+            if (!result.problem.empty() || result.cancelled) return false;
+        } while (reel.next());
+        result.stopped = reel.stopped();
+        return true;
+    };
+    const auto look = [&](const Subject& subject) { return writer->look(subject), std::string(); };
+    if (writer->looksFirst() && !show(look)) return result;
+    if (show([&](const Subject& subject) { return writer->take(subject); }))
+        result.problem = writer->finish();
+    return result;
+}
+
+}  // namespace zentrik

@@ -1,0 +1,24 @@
+#pragma once
+#include "export/film.h"
+
+namespace zentrik {
+
+// A new folder with the pictures 0001.png, 0002.png and so on.
+class NumberedWriter : public FilmWriter {
+public:
+    NumberedWriter(std::string path, const Editor& ed, const FilmPlan& plan);
+    ~NumberedWriter() override;
+
+    std::string take(const Subject& subject) override;
+    std::string finish() override;
+
+private:
+    const std::string path_, aside_;  // the latter while it grows
+    const FilmPlan plan_;
+    const std::size_t digits_;
+    std::int64_t taken_ = 0;
+
+    std::string makeFolder() const;
+};
+
+}  // namespace zentrik
