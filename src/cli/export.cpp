@@ -26,10 +26,12 @@ constexpr OptionRow options[] = {
     {nullptr, "rate", "N", "The film's pictures a second; 20 for GIF, 25 or 30 for others as usual."},
 };
 
-constexpr const char* details =
-    "A picture shows the model after --steps or --time, as it stands without. A film or a table is as long "
-    "as "
-    "they say, 10 seconds of the model's time without, and begins with the press of the start button. ";
+std::string details() {
+    return "A picture shows the model after --steps or --time, as it stands without. A film or a table is as "
+           "long as they say, 10 seconds of the model's time without, and begins with the press of the start "
+           "button.\n\n" +
+           modelDetails();
+}
 
 struct PictureRow {
     const char* suffix;
