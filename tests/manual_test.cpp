@@ -3,6 +3,7 @@
 #include "ui/command_toolbar.h"
 #include "ui/keys.h"
 #include "ui/menus.h"
+#include "ui/project_menu.h"
 #include "ui/property_toolbar.h"
 #include "window_rig.h"
 
@@ -75,7 +76,12 @@ TEST(Manual, ListsWhatThereIs) {
         if (!row.isButton()) continue;
         EXPECT_TRUE(manual.contains("\n| " + QString(row.tip) + " | ", Qt::CaseInsensitive)) << row.tip;
     }
-    // Each property's button, by what it is, with the range of what it offers.
+    const QString kept = manual.section("## How work is kept", 1).section("\n## ", 0, 0);
+    for (const ProjectMenuRow& row : projectMenuRows()) {
+        const QString entry = QString::fromUtf8(row.caption).remove('&');
+        EXPECT_TRUE(kept.contains("\n| " + entry + " | ")) << row.caption;
+    }
+    // Each property's button, by what it is and what it belongs to.
     const QString properties = manual.section("## Property toolbar", 1).section("\n## ", 0, 0);
     for (const PropertyRow& row : propertyRows()) {
         if (!row.isButton()) continue;

@@ -46,6 +46,7 @@ TEST(CommandLine, IsAnsweredWithoutADisplay) {
     const Outcome help = runProgram(folder.path, {"-h"});
     EXPECT_EQ(help.status, 0);
     EXPECT_TRUE(help.out.contains("[FILE]") && help.out.contains("--new-window"));
+    EXPECT_FALSE(help.out.contains("--help-all")) << "offered, but a window would open";
     const Outcome unknown = runProgram(folder.path, {"--nonsense"});
     EXPECT_EQ(unknown.status, 2);
     EXPECT_EQ(unknown.out, "");

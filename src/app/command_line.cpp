@@ -30,10 +30,12 @@ CommandLine readCommandLine(int argc, char** argv) {
     QCommandLineParser parser;
     parser.setApplicationDescription("Editor for creatures made of springs and masses.");
     parser.addPositionalArgument("FILE", "Project to open.", "[FILE]");
-    const QCommandLineOption help = parser.addHelpOption(), version = parser.addVersionOption();
+    // Not Qt's own, which offers a --help-all that it leaves unanswered here.
+    const QCommandLineOption help({"h", "help"}, "Displays help on commandline options.");
+    const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption newWindow("new-window",
                                        "Open a window of its own, even if the program is running.");
-    parser.addOption(newWindow);
+    parser.addOptions({help, newWindow});
     // Those that every program with Qt's windows knows.
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     for (const char* name : {"platform", "style", "display", "geometry", "session"})

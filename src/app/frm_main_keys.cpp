@@ -12,7 +12,6 @@
 #include <QShortcut>
 #include <QStatusTipEvent>
 #include <QToolBar>
-#include <QToolButton>
 #include <algorithm>
 
 namespace zentrik {
@@ -22,7 +21,7 @@ namespace {
 const CommandRow& commandOf(const KeyRow& key) {
     const auto rows = commandRows();
     return *std::find_if(rows.begin(), rows.end(),
-                         [&](const CommandRow& row) { return std::string_view(row.key) == key.button; });
+                         [&](const CommandRow& row) { return std::string_view(row.key) == key.control; });
 }
 
 // What Tab can reach in a bar, left to right.
@@ -72,10 +71,9 @@ void frmMain::connectKeys() {
             connectTo(row.keys, picS_, Qt::WidgetShortcut, row);
         if (row.area == KeyArea::areas || row.area == KeyArea::strip)
             connectTo(row.keys, picPhase_, Qt::WidgetShortcut, row);
-        if (row.act != KeyAct::press) continue;
-        const CommandRow& command = commandOf(row);
-        bars_.Toolbar1->findChild<QToolButton*>(command.key)
-            ->setStatusTip(QString("%1 (%2)").arg(command.tip, row.keys));
+        if (row.control == nullptr) continue;
+        auto* control = bars_.Toolbar1->findChild<QWidget*>(row.control);
+        control->setStatusTip(QString("%1 (%2)").arg(control->accessibleName().section(":", 0, 0), row.keys));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "app/manual_text.h"
 
 #include <QLineEdit>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTextBlock>
@@ -25,7 +26,7 @@ ManualWindow::ManualWindow(QWidget* parent)
     setObjectName("Manual");
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle("Zentrik - Manual");
-    resize(980, 720);
+    resize(QSize(980, 720).boundedTo(screen()->availableSize()));
     text_->setAccessibleName("Text of the manual");
     contents_->setAccessibleName("Contents of the manual");
     search_->setAccessibleName("Search the manual");

@@ -34,14 +34,16 @@ void turn(Editor& ed, Host&) {
     turnDisc(ed, steps);
 }
 
-constexpr KeyRow press(const char* keys, const char* effect, KeyArea area, const char* button) {
-    return {keys, effect, area, KeyAct::press, button};
+constexpr KeyRow press(const char* keys, const char* effect, KeyArea area, const char* control) {
+    return {keys, effect, area, KeyAct::press, control};
 }
-constexpr KeyRow own(const char* keys, const char* effect, KeyArea area, KeyAct act) {
-    return {keys, effect, area, act};
+constexpr KeyRow own(const char* keys, const char* effect, KeyArea area, KeyAct act,
+                     const char* control = nullptr) {
+    return {keys, effect, area, act, control};
 }
-constexpr KeyRow run(const char* keys, const char* effect, KeyArea area, const char* what, Command command) {
-    return {keys, effect, area, KeyAct::command, nullptr, command, what};
+constexpr KeyRow run(const char* keys, const char* effect, KeyArea area, const char* what, Command command,
+                     const char* control = nullptr) {
+    return {keys, effect, area, KeyAct::command, control, command, what};
 }
 
 using enum KeyArea;
@@ -54,7 +56,7 @@ constexpr KeyRow rows[] = {
     press("Ctrl+N", "empties the scene", window, "new"),
     press("Ctrl+S", "saves the project", window, "save"),
     press("Ctrl+R", "loads the project again", window, "refresh"),
-    own("Ctrl+O", "opens the list of projects", window, KeyAct::openList),
+    own("Ctrl+O", "opens the list of projects", window, KeyAct::openList, "lstSaved"),
     own("Ctrl+C", "copies the selected object as project text", window, KeyAct::copy),
     own("Ctrl+V", "pastes project text at the pointer, or in the middle of the scene", window, KeyAct::paste),
     own("Ctrl+Shift+C", "copies the scene as a picture", window, KeyAct::copyPicture),
@@ -68,9 +70,9 @@ constexpr KeyRow rows[] = {
     own("Shift+Return", "does what a right click does", scene, KeyAct::pointer),
     own("Ctrl+Return", "does what a double click does", scene, KeyAct::pointer),
     own("Alt+Left Alt+Right Alt+Up Alt+Down", "drag the selected node", scene, KeyAct::pointer),
-    run("N", "selects the next node, and brings the pointer to it", scene, "Next Node", stepNode<NextNode>),
+    run("N", "selects the next node, and brings the pointer to it", scene, "Next Node", stepNode<NextNode>, "nextnode"),
     run("Shift+N", "selects the node before", scene, "Previous Node", stepNode<PreviousNode>),
-    run("L", "selects the next link, and brings the pointer to its middle", scene, "Next Link", stepLink<NextLink>),
+    run("L", "selects the next link, and brings the pointer to its middle", scene, "Next Link", stepLink<NextLink>, "nextlink"),
     run("Shift+L", "selects the link before", scene, "Previous Link", stepLink<PreviousLink>),
     run("Left", "chooses the disc of the next smaller phase", strip, "Disc chosen", chooseDisc<-1>),
     run("Right", "chooses the disc of the next larger phase", strip, "Disc chosen", chooseDisc<1>),

@@ -31,9 +31,10 @@ struct KeyRow {
     const char* effect;  // as the manual says it
     KeyArea area;
     KeyAct act;
-    const char* button = nullptr;  // of KeyAct::press: its key in the command toolbar
-    Command command = nullptr;     // of KeyAct::command
-    const char* what = "";         // it is called when it can be undone
+    const char* control =
+        nullptr;                // in the command toolbar, that does the same: its status tip names the key
+    Command command = nullptr;  // of KeyAct::command
+    const char* what = "";      // it is called when it can be undone
 };
 
 std::span<const KeyRow> keyRows();

@@ -55,7 +55,7 @@ void openFile(Editor& ed, Host& host, const std::string& path) {
     handOver(ed, host, *std::move(file.project));
     ed.savedText = nameProblem(name).empty() ? name : "project";
     redrawModel(ed);
-    panel(ed, 5) = path + " opened as " + ed.savedText + "; saving puts it into the library";
+    panel(ed, 5) = "Saving puts it into the library as " + ed.savedText + "; opened from " + path;
 }
 
 std::string copyPicture(const Editor& ed, Host& host, const std::string& path) {
