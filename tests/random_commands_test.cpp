@@ -6,6 +6,7 @@
 #include "model/invariants.h"
 #include "random_model.h"
 #include "rig.h"
+#include "sim/run.h"
 #include "ui/command_toolbar.h"
 #include "ui/menus.h"
 #include "ui/phase_manager.h"
@@ -19,8 +20,8 @@
 namespace zentrik {
 namespace {
 
-const char* const answers[] = {"",    "3:500", "5:700",        "1:1", "7.5",
-                               "abc", "1e30",  "2000000000:5", "0:0", "-4:x"};
+const char* const answers[] = {"",     "3:500",        "5:700", "1:1",  "7.5", "abc",
+                               "1e30", "2000000000:5", "0:0",   "-4:x", "-1"};
 
 class RandomEditing {
 public:
@@ -72,7 +73,7 @@ private:
         const float x = coordinate(), y = coordinate();
         const int button = 1 << below(3);
         host_.answers = {answers[below(std::size(answers))]};
-        switch (below(12)) {
+        switch (below(13)) {
             case 0:
                 picS_MouseMove(ed_, button, x, y);
                 return "move";
@@ -95,8 +96,12 @@ private:
             case 6: {
                 const PropertyRow& row = rowOf(propertyRows());
                 if (row.isButton()) pressProperty(ed_, host_, row);
+                if (row.style == ButtonStyle::dropDown) choosePreset(ed_, host_, row, host_.answers.front());
                 return row.key;
             }
+            case 8:
+                Timer1_Timer(ed_);
+                return "a tick";
             case 7: {
                 const CommandRow& row = rowOf(commandRows());
                 if (row.key != std::string("reposition")) pressCommand(ed_, host_, row);
