@@ -31,8 +31,9 @@ public:
         startModel();
         for (int i = 0; i < events && !testing::Test::HasFailure(); ++i) {
             if (lastNode(ed_) > 1500 || lastLink(ed_) > 3000 || UsedNodes(ed_) < 2) startModel();
-            const std::int32_t dangling = danglingLinks();
             if (below(4) == 0) disturb();
+            if (below(8) == 0) Timer1_Timer(ed_);
+            const std::int32_t dangling = danglingLinks();
             const std::string what = event();
             EXPECT_EQ(brokenRule(ed_), "") << "after " << what;
             EXPECT_LE(danglingLinks(), dangling) << "after " << what;
@@ -73,7 +74,7 @@ private:
         const float x = coordinate(), y = coordinate();
         const int button = 1 << below(3);
         host_.answers = {answers[below(std::size(answers))]};
-        switch (below(13)) {
+        switch (below(12)) {
             case 0:
                 picS_MouseMove(ed_, button, x, y);
                 return "move";
@@ -99,9 +100,6 @@ private:
                 if (row.style == ButtonStyle::dropDown) choosePreset(ed_, host_, row, host_.answers.front());
                 return row.key;
             }
-            case 8:
-                Timer1_Timer(ed_);
-                return "a tick";
             case 7: {
                 const CommandRow& row = rowOf(commandRows());
                 if (row.key != std::string("reposition")) pressCommand(ed_, host_, row);
