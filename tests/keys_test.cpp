@@ -56,6 +56,9 @@ TEST_F(Keys, DrawRunAndSaveACreature) {
     hit(Qt::Key_Return, Qt::ShiftModifier, 2);  // stops drawing, deselects
     EXPECT_EQ(ed().SelectedNode, none);
 
+    hit(Qt::Key_L, Qt::ShiftModifier);
+    EXPECT_EQ(ed().SelectedLink, 8);
+    EXPECT_EQ(button("Toolbar2", "k")->toolTip(), "k: 5");
     hit(Qt::Key_L);
     ASSERT_EQ(ed().SelectedLink, 1);
     hit(Qt::Key_Return, Qt::ControlModifier);
