@@ -30,8 +30,10 @@ struct Shooter : testing::Test, Desk {
 };
 
 TEST_F(Shooter, FiresByTheGlobalSettingsOrAwayFromItsTrigger) {
+    nodeAt(ed, 1).Mass = 3;
     const Node* ball = fire();
     ASSERT_TRUE(ball);
+    EXPECT_EQ(ed.tips.mass, "Mass: 3");
     EXPECT_EQ(placesOf(ed, 3), "1300,1000 ");
     EXPECT_NEAR(ball->Vx, 5673, 1);
     EXPECT_NEAR(ball->Vy, -5640, 1);

@@ -138,41 +138,6 @@ TEST_F(Undo, SelectingIsNoStepEvenWhileItRuns) {
     EXPECT_EQ(steps(), "Animation run; ");
 }
 
-TEST_F(Undo, CoversEveryRowOfEveryTable) {
-    const auto backAndForth = [&](const char* name) {
-        copyContents(ed_, history_.shown);
-        const std::string after = imageOf(ed_);
-        const bool changed = !history_.done.empty();
-        if (!changed) return;
-        while (!history_.done.empty()) undo();
-        while (!history_.undone.empty()) redo();
-        copyContents(ed_, history_.shown);  // a redraw leaves traces of its own
-        EXPECT_TRUE(imageOf(ed_) == after) << name;
-        while (!history_.done.empty()) undo();
-    };
-    for (std::uint32_t seed = 1; seed <= 4; ++seed) {
-        const auto run = [&](const char* name, auto&& act) {
-            ed_ = randomModel(seed);
-            ed_.programFolder = "/nonexistent/zentrik";
-            ed_.Timer1.enabled = ed_.buttons.start = false;
-            ed_.buttons.ball = false;  // no redraw takes aim, so that every change is the row's own
-            host_.answers = {"5:700"};
-            host_.colour = 0x123456;
-            startHistory(history_, ed_);
-            const std::string before = imageOf(ed_);
-            perform(act);
-            backAndForth(name);
-            copyContents(ed_, history_.shown);
-            EXPECT_TRUE(imageOf(ed_) == before) << name << " with model " << seed;
-        };
-        for (const MenuRow& row : menuRows()) run(row.name, [&] { chooseMenu(ed_, host_, row); });
-        for (const CommandRow& row : commandRows())
-            if (row.isButton()) run(row.key, [&] { pressCommand(ed_, host_, row); });
-        for (const PropertyRow& row : propertyRows())
-            if (row.isButton()) run(row.key, [&] { pressProperty(ed_, host_, row); });
-    }
-}
-
 TEST(UndoWalks, LeadBackToTheFirstModelAndForthToTheLast) {
     for (std::uint32_t seed = 1; seed <= 60; ++seed)
         EXPECT_EQ(undoWalk(seed, 120, ZENTRIK_SOURCE_DIR), "") << "seed " << seed;

@@ -100,6 +100,19 @@ TEST_F(KeptWork, TheCopyStaysWhileItsContentsCanBeRedone) {
     EXPECT_EQ(copy(), "");
 }
 
+TEST_F(KeptWork, WhatANewCopyReplacesIsKeptWhenMuchOfItIsUndone) {
+    for (int i = 1; i <= 6; ++i) click({60 * i, 100});
+    auto* due = window_->findChild<QTimer*>("RecoveryDue");
+    ASSERT_NE(due, nullptr);
+    due->start(0);
+    ASSERT_TRUE(await([&] { return !copy().empty(); }));
+    const std::string former = copy();
+    for (int i = 0; i < 5; ++i) QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
+    due->start(0);
+    ASSERT_TRUE(await([&] { return copy() != former; }));
+    EXPECT_TRUE(await([&] { return versionsOf("resume") == 1; }));
+}
+
 }  // namespace
 
 }  // namespace zentrik

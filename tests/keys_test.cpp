@@ -2,6 +2,8 @@
 
 #include "ui/keys.h"
 #include "model/numbers.h"
+#include "project/writer.h"
+#include "scenes/scenes.h"
 #include "window_rig.h"
 
 #include <QAccessible>
@@ -54,6 +56,9 @@ TEST_F(Keys, DrawRunAndSaveACreature) {
     hit(Qt::Key_Return, Qt::ShiftModifier, 2);  // stops drawing, deselects
     EXPECT_EQ(ed().SelectedNode, none);
 
+    hit(Qt::Key_L, Qt::ShiftModifier);
+    EXPECT_EQ(ed().SelectedLink, 8);
+    EXPECT_EQ(button("Toolbar2", "k")->toolTip(), "k: 5");
     hit(Qt::Key_L);
     ASSERT_EQ(ed().SelectedLink, 1);
     hit(Qt::Key_Return, Qt::ControlModifier);
@@ -126,6 +131,16 @@ TEST_F(Keys, WhatIsCopiedIsAProjectAndCanBePasted) {
     EXPECT_EQ(nodeAt(ed(), 7).X - nodeAt(ed(), 6).X, 100 * 15);
     QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
     EXPECT_EQ(UsedNodes(ed()), 5);
+
+    Editor odd;  // a link leads nowhere
+    scenes::addNodes(odd, {{0, 0}, {900, 0}});
+    scenes::addLinks(odd, {{1, 2}, {1, 2}, {1, 2}});
+    odd.Links[2].N1 = -4, odd.Links[3].N2 = 1000000;
+    QApplication::clipboard()->setText(QString::fromStdString(projectBytes(odd)));
+    hit(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(UsedNodes(ed()), 7);
+    EXPECT_EQ(UsedLinks(ed()), 4);
+    QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
 
     for (const char* wrong : {"Dear node", "", "Zentrik   \r\nempty\r\n"}) {
         QApplication::clipboard()->setText(wrong);

@@ -207,6 +207,8 @@ TEST_F(Library, RefusesNamesThatAreNoProjects) {
         EXPECT_EQ(projectBytes(ed), before) << name;
     }
     EXPECT_EQ(entriesIn(folder.path), 0u);
+    lstSaved_Enter(ed, host);
+    EXPECT_EQ(ed.savedText, names.back()) << "to be mended, not typed again";
     host.transcript.clear();
     for (const char* name : {"console", "COM", "comet", "gun1", "a..b", "a : b", "nulls"})
         SaveFile(ed, host, name);

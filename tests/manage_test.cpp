@@ -52,10 +52,12 @@ TEST_F(Manage, AnEarlierVersionBecomesTheModelAndNoFileChanges) {
     ed.savedText = " a ";  // as Enter leaves it
     ed.Timer1.enabled = ed.buttons.start = true;
     ed.SelectedNode = 3;
+    ed.nodeControls = true;
     choose("earlierVersions");
     EXPECT_EQ(ed.ProjectTitle + "|" + ed.panels[0] + "|" + ed.panels[4],
               "of 1|Nodes: 1|Earlier version of a opened");
     EXPECT_EQ(ed.SelectedNode, none);
+    EXPECT_FALSE(ed.nodeControls);
     EXPECT_FALSE(ed.Timer1.enabled) << "a run would change it at once";
     EXPECT_EQ(contentOf(file("a")), present);
     EXPECT_EQ(entriesIn(folder.path / "backups"), 2U);

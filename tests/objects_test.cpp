@@ -56,12 +56,6 @@ TEST_F(Objects, DuplicatesTheWholeNodeRecord) {
     EXPECT_EQ(selections(ed), (Selections{6, 6, none, none}));
     EXPECT_EQ(lastLink(ed), 5);
     EXPECT_EQ(panel(ed, 5), "Duplicate node created!");
-    ed.SelectedNode = none;
-    choose("mnuDuplicateNode");
-    choose("mnuDuplicateObject");
-    EXPECT_EQ(host.beeps, 2);
-    EXPECT_EQ(lastNode(ed), 6);
-    EXPECT_EQ(panel(ed, 5), "You must first select a node!");
 }
 
 TEST_F(Objects, DuplicatesAnObjectWithItsLinksEvenWithoutAHitBox) {

@@ -6,6 +6,7 @@
 #include "model/invariants.h"
 #include "random_model.h"
 #include "rig.h"
+#include "sim/run.h"
 #include "ui/command_toolbar.h"
 #include "ui/menus.h"
 #include "ui/phase_manager.h"
@@ -19,8 +20,8 @@
 namespace zentrik {
 namespace {
 
-const char* const answers[] = {"",    "3:500", "5:700",        "1:1", "7.5",
-                               "abc", "1e30",  "2000000000:5", "0:0", "-4:x"};
+const char* const answers[] = {"",     "3:500",        "5:700", "1:1",  "7.5", "abc",
+                               "1e30", "2000000000:5", "0:0",   "-4:x", "-1"};
 
 class RandomEditing {
 public:
@@ -30,8 +31,9 @@ public:
         startModel();
         for (int i = 0; i < events && !testing::Test::HasFailure(); ++i) {
             if (lastNode(ed_) > 1500 || lastLink(ed_) > 3000 || UsedNodes(ed_) < 2) startModel();
-            const std::int32_t dangling = danglingLinks();
             if (below(4) == 0) disturb();
+            if (below(8) == 0) Timer1_Timer(ed_);
+            const std::int32_t dangling = danglingLinks();
             const std::string what = event();
             EXPECT_EQ(brokenRule(ed_), "") << "after " << what;
             EXPECT_LE(danglingLinks(), dangling) << "after " << what;
@@ -95,6 +97,7 @@ private:
             case 6: {
                 const PropertyRow& row = rowOf(propertyRows());
                 if (row.isButton()) pressProperty(ed_, host_, row);
+                if (row.style == ButtonStyle::dropDown) choosePreset(ed_, host_, row, host_.answers.front());
                 return row.key;
             }
             case 7: {

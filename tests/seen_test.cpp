@@ -107,17 +107,16 @@ TEST_F(Seen, DiscsFollowTheirAnglesAndThePointer) {
     ASSERT_TRUE(shows("picPhase", discAt(112.5), colorOf(ed().NodeColor)));
 }
 
-TEST_F(Seen, ThePathIsErasedByAClickAndByReposition) {
-    click({100, 100});
+TEST_F(Seen, ThePathIsErasedInEveryWay) {
     choose("mnuDisplayPath");
-    for (const bool byClick : {true, false}) {
-        ASSERT_NE(ed().SelectedNode, none);
+    for (const std::string way : {"a click", "new", "reposition"}) {
+        if (UsedNodes(ed()) == 0) click({100, 100});
         runAWhile();
-        ASSERT_TRUE(await([&] { return !isWhite("frmPath"); }));
-        byClick ? QTest::mouseClick(find("frmPath"), Qt::LeftButton) : press("reposition");
-        ASSERT_TRUE(await([&] { return isWhite("frmPath"); })) << byClick;
+        ASSERT_TRUE(await([&] { return !isWhite("frmPath"); })) << way;
+        way == "a click" ? QTest::mouseClick(find("frmPath"), Qt::LeftButton) : press(way.c_str());
+        ASSERT_TRUE(await([&] { return isWhite("frmPath"); })) << way;
+        EXPECT_EQ(panelText(1), way == "new" ? "Nodes: 0" : "Nodes: 1");
     }
-    EXPECT_EQ(panelText(1), "Nodes: 1");
     find("frmPath")->resize(900, 500);
     ASSERT_TRUE(await([&] { return screenOf("frmPath").width() == 900 && isWhite("frmPath"); }));
 }

@@ -60,6 +60,7 @@ TEST_F(SettingsFile, SpeaksTheLanguageOfQSettingsBothWays) {
         fs::remove(file);
     }
     EXPECT_EQ(settingFromValue(" 20 , 30 ;comment"), "20,30") << "written by hand";
+    EXPECT_EQ(settingFromValue("\\x2028z\\101"), "\u2028zA");
     for (const char* odd : {"\\", "\\x", "\"", "\\xffffffffffff", "\\777", "@"}) settingFromValue(odd);
 }
 

@@ -76,6 +76,7 @@ TEST_F(Sprites, ReadAgainKnownOnesKeepTheirNumber) {
     EXPECT_EQ(sprites.picture(2).devicePixelRatio(), 1);
     sprites.setRatio(2);
     EXPECT_EQ(sprites.picture(2).devicePixelRatio(), 2) << "on another screen";
+    EXPECT_FALSE(sprites.picture(1).isNull());
     ASSERT_TRUE(QFile::remove(folder.filePath("b.png")));
     read(sprites);
     EXPECT_TRUE(sprites.picture(1).isNull()) << "gone";

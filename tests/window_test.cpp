@@ -19,28 +19,6 @@ TEST_F(Window, SaysWhichSpriteIsNoPicture) {
     EXPECT_EQ(panelText(5), "No usable picture: notes.txt");
 }
 
-TEST_F(Window, EverythingHasItsName) {
-    for (const char* name : {"picS", "picPhase", "lstSaved", "lstSprites", "Toolbar1", "Toolbar2",
-                             "StatusBar1", "Frame1", "HScroll1", "frmPath", "Panel1", "Panel5"})
-        EXPECT_NE(window_->findChild<QWidget*>(name), nullptr) << name;
-    EXPECT_EQ(find<QTimer>("Timer1")->interval(), 20);
-    EXPECT_EQ(find<QTimer>("timerFireWorks")->interval(), 500);
-    for (const MenuRow& row : menuRows()) {
-        auto* action = window_->findChild<QAction*>(row.name);
-        ASSERT_NE(action, nullptr) << row.name;
-        EXPECT_EQ(action->isSeparator(), row.isSeparator());
-        if (!row.isSeparator()) {
-            EXPECT_EQ(action->text(), row.caption);
-        }
-    }
-    for (const QToolButton* tool : window_->findChildren<QToolButton*>()) {
-        if (tool->objectName().startsWith("qt_")) continue;
-        EXPECT_FALSE(tool->toolTip().isEmpty()) << tool->objectName().toStdString();
-        EXPECT_FALSE(tool->accessibleName().isEmpty());
-        EXPECT_FALSE(tool->icon().isNull());
-    }
-}
-
 TEST_F(Window, NoButtonIsHiddenAtAnySize) {
     window_ = makeWindow();
     window_->resize(10, 10);
@@ -308,9 +286,6 @@ TEST_F(Window, DirectionalMarkChoosesThePairOfButtons) {
     settle();  // the bar lays itself out anew
     EXPECT_EQ(button("Toolbar2", "direction")->isVisible(), !directional);
     EXPECT_EQ(button("Toolbar2", "vxo")->isVisible(), directional);
-    EXPECT_FALSE(button("Toolbar2", "mass")->isEnabled());
-    click({100, 100});
-    EXPECT_TRUE(button("Toolbar2", "mass")->isEnabled());
 }
 
 TEST(MessageFetcher, AnswersStallsAndRefusals) {
