@@ -10,6 +10,10 @@ _zentrik_cli() {
             mapfile -t COMPREPLY < <(compgen -W "on off" -- "$word")
             return
             ;;
+        --format)
+            mapfile -t COMPREPLY < <(compgen -W "png svg pdf gif html mp4 webm csv folder" -- "$word")
+            return
+            ;;
         --out | -o | --table)
             mapfile -t COMPREPLY < <(compgen -f -- "$word")
             return
