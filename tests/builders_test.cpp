@@ -85,25 +85,6 @@ TEST(Builders, AnswersThatBuildNothingOrLittle) {
     }
 }
 
-TEST(Builders, RefuseWithoutTheirSelection) {
-    const auto isRefused = [](const char* entry, const std::string& message) {
-        for (const std::int32_t stale : {none, 1, 60}) {  // none, a free slot, no slot
-            Site site("", "mnuCreateNodeRing");
-            site.host.transcript.clear();
-            scenes::addLink(site.ed, 1, 1);
-            nodeAt(site.ed, 1).Used = linkAt(site.ed, 1).Used = false;
-            site.ed.SelectedNode = site.ed.SelectedLink = stale;
-            site.choose(entry);
-            EXPECT_EQ(panel(site.ed, 5), message);
-            EXPECT_EQ(site.host.beeps, 1);
-            EXPECT_EQ(site.host.transcript, "");
-            EXPECT_EQ(lastNode(site.ed), 1);
-        }
-    };
-    isRefused("mnuCreateNodeRing", "This structure requires that you first select a node!");
-    isRefused("mnuCreateNodeAtMidpoint", "You must first select a link!");
-}
-
 TEST(Builders, MidpointSplitsTheLink) {
     Desk desk;
     Editor& ed = desk.ed;

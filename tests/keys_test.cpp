@@ -135,7 +135,7 @@ TEST_F(Keys, WhatIsCopiedIsAProjectAndCanBePasted) {
     Editor odd;  // a link leads nowhere
     scenes::addNodes(odd, {{0, 0}, {900, 0}});
     scenes::addLinks(odd, {{1, 2}, {1, 2}, {1, 2}});
-    odd.Links[2].N1 = -4, odd.Links[3].N2 = 1000000;
+    odd.Links[2].N1 = -2, odd.Links[3].N2 = 1000000;
     QApplication::clipboard()->setText(QString::fromStdString(projectBytes(odd)));
     hit(Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(UsedNodes(ed()), 7);

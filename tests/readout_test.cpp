@@ -59,23 +59,6 @@ TEST(Readout, PressedButtonsFollowWhateverChangesTheSelected) {
     EXPECT_FALSE(ed.buttons.animator);
 }
 
-TEST(Readout, FireWhileStoppedShowsTheShooterItSelects) {
-    Desk desk = withPair();
-    Editor& ed = desk.ed;
-    ed.Nodes[3].Locked = true;
-    ed.Nodes[3].Trigger = 0;
-    ed.LastShooter = 3;
-    DisplayScene(ed, -1, -1);
-    ed.sceneStale = false;
-    desk.press("fire");
-    EXPECT_EQ(ed.SelectedNode, 3);
-    EXPECT_TRUE(ed.sceneStale && ed.nodeControls && ed.buttons.shooter && ed.buttons.locked);
-    EXPECT_EQ(lastNode(ed), 3);
-    ed.sceneStale = false;
-    desk.press("fire");
-    EXPECT_FALSE(ed.sceneStale) << "nothing changed";
-}
-
 TEST(Readout, TheStripFollowsLoadsDeletionsAndColours) {
     const TemporaryFolder folder;
     Desk desk = withPair();

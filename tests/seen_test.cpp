@@ -117,8 +117,13 @@ TEST_F(Seen, ThePathIsErasedInEveryWay) {
         ASSERT_TRUE(await([&] { return isWhite("frmPath"); })) << way;
         EXPECT_EQ(panelText(1), way == "new" ? "Nodes: 0" : "Nodes: 1");
     }
+    moveTo({300, 300});
+    click({100, 100});
+    find("frmPath")->resize(100, 40);
+    runAWhile();
+    ASSERT_TRUE(await([&] { return screenOf("frmPath").width() == 100 && isWhite("frmPath"); }));
     find("frmPath")->resize(900, 500);
-    ASSERT_TRUE(await([&] { return screenOf("frmPath").width() == 900 && isWhite("frmPath"); }));
+    ASSERT_TRUE(await([&] { return screenOf("frmPath").width() == 900 && !isWhite("frmPath"); }));
 }
 
 TEST_F(Seen, AFileOfALargerSceneIsLaidOut) {

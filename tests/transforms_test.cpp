@@ -61,18 +61,6 @@ TEST(Transforms, WorkedPlaces) {
     }
 }
 
-TEST(Transforms, WithNothingSelectedTheyTakeTheProjectButMovesTakeNothing) {
-    for (const std::int32_t stale : {none, 99})
-        for (const std::string key : {"increase", "decrease", "rotate", "full", "up"}) {
-            Desk part = barAndBall(), whole = barAndBall();
-            part.ed.marks.mnuApplyChanges = true;
-            part.ed.SelectedNode = part.ed.SelectedLink = stale;
-            part.press(key);
-            if (key != "up") whole.press(key);
-            EXPECT_EQ(placesOfAllSlots(part.ed), placesOfAllSlots(whole.ed)) << key;
-        }
-}
-
 TEST(Transforms, TheBoxStartsFromTheScene) {
     Desk desk = barAndBall();
     Editor& ed = desk.ed;
