@@ -1,6 +1,6 @@
 // Quantities of a model, by numbers that can be worked out by hand.
 
-#include "measure/quantities.h"
+#include "measure/run_measures.h"
 #include "measure/run_table.h"
 #include "model/store.h"
 #include "scenes/scenes.h"
@@ -41,6 +41,33 @@ TEST(Measure, GivesTheQuantitiesOfAModel) {
     EXPECT_NEAR(springEnergy(ed), 0, 1e-4);
     ed.buttons.animation = false;
     EXPECT_EQ(springEnergy(ed), 1e6);
+}
+
+TEST(Measure, ARunIsWatchedStepByStep) {
+    Editor ed = twoOnASpring();
+    RunWatch watch(ed, true);
+    const auto value = [&](std::string_view name) {
+        for (const Measure& measure : measures())
+            if (measure.name == name) return measure.of(watch, ed);
+        return -1.0;
+    };
+    // Up by 40, down again and to the left by 80, then a step that moves a node by one twip alone.
+    nodeAt(ed, 1).Y -= 160, nodeAt(ed, 1).Vy = -12;
+    watch.stepped(ed, 0.5F);
+    nodeAt(ed, 1).Y += 200, nodeAt(ed, 1).X -= 320, nodeAt(ed, 1).Vy = 0;
+    watch.stepped(ed, 0.5F);
+    nodeAt(ed, 2).X += 1;
+    watch.stepped(ed, 0.5F);
+    EXPECT_EQ(value("height"), 40);
+    EXPECT_EQ(value("speed"), 12);
+    EXPECT_EQ(value("settled"), 1);
+    EXPECT_EQ(value("distance"), 79.25);
+    EXPECT_EQ(value("x"), 1220.75);
+    EXPECT_EQ(value("y"), 2010);
+    EXPECT_EQ(value("width"), 5000 - 680);
+    EXPECT_EQ(value("tallness"), 2040);
+    EXPECT_EQ(value("energy"), value("kinetic") + value("spring") + gravityEnergy(ed));
+    EXPECT_EQ(value("steps"), 3);
 }
 
 TEST(Measure, ATableHasThePartsAskedForAndEmptyCellsForWhatIsGone) {
