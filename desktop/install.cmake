@@ -8,7 +8,8 @@ install(TARGETS zentrik zentrik-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(DIRECTORY zoo sprites DESTINATION ${CMAKE_INSTALL_DATADIR}/zentrik
         FILES_MATCHING PATTERN "*.bot" PATTERN "*.svg" PATTERN "*.png")
 install(FILES docs/manual.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(DIRECTORY docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR} FILES_MATCHING PATTERN "*.png")
+install(DIRECTORY docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR}
+        FILES_MATCHING PATTERN "*.png" PATTERN "*.gif")
 install(DIRECTORY docs/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} USE_SOURCE_PERMISSIONS)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
 
@@ -20,6 +21,7 @@ install(FILES ${desktop_in}/zentrik-cli.bash RENAME zentrik-cli
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
 install(FILES ${desktop_out}/${ZENTRIK_ID}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${desktop_out}/${ZENTRIK_ID}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES ${desktop_in}/zentrik.thumbnailer DESTINATION ${CMAKE_INSTALL_DATADIR}/thumbnailers)
 install(FILES ${desktop_in}/zentrik-mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages
         RENAME zentrik.xml)
 

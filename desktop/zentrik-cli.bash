@@ -10,6 +10,10 @@ _zentrik_cli() {
             mapfile -t COMPREPLY < <(compgen -W "on off" -- "$word")
             return
             ;;
+        --format)
+            mapfile -t COMPREPLY < <(compgen -W "png svg pdf gif html mp4 webm csv folder" -- "$word")
+            return
+            ;;
         --measure)
             mapfile -t COMPREPLY < <(compgen -W "$("$program" sweep --help 2>/dev/null |
                 sed -n '/^WHAT is/,/^$/s/^\([a-z][a-z]*\):.*/\1/p')" -- "$word")

@@ -95,33 +95,70 @@ TEST_F(Films, ATransparentGifIsClearWhereNothingIsDrawn) {
     EXPECT_FALSE(reel.next()) << "the film is shorter than planned";
 }
 
-// What the browser shows of a page: its first rows, as wide as its window.
-QImage shownBy(const std::string& browser, const std::string& page, const TemporaryFolder& folder,
-               QSize size) {
-    const QString shot = QString::fromStdString((folder.path / "shot.png").string());
-    const QStringList options{"--headless",
-                              "--no-sandbox",
-                              "--disable-gpu",
-                              "--disable-quic",
-                              "--no-first-run",
-                              "--disable-background-networking",
-                              "--disable-component-update",
-                              "--disable-sync",
-                              "--hide-scrollbars",
-                              "--user-data-dir=" + QString::fromStdString((folder.path / "browser").string()),
-                              QString("--window-size=%1,%2").arg(size.width()).arg(size.height() + 200),
-                              "--screenshot=" + shot,
-                              QString::fromStdString("file://" + page)};
+// Runs a browser without a window; gives what it printed.
+QString browse(const QString& browser, const TemporaryFolder& folder, const QStringList& what) {
+    const QStringList options{
+        "--headless",
+        "--no-sandbox",
+        "--disable-gpu",
+        "--disable-quic",
+        "--no-first-run",
+        "--disable-background-networking",
+        "--disable-component-update",
+        "--disable-sync",
+        "--hide-scrollbars",
+        "--user-data-dir=" + QString::fromStdString((folder.path / "browser").string())};
     QProcess process;
     process.setStandardErrorFile(QProcess::nullDevice());
-    process.start(QString::fromStdString(browser), options);
+    process.start(browser, options + what);
     EXPECT_TRUE(process.waitForFinished(120000));
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+// A page's first rows, as wide as the browser's window.
+QImage shownBy(const QString& browser, const std::string& page, const TemporaryFolder& folder, QSize size) {
+    const QString shot = QString::fromStdString((folder.path / "shot.png").string());
+    browse(browser, folder,
+           {QString("--window-size=%1,%2").arg(size.width()).arg(size.height() + 200), "--screenshot=" + shot,
+            QString::fromStdString("file://" + page)});
     return QImage(shot).copy(QRect(QPoint(), size));
 }
 
+TEST_F(Films, APagePlaysAndObeysKeysAndSlider) {
+    const QString browser = QStandardPaths::findExecutable("chromium");
+    if (browser.isEmpty()) GTEST_SKIP() << "there is no browser";
+    ASSERT_EQ(makeFilm(walker(), format("html"), planOf(walker(), 10, 20), path("film.html"), goOn).problem,
+              "");
+    std::string page = contentOf(path("film.html"));
+    const std::string script = R"(<script>
+        const said = [player.className];
+        const note = () => said.push(shown + (playing ? ' plays' : ''));
+        const hit = (key, shiftKey) => { dispatchEvent(new KeyboardEvent('keydown', {key, shiftKey})); note(); };
+        tick(begun - 3); note();
+        tick(begun + 4001); note();
+        tick(begun + 10051); note();
+        hit(' '); hit('ArrowRight'); hit('ArrowRight', true); hit('ArrowLeft', true); hit('ArrowLeft');
+        hit('End'); hit('ArrowRight'); hit('Home'); hit('ArrowLeft');
+        time.value = 33; time.oninput(); note();
+        location.hash = '#t=2.5'; obeyAddress(); note();
+        play.click(); note();
+        document.title = said.join(', ');
+        </script></body>)";
+    page.replace(page.find("</body>"), 7, script);
+    putFile(path("film.html"), page);
+    const QString url = QString::fromStdString("file://" + path("film.html"));
+    const auto titleOf = [&](const QStringList& options) {
+        const QString dom = browse(browser, folder_, options + QStringList{"--dump-dom", url});
+        return dom.section("<title>", 1).section("</title>", 0, 0).toStdString();
+    };
+    EXPECT_EQ(titleOf({}),
+              "playing, 0 plays, 80 plays, 1 plays, 1, 2, 22, 2, 1, 199, 199, 0, 0, 33, 50, 50 plays");
+    EXPECT_EQ(titleOf({"--force-prefers-reduced-motion"}).substr(0, 8), "still, 0");
+}
+
 TEST_F(Films, APageIsSmallAndShowsTheRunInABrowser) {
-    const std::string browser = QStandardPaths::findExecutable("chromium").toStdString();
-    if (browser.empty()) GTEST_SKIP() << "there is no browser";
+    const QString browser = QStandardPaths::findExecutable("chromium");
+    if (browser.isEmpty()) GTEST_SKIP() << "there is no browser";
     Editor ed = walker();
     ed.ProjectTitle = "A <b>walker</b> & \"more\" @FILM@";
     ed.buttons.activeline = ed.buttons.numbers = ed.marks.mnuDisplayTitle = true;
@@ -192,7 +229,7 @@ TEST_F(Films, TheSameFilmIsTheSameBytes) {
     Editor ed = walker();
     ed.marks.mnuDisplayFireWorks = ed.timerFireWorks.enabled = true;
     ed.marks.mnuRandom = ed.marks.mnuUseRandom = true;
-    const FilmPlan plan = planOf(ed, 2);
+    const FilmPlan plan = planOf(ed, 1);
     for (const FilmFormat& it : filmFormats()) {
         if (*it.suffix == '\0') continue;
         SCOPED_TRACE(it.name);
@@ -208,7 +245,7 @@ TEST_F(Films, TheSameFilmIsTheSameBytes) {
 
 TEST_F(Films, WhateverEndsOneLeavesNothing) {
     const Editor ed = walker();
-    const FilmPlan plan = planOf(ed, 2);
+    const FilmPlan plan = planOf(ed, 1.5);
     for (const FilmFormat& it : filmFormats()) {
         SCOPED_TRACE(it.name);
         int seen = 0;

@@ -17,6 +17,7 @@ id=example.zentrik.Zentrik
 for file in bin/zentrik share/zentrik/zoo/bridge.bot share/zentrik/sprites/ant.svg share/doc/zentrik/manual.md \
     share/doc/zentrik/pictures/window.png share/doc/zentrik/copyright share/man/man1/zentrik.1.gz \
     bin/zentrik-cli share/man/man1/zentrik-cli.1.gz share/bash-completion/completions/zentrik-cli \
+    share/thumbnailers/zentrik.thumbnailer \
     share/icons/hicolor/scalable/mimetypes/application-x-zentrik-project.svg; do
     [ -s "$usr/$file" ] || fail "$file is not installed"
 done
@@ -40,6 +41,13 @@ if have mandoc; then
         zcat "$usr/share/man/man1/$page.1.gz" | MANPATH="$usr/share/man" mandoc -T lint -W style || fail "the man page of $page"
     done
 fi
+# The thumbnailer's line, as a desktop runs it.
+line=$(sed -n 's/^Exec=zentrik-cli//p' "$usr/share/thumbnailers/zentrik.thumbnailer" |
+    sed "s|%s|128|; s|%o|$scratch/thumbnail|; s|%i|$usr/share/zentrik/zoo/bridge.bot|")
+# shellcheck disable=SC2086 # words
+"$usr/bin/zentrik-cli" $line || fail "the thumbnailer"
+side=$(od -An -j16 -N4 -tx1 "$scratch/thumbnail" | tr -d ' ')
+[ "$side" = 00000080 ] || fail "the thumbnail is $side wide"
 if have update-mime-database; then
     cp -r "$usr/share/mime" "$scratch/mime"
     XDG_DATA_DIRS=$scratch update-mime-database "$scratch/mime" || fail "the file type"

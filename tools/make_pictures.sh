@@ -3,8 +3,9 @@
 set -eu
 cd "$(dirname "$0")/.."
 cmake --preset release >/dev/null
-cmake --build --preset release --target zentrik_manual_pictures zentrik_zoo_pictures
+cmake --build --preset release --target zentrik_manual_pictures zentrik_zoo_pictures zentrik-cli
 QT_QPA_PLATFORM=offscreen build/release/zentrik_manual_pictures docs/pictures
+build/release/zentrik-cli export --time 6 --rate 15 --out docs/pictures/walker.gif "zoo/7 a walker.bot"
 root=$PWD
 mkdir -p build/zoo_pictures
 cd build/zoo_pictures # where its sheets go

@@ -107,6 +107,7 @@ ExitStatus exportPicture(Editor& ed, PictureFormat format, const std::string& fi
 
 ExitStatus exportFilm(const Editor& ed, const FilmFormat& format, const std::string& file,
                       const Arguments& arguments, Streams& streams) {
+    if (arguments.has("size")) throw Failure{wrongUse, "--size is of use with pictures only."};
     if (file == "-") throw Failure{wrongUse, "A film cannot go to the standard output."};
     FilmPlan plan{lengthOf(ed, arguments, stepsIn(ed, usualFilm)), format.usualRate, lookOf(arguments)};
     if (const auto rate = arguments.number("rate", 1)) {
