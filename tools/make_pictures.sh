@@ -8,7 +8,7 @@ QT_QPA_PLATFORM=offscreen build/release/zentrik_manual_pictures docs/pictures
 build/release/zentrik-cli export --time 6 --rate 15 --out docs/pictures/walker.gif "zoo/7 a walker.bot"
 # Before and after "improve".
 for film in before:zoo/walker.bot after:docs/examples/better_walker.bot; do
-    build/release/zentrik-cli export --time 10 --rate 5 --out "docs/pictures/walker_${film%%:*}.gif" "${film#*:}"
+    build/release/zentrik-cli export --time 6 --rate 4 --out "docs/pictures/walker_${film%%:*}.gif" "${film#*:}"
 done
 root=$PWD
 mkdir -p build/zoo_pictures
