@@ -30,6 +30,14 @@ TEST_F(ManualWindow, OpensAndFindsItsWay) {
     EXPECT_GT(contents->topLevelItemCount(), 8);
     EXPECT_GT(text->width(), 2 * contents->width()) << "most of the room is for reading";
 
+    const auto film = [&] {
+        const QVariant shown =
+            text->document()->resource(QTextDocument::ImageResource, QUrl("pictures/walker.gif"));
+        return shown.value<QPixmap>().toImage();
+    };
+    EXPECT_TRUE(await([&] { return !film().isNull(); }));
+    const QImage picture = film();
+    EXPECT_TRUE(await([&] { return film() != picture; })) << "the film stands still";
     EXPECT_EQ(text->horizontalScrollBar()->maximum(), 0) << "a picture is wider than the window";
     // Every link inside leads to its chapter.
     const QString html = text->toHtml();

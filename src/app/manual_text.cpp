@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QImageReader>
+#include <QMovie>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -31,15 +32,38 @@ QString linkName(const QTextBlock& block) {
     return first.text().toLower().remove(others).replace(' ', '-');
 }
 
+std::vector<QTextFragment> picturesOf(const QTextDocument& text) {
+    std::vector<QTextFragment> pictures;
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next())
+        for (auto at = block.begin(); !at.atEnd(); ++at)
+            if (at.fragment().charFormat().isImageFormat()) pictures.push_back(at.fragment());
+    return pictures;
+}
+
 }  // namespace
 
 ManualText::ManualText(QWidget* parent) : QTextBrowser(parent) {
     document()->setBaseUrl(QUrl("qrc:/docs/"));
     setSearchPaths({":/docs"});
     setMarkdown(manualMarkdown());
+    playFilms();
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // the pictures are fitted beside it
     setOpenLinks(false);
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { followLink(link); });
+}
+
+void ManualText::playFilms() {
+    for (const QTextFragment& place : picturesOf(*document())) {
+        const QString name = place.charFormat().toImageFormat().name();
+        if (!name.endsWith(".gif")) continue;
+        auto* film = new QMovie(":/docs/" + name, {}, this);
+        const QUrl shown = document()->baseUrl().resolved(name);
+        connect(film, &QMovie::frameChanged, this, [this, film, shown] {
+            document()->addResource(QTextDocument::ImageResource, shown, film->currentPixmap());
+            viewport()->update();
+        });
+        film->start();
+    }
 }
 
 void ManualText::goTo(int position) {
@@ -58,12 +82,8 @@ void ManualText::resizeEvent(QResizeEvent* event) {
 
 void ManualText::fitPictures() {
     const double room = viewport()->width() - 2 * document()->documentMargin();
-    std::vector<QTextFragment> pictures;
-    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
-        for (auto at = block.begin(); !at.atEnd(); ++at)
-            if (at.fragment().charFormat().isImageFormat()) pictures.push_back(at.fragment());
     QTextCursor cursor(document());
-    for (const QTextFragment& place : pictures) {
+    for (const QTextFragment& place : picturesOf(*document())) {
         QTextImageFormat format = place.charFormat().toImageFormat();
         const QSize natural = QImageReader(":/docs/" + format.name()).size();
         cursor.setPosition(place.position());

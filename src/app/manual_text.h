@@ -3,8 +3,8 @@
 
 namespace zentrik {
 
-// The manual as text and pictures: no picture is wider than the window, and links to a chapter ("#chapter")
-// lead there.
+// The manual as text and pictures: no picture is wider than the window, films play, and links to a chapter
+// ("#chapter") lead there.
 class ManualText : public QTextBrowser {
 public:
     explicit ManualText(QWidget* parent);
@@ -16,6 +16,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void playFilms();
     void fitPictures();
     void followLink(const QUrl& link);
 };
