@@ -46,10 +46,26 @@ ManualText::ManualText(QWidget* parent) : QTextBrowser(parent) {
     document()->setBaseUrl(QUrl("qrc:/docs/"));
     setSearchPaths({":/docs"});
     setMarkdown(manualMarkdown());
+    drawTables();
     playFilms();
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // the pictures are fitted beside it
     setOpenLinks(false);
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { followLink(link); });
+}
+
+void ManualText::drawTables() {
+    for (QTextFrame* frame : document()->rootFrame()->childFrames()) {
+        auto* table = qobject_cast<QTextTable*>(frame);
+        if (table == nullptr) continue;
+        QTextTableFormat format = table->format();
+        format.setBorderCollapse(true);
+        format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+        format.setBorderBrush(palette().mid());
+        format.setCellPadding(4);
+        format.setTopMargin(4);
+        format.setBottomMargin(8);
+        table->setFormat(format);
+    }
 }
 
 void ManualText::playFilms() {

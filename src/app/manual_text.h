@@ -16,6 +16,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void drawTables();
     void playFilms();
     void fitPictures();
     void followLink(const QUrl& link);
