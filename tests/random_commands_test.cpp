@@ -73,7 +73,8 @@ private:
     std::string event() {
         const float x = coordinate(), y = coordinate();
         const int button = 1 << below(3);
-        host_.answers = {answers[below(std::size(answers))]};
+        const char* answer = answers[below(std::size(answers))];
+        host_.answers = {answer};
         switch (below(12)) {
             case 0:
                 picS_MouseMove(ed_, button, x, y);
@@ -97,7 +98,7 @@ private:
             case 6: {
                 const PropertyRow& row = rowOf(propertyRows());
                 if (row.isButton()) pressProperty(ed_, host_, row);
-                if (row.style == ButtonStyle::dropDown) choosePreset(ed_, host_, row, host_.answers.front());
+                if (row.style == ButtonStyle::dropDown) choosePreset(ed_, host_, row, answer);
                 return row.key;
             }
             case 7: {
