@@ -1,12 +1,15 @@
-// The views of the window: what a pointer over a still scene costs, and the start of the program.
+// The views of the window: what a pointer over a still scene costs, how fast the model runs beside its
+// paints, and the start of the program.
 
 #include "app/frm_main.h"
 #include "app/views.h"
-#include "model/redraw.h"
+#include "model/rate.h"
 #include "scenes/scenes.h"
+#include "sim/run.h"
 
 #include <benchmark/benchmark.h>
 
+#include <QApplication>
 #include <QImage>
 #include <QTemporaryDir>
 
@@ -39,6 +42,34 @@ void programStart(benchmark::State& state) {
     }
 }
 BENCHMARK(programStart)->Unit(benchmark::kMillisecond);
+
+// A tick of the running window with its share of the paints, period 1 ms. What a paint takes must not become
+// the period of the model.
+void tickBesidePaints(benchmark::State& state) {
+    const QTemporaryDir folder;
+    qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
+    frmMain window(folder.path());
+    window.resize(1920, 1080);
+    window.show();
+    window.perform("", [&](Editor& ed, Host& host) {
+        const Editor model = scenes::latticeOf(static_cast<int>(state.range(0)));
+        ed.Nodes = model.Nodes, ed.Links = model.Links;
+        ed.Gravity = 0;
+        ed.marks.mnuWalls = ed.marks.mnuCeiling = false;
+        setRate(ed, 1);
+        ed.buttons.start = true;
+        startClicked(ed, host);
+    });
+    for (auto _ : state)
+        for (const std::int32_t cycles = window.editor().Cycles; window.editor().Cycles == cycles;)
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+BENCHMARK(tickBesidePaints)
+    ->Arg(10000)
+    ->Arg(50000)
+    ->Arg(100000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 }  // namespace
 

@@ -1,8 +1,10 @@
 #include "app/share_button.h"
 
 #include "app/icons.h"
+#include "model/no_doubles.h"
 
 #include <QApplication>
+#include <string_view>
 
 namespace zentrik {
 
@@ -24,6 +26,7 @@ constexpr ShareRow rows[] = {
     {Share::saveTable, "shareTable", "Save &Table...",
      "Writes the run that begins here as a table, a row a step"},
 };
+static_assert(!anyShared(rows, [](const ShareRow& row) { return std::string_view(row.name); }));
 
 }  // namespace
 

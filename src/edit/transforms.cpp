@@ -1,6 +1,7 @@
 #include "edit/transforms.h"
 
 #include "edit/command.h"
+#include "model/angles.h"
 #include "model/grid.h"
 #include "model/numbers.h"
 #include "model/store.h"
@@ -84,8 +85,7 @@ void Increase(Editor& ed) { scale(ed, 0.2); }
 void Decrease(Editor& ed) { scale(ed, -0.2); }
 
 void RotateAnimation(Editor& ed) {
-    constexpr double theta = 0.087266;  // 5 degrees
-    const double c = std::cos(theta), s = std::sin(theta);
+    const double c = std::cos(projectTurn), s = std::sin(projectTurn);
     reshape(ed, [c, s](Node& node, double dx, double dy, PointF centre) {
         node.X = toInt(dx * c - dy * s + centre.x);
         node.Y = toInt(dx * s + dy * c + centre.y);

@@ -4,6 +4,9 @@
 #include "export/numbered.h"
 #include "export/page.h"
 #include "export/video.h"
+#include "model/no_doubles.h"
+
+#include <string_view>
 
 namespace zentrik {
 
@@ -21,6 +24,7 @@ constexpr FilmFormat formats[] = {
     {"WebM video", "webm", 30, 100, true, make<WebmWriter>},
     {"Folder of numbered PNG pictures", "", 25, 100, true, make<NumberedWriter>},
 };
+static_assert(!anyShared(formats, [](const FilmFormat& format) { return format.makeWriter; }));
 
 }  // namespace
 

@@ -12,7 +12,7 @@
 
 namespace zentrik {
 
-// Check marks of the menu bar; each is the stored option itself. Settings give the first-run values.
+// Check marks of the menu bar; each is the stored option itself. firstRun gives the first-run values.
 struct Marks {
     bool mnuAllowZero = false, mnuAllowSprites = false, mnuCannonBallFocus = false;
     bool mnuDisplayFireWorks = false, mnuPersistentFireworks = false;

@@ -107,5 +107,8 @@ inline constexpr std::string_view nodeCommentStart = "; i ; ";
 constexpr auto columnName = [](const auto& column) { return std::string_view(column.name); };
 static_assert(!anyShared(globalColumns, columnName) && !anyShared(linkColumns, columnName) &&
               !anyShared(nodeColumns, columnName));
+constexpr auto columnMember = [](const auto& column) { return column.member; };
+static_assert(!anyShared(globalColumns, columnMember) && !anyShared(linkColumns, columnMember) &&
+              !anyShared(nodeColumns, columnMember));
 
 }  // namespace zentrik

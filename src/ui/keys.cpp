@@ -1,10 +1,14 @@
 #include "ui/keys.h"
 
 #include "edit/hit.h"
+#include "model/no_doubles.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
 #include "ui/phase_manager.h"
+
+#include <string_view>
+#include <utility>
 
 namespace zentrik {
 
@@ -80,6 +84,10 @@ constexpr KeyRow rows[] = {
     run("Shift+Right", "turns it on", strip, "Phase turned", turn<1>),
 };
 // clang-format on
+static_assert(!anyShared(rows,
+                         [](const KeyRow& row) { return std::pair(std::string_view(row.keys), row.area); }) &&
+                  !anyShared(rows, [](const KeyRow& row) { return row.command; }),
+              "two rows share their keys in an area, or a procedure");
 
 }  // namespace
 

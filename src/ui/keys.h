@@ -31,8 +31,8 @@ struct KeyRow {
     const char* effect;  // as the manual says it
     KeyArea area;
     KeyAct act;
-    const char* control =
-        nullptr;                // in the command toolbar, that does the same: its status tip names the key
+    // In the command toolbar, that does the same: its status tip names the key.
+    const char* control = nullptr;
     Command command = nullptr;  // of KeyAct::command
     const char* what = "";      // it is called when it can be undone
 };

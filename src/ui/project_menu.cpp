@@ -1,8 +1,10 @@
 #include "ui/project_menu.h"
 
+#include "model/no_doubles.h"
 #include "project/manage.h"
 #include "sim/run.h"
 
+#include <string_view>
 #include <utility>
 
 namespace zentrik {
@@ -22,6 +24,9 @@ constexpr ProjectMenuRow rows[] = {
     {"deleteProject", "&Delete…", "Project deleted", deleteProject},
     {"showFolder", "&Show in Folder", "Folder shown", showFolder},
 };
+static_assert(!anyShared(rows, [](const ProjectMenuRow& row) { return std::string_view(row.name); }) &&
+                  !anyShared(rows, [](const ProjectMenuRow& row) { return row.command; }),
+              "two entries share a name or a procedure");
 
 }  // namespace
 

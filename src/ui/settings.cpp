@@ -15,7 +15,9 @@ namespace zentrik {
 namespace {
 
 // Stands for the animation timer's period, which a project may refuse.
-struct TimerPeriod {};
+struct TimerPeriod {
+    bool operator==(const TimerPeriod&) const = default;
+};
 
 using Slot = std::variant<float Placement::*, bool Marks::*, bool Buttons::*, float Editor::*,
                           std::int32_t Editor::*, std::string Editor::*, TimerPeriod>;
@@ -84,7 +86,8 @@ constexpr SettingRow rows[] = {
 };
 // clang-format on
 static_assert(std::size(rows) == 54 &&
-              !anyShared(rows, [](const SettingRow& row) { return std::string_view(row.key); }));
+              !anyShared(rows, [](const SettingRow& row) { return std::string_view(row.key); }) &&
+              !anyShared(rows, [](const SettingRow& row) { return row.slot; }));
 
 // Stand beside the table: whether the window comes back maximised, and where pictures are saved.
 constexpr const char* maximizedKey = "Maximized";
