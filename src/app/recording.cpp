@@ -1,6 +1,7 @@
 #include "app/recording.h"
 
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
@@ -20,6 +21,14 @@ constexpr int period = 100;  // milliseconds between two looks at the progress
 QString timeText(double seconds) {
     const auto whole = static_cast<qint64>(std::ceil(seconds));
     return whole < 60 ? QString("%1 s").arg(whole) : QString("%1 min %2 s").arg(whole / 60).arg(whole % 60);
+}
+
+// Of a file, or of all files of a folder.
+qint64 sizeOf(const QFileInfo& made) {
+    if (!made.isDir()) return made.size();
+    qint64 size = 0;
+    for (const QFileInfo& file : QDir(made.filePath()).entryInfoList(QDir::Files)) size += file.size();
+    return size;
 }
 
 }  // namespace
@@ -97,9 +106,8 @@ void Recording::finish() {
     const QFileInfo file(path_);
     QString text = QString::fromStdString(result_.problem);
     if (text.isEmpty()) {
-        text = file.fileName();
-        if (file.isFile())
-            text += ", " + QLocale::c().formattedDataSize(file.size(), 0, QLocale::DataSizeSIFormat);
+        text = file.fileName() + ", " +
+               QLocale::c().formattedDataSize(sizeOf(file), 0, QLocale::DataSizeSIFormat);
         if (!result_.stopped.empty())
             text += "\nThe run ended early. " + QString::fromStdString(result_.stopped);
         folder_->setVisible(true);

@@ -8,6 +8,10 @@
 
 #include <string_view>
 
+#include <QFileInfo>
+#include <cerrno>
+#include <system_error>
+
 namespace zentrik {
 
 namespace {
@@ -26,16 +30,26 @@ constexpr FilmFormat formats[] = {
 };
 static_assert(!anyShared(formats, [](const FilmFormat& format) { return format.makeWriter; }));
 
+// A film may take minutes: what can be known before is said before.
+std::string folderProblem(const std::string& path) {
+    const QFileInfo folder(QFileInfo(QString::fromStdString(path)).absolutePath());
+    const auto inWords = [](int error) { return std::generic_category().message(error) + "."; };
+    if (!folder.isDir()) return inWords(ENOENT);
+    return folder.isWritable() ? "" : inWords(EACCES);
+}
+
 }  // namespace
 
 std::span<const FilmFormat> filmFormats() { return formats; }
 
 FilmResult makeFilm(const Editor& ed, const FilmFormat& format, const FilmPlan& plan, const std::string& path,
                     const FilmProgress& goOn) {
+    FilmResult result;
+    result.problem = folderProblem(path);
+    if (!result.problem.empty()) return result;
     const auto writer = format.makeWriter(path, ed, plan);
     const double work = static_cast<double>(pictureCount(ed, plan)) * (writer->looksFirst() ? 2 : 1);
     double done = 0;
-    FilmResult result;
     // False when it is over before the film is.
     const auto show = [&](auto take) {
         Reel reel(ed, plan);

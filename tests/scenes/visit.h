@@ -12,7 +12,7 @@ namespace zentrik::scenes {
 struct Size {
     std::int32_t width, height;
 };
-inline constexpr Size smallestScene{14280, 3100}, largeScene{28680, 14300};
+inline constexpr Size smallestScene{14280, 3110}, largeScene{28680, 14300};
 
 // Loads zoo/NAME.bot of a program folder. A title that names "Ignore Barriers", "Display Sprites" or
 // "Show Links" has that option changed. Throws when the project cannot be loaded.

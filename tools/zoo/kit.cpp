@@ -21,7 +21,7 @@ Editor project(const std::string& title, const World& world) {
     ed.Timer1.interval = toInt(world.timeInterval);  // so that a time unit lasts a second
     ed.DeltaAngle = world.deltaAngle;
     ed.sceneWidth = 14280;
-    ed.sceneHeight = 3100;
+    ed.sceneHeight = 3110;  // in whole pixels, as the smallest window has it
     return ed;
 }
 

@@ -26,6 +26,9 @@ Editor welcome() {
     const std::int32_t hub = rim[0] - 1;
     for (const int foot : {-500, 500}) join(ed, pin(ed, 12900 + foot, 2950), hub, 5);
     addWalker(ed, 3700, 1750);
+    // On a leash, so that it comes to no wall and can go on for ever.
+    const std::int32_t tail = lastNode(ed);
+    join(ed, pin(ed, 2930, 2950), tail, 0.6F);
     return ed;
 }
 
