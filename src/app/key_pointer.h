@@ -1,10 +1,12 @@
 #pragma once
-#include "app/views.h"
+#include "app/mouse_calls.h"
+#include "model/editor.h"
 
 #include <QPointF>
 #include <optional>
 
 class QKeyEvent;
+class QPainter;
 
 namespace zentrik {
 

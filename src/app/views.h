@@ -2,24 +2,16 @@
 // The two drawing areas of the main window. They paint the record and turn Qt's mouse events into the
 // procedures' calls; nothing else.
 
+#include "app/mouse_calls.h"
 #include "app/paint_pacer.h"
 #include "display/sprites.h"
 #include "model/editor.h"
 
 #include <QPixmap>
 #include <QWidget>
-#include <functional>
 #include <memory>
 
 namespace zentrik {
-
-// A double click arrives as press, release, double click, release, as Qt delivers it.
-struct MouseCalls {
-    std::function<void(int button, float x, float y)> down, up;
-    std::function<void(float x, float y, bool leftHeld)> move;
-    std::function<void()> doubleClick;
-    std::function<void()> leave = [] {};  // the pointer is no longer over the area
-};
 
 class DrawingView : public QWidget {
 public:
