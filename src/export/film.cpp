@@ -6,10 +6,9 @@
 #include "export/video.h"
 #include "model/no_doubles.h"
 
-#include <string_view>
-
 #include <QFileInfo>
 #include <cerrno>
+#include <string_view>
 #include <system_error>
 
 namespace zentrik {
@@ -28,7 +27,7 @@ constexpr FilmFormat formats[] = {
     {"WebM video", "webm", 30, 100, true, make<WebmWriter>},
     {"Folder of numbered PNG pictures", "", 25, 100, true, make<NumberedWriter>},
 };
-static_assert(!anyShared(formats, [](const FilmFormat& format) { return format.makeWriter; }));
+static_assert(!anyShared(formats, [](const FilmFormat& format) { return std::string_view(format.name); }));
 
 // A film may take minutes: what can be known before is said before.
 std::string folderProblem(const std::string& path) {
