@@ -5,9 +5,9 @@
 #include "export/film.h"
 #include "export/table.h"
 #include "failing_disk.h"
+#include "wants.h"
 
 #include <QImage>
-#include <QStandardPaths>
 
 namespace zentrik {
 namespace {
@@ -26,9 +26,9 @@ TEST_F(ExportCommand, MakesTheSameFilmsAndTablesAsTheWindow) {
     const Editor ed = opened("7 a walker");
     for (const FilmFormat& format : filmFormats()) {
         const std::string suffix = format.suffix;
-        if (suffix.empty() ||
-            (suffix != "gif" && suffix != "html" && QStandardPaths::findExecutable("ffmpeg").isEmpty()))
-            continue;
+        if (suffix.empty()) continue;
+        const bool ours = suffix == "gif" || suffix == "html";
+        if (!ours && !missing("ffmpeg").empty()) continue;
         SCOPED_TRACE(suffix);
         const Said said = zentrikCli({"export", sample("7 a walker"), "--time", "1", "--rate", "10",
                                       "--scale", "2", "-o", file("film." + suffix)});
@@ -42,6 +42,7 @@ TEST_F(ExportCommand, MakesTheSameFilmsAndTablesAsTheWindow) {
     makeTable(ed, 50, file("ours"), [](double) { return true; });
     EXPECT_TRUE(contentOf(file("t.csv")) == contentOf(file("ours")));
     EXPECT_EQ(linesOf(contentOf(file("ours"))).size(), 52U);
+    if (!missing("ffmpeg").empty()) GTEST_SKIP() << missing("ffmpeg");
 }
 
 TEST_F(ExportCommand, MakesPicturesAndThumbnails) {

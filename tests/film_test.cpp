@@ -8,12 +8,12 @@
 #include "scenes/scenes.h"
 #include "scenes/visit.h"
 #include "temporary_folder.h"
+#include "wants.h"
 
 #include <gtest/gtest.h>
 
 #include <QImageReader>
 #include <QProcess>
-#include <QStandardPaths>
 #include <filesystem>
 
 namespace zentrik {
@@ -96,7 +96,7 @@ TEST_F(Films, ATransparentGifIsClearWhereNothingIsDrawn) {
 }
 
 // Runs a browser without a window; gives what it printed.
-QString browse(const QString& browser, const TemporaryFolder& folder, const QStringList& what) {
+QString browse(const TemporaryFolder& folder, const QStringList& what) {
     const QStringList options{
         "--headless",
         "--no-sandbox",
@@ -110,23 +110,21 @@ QString browse(const QString& browser, const TemporaryFolder& folder, const QStr
         "--user-data-dir=" + QString::fromStdString((folder.path / "browser").string())};
     QProcess process;
     process.setStandardErrorFile(QProcess::nullDevice());
-    process.start(browser, options + what);
+    process.start("chromium", options + what);
     EXPECT_TRUE(process.waitForFinished(120000));
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
 // A page's first rows, as wide as the browser's window.
-QImage shownBy(const QString& browser, const std::string& page, const TemporaryFolder& folder, QSize size) {
+QImage shownBy(const std::string& page, const TemporaryFolder& folder, QSize size) {
     const QString shot = QString::fromStdString((folder.path / "shot.png").string());
-    browse(browser, folder,
-           {QString("--window-size=%1,%2").arg(size.width()).arg(size.height() + 200), "--screenshot=" + shot,
-            QString::fromStdString("file://" + page)});
+    browse(folder, {QString("--window-size=%1,%2").arg(size.width()).arg(size.height() + 200),
+                    "--screenshot=" + shot, QString::fromStdString("file://" + page)});
     return QImage(shot).copy(QRect(QPoint(), size));
 }
 
 TEST_F(Films, APagePlaysAndObeysKeysAndSlider) {
-    const QString browser = QStandardPaths::findExecutable("chromium");
-    if (browser.isEmpty()) GTEST_SKIP() << "there is no browser";
+    if (!missing("chromium").empty()) GTEST_SKIP() << missing("chromium");
     ASSERT_EQ(makeFilm(walker(), format("html"), planOf(walker(), 10, 20), path("film.html"), goOn).problem,
               "");
     std::string page = contentOf(path("film.html"));
@@ -148,7 +146,7 @@ TEST_F(Films, APagePlaysAndObeysKeysAndSlider) {
     putFile(path("film.html"), page);
     const QString url = QString::fromStdString("file://" + path("film.html"));
     const auto titleOf = [&](const QStringList& options) {
-        const QString dom = browse(browser, folder_, options + QStringList{"--dump-dom", url});
+        const QString dom = browse(folder_, options + QStringList{"--dump-dom", url});
         return dom.section("<title>", 1).section("</title>", 0, 0).toStdString();
     };
     EXPECT_EQ(titleOf({}),
@@ -157,8 +155,7 @@ TEST_F(Films, APagePlaysAndObeysKeysAndSlider) {
 }
 
 TEST_F(Films, APageIsSmallAndShowsTheRunInABrowser) {
-    const QString browser = QStandardPaths::findExecutable("chromium");
-    if (browser.isEmpty()) GTEST_SKIP() << "there is no browser";
+    if (!missing("chromium").empty()) GTEST_SKIP() << missing("chromium");
     Editor ed = walker();
     ed.ProjectTitle = "A <b>walker</b> & \"more\" @FILM@";
     ed.buttons.activeline = ed.buttons.numbers = ed.marks.mnuDisplayTitle = true;
@@ -172,14 +169,14 @@ TEST_F(Films, APageIsSmallAndShowsTheRunInABrowser) {
         SCOPED_TRACE(picture);
         const QImage scene = sceneImage(reel.subject(), plan.look);
         const std::string page = path("walker.html") + "#t=" + std::to_string(picture / 25.0);
-        const Difference by = softDifference(shownBy(browser, page, folder_, scene.size()), scene);
+        const Difference by = softDifference(shownBy(page, folder_, scene.size()), scene);
         EXPECT_LE(by.largest, 100);
         EXPECT_LE(by.perMille, 30);
     }
 }
 
 TEST_F(Films, VideosShowTheRun) {
-    if (QStandardPaths::findExecutable("ffmpeg").isEmpty()) GTEST_SKIP() << "there is no ffmpeg";
+    if (!missing("ffmpeg").empty()) GTEST_SKIP() << missing("ffmpeg");
     const Editor ed = walker();
     const FilmPlan plan = planOf(ed, 2, 10);
     for (const char* suffix : {"mp4", "webm"}) {

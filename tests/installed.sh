@@ -1,13 +1,20 @@
 #!/bin/sh
 # Installs a build into a scratch folder, packs it, and asks every validator that is at hand.
-# Usage: installed.sh BUILD_FOLDER
+# Usage: installed.sh BUILD_FOLDER. Ends with 77 where a validator is missing and all else is well.
 set -eu
 build=$1
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
-failed=0
-fail() { echo "FAILED: $*" >&2; failed=1; }
-have() { command -v "$1" >/dev/null || { echo "not checked, $1 is missing"; false; }; }
+status=0
+fail() { echo "FAILED: $*" >&2; status=1; }
+# have PROGRAM PACKAGE
+have() {
+    command -v "$1" >/dev/null && return
+    echo "wants the package $2"
+    [ "$status" -ne 0 ] || status=77
+    false
+}
+have dpkg-shlibdeps dpkg-dev || exit $status
 
 cpack --config "$build/CPackConfig.cmake" -G DEB -B "$scratch/packed" >"$scratch/log" 2>&1 || { cat "$scratch/log"; exit 1; }
 DESTDIR="$scratch/root" cmake --install "$build" --prefix /usr >"$scratch/log" 2>&1 || { cat "$scratch/log"; exit 1; }
@@ -29,14 +36,14 @@ for size in 16 24 32 48 64 128 256; do
     done
 done
 
-if have desktop-file-validate; then
+if have desktop-file-validate desktop-file-utils; then
     said=$(desktop-file-validate --no-hints "$usr/share/applications/$id.desktop" 2>&1) || true
     [ -z "$said" ] || fail "the desktop entry: $said"
 fi
-if have appstreamcli; then
+if have appstreamcli appstream; then
     said=$(appstreamcli validate --no-net "$usr/share/metainfo/$id.metainfo.xml") || fail "the metainfo: $said"
 fi
-if have mandoc; then
+if have mandoc mandoc; then
     for page in zentrik zentrik-cli; do
         zcat "$usr/share/man/man1/$page.1.gz" | MANPATH="$usr/share/man" mandoc -T lint -W style || fail "the man page of $page"
     done
@@ -48,7 +55,7 @@ line=$(sed -n 's/^Exec=zentrik-cli//p' "$usr/share/thumbnailers/zentrik.thumbnai
 "$usr/bin/zentrik-cli" $line || fail "the thumbnailer"
 side=$(od -An -j16 -N4 -tx1 "$scratch/thumbnail" | tr -d ' ')
 [ "$side" = 00000080 ] || fail "the thumbnail is $side wide"
-if have update-mime-database; then
+if have update-mime-database shared-mime-info; then
     cp -r "$usr/share/mime" "$scratch/mime"
     XDG_DATA_DIRS=$scratch update-mime-database "$scratch/mime" || fail "the file type"
     grep -q '^60:application/x-zentrik-project:\*.bot$' "$scratch/mime/globs2" || fail "no file type for *.bot"
@@ -62,8 +69,8 @@ dpkg-deb -x "$package" "$scratch/unpacked"
 (cd "$scratch/unpacked/usr" && find . -type f | sort) >"$scratch/in_package"
 diff "$scratch/installed" "$scratch/in_package" || fail "the package holds other files"
 dpkg-deb -f "$package" Depends | grep -q libqt6widgets6 || fail "the package does not know what it depends on"
-if have lintian; then
+if have lintian lintian; then
     # No archive has been asked for a place.
     lintian --allow-root --suppress-tags initial-upload-closes-no-bugs --fail-on error,warning "$package" || fail "lintian"
 fi
-exit $failed
+exit $status

@@ -132,7 +132,7 @@ TEST(WriteFile, KeepsTheOldFileOnAFullDisk) {
     const TemporaryFolder folder;
     const fs::path disk = folder.path / "disk";
     fs::create_directory(disk);
-    if (mount("none", disk.c_str(), "tmpfs", 0, "size=64k") != 0) GTEST_SKIP() << "may not mount";
+    if (mount("none", disk.c_str(), "tmpfs", 0, "size=64k") != 0) GTEST_SKIP() << "wants the right to mount";
     putFile(disk / "a.bot", "old");
     putFile(disk / "filler", std::string(56 * 1024, 'f'));
     for (const std::size_t size : tooLarge) expectRefused(disk / "a.bot", size);

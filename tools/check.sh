@@ -16,6 +16,7 @@ formatted() {
 scripts() {
     git ls-files '*.sh' run test .ci/run | xargs shellcheck --severity=warning
 }
+tools/install_packages.sh build test bench check
 cmake --preset release >/dev/null
 gate "format" formatted
 gate "scripts" scripts

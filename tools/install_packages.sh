@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs what this machine lacks of the packages that are listed: install_packages.sh LIST...
-# LIST is build, screen or test, see packages_LIST.txt.
+# LIST names a file packages_LIST.txt.
 set -eu
 cd "$(dirname "$0")"
 missing=""
