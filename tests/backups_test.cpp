@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+
 namespace zentrik {
 
 namespace {
@@ -70,6 +72,18 @@ TEST_F(Backups, EveryWayToReplaceAProjectKeepsTheFormerFile) {
     EXPECT_EQ(versions("resume"), "? ");
     EXPECT_EQ(contentOf(formerVersions(ed.programFolder, "resume")[0].path), "no project at all");
     EXPECT_EQ(versions("a.b") + versions(""), "") << "names that begin or end alike";
+}
+
+TEST_F(Backups, ASaveAndAKeptVersionAtOnceDropNothingTwice) {
+    for (int round = 0; round < 100; ++round) {
+        fs::remove_all(folder.path / "backups");
+        for (int i = 1; i <= 20; ++i) putVersion("a", i);
+        putFile(file("a"), "saved");
+        std::thread worker([&] { keepVersion(ed.programFolder, "a", "unsaved"); });
+        EXPECT_EQ(keep("a"), "");
+        worker.join();
+        ASSERT_EQ(formerVersions(ed.programFolder, "a").size(), 20U) << "round " << round;
+    }
 }
 
 TEST_F(Backups, AFileTooLargeToReadIsKeptWhole) {

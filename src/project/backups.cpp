@@ -102,12 +102,14 @@ void dropOldest(const fs::path& folder, const std::string& project, const fs::pa
     }
 }
 
+// A save and a worker's kept version may come at once; each must see what the other has kept and dropped.
+std::mutex oneAtATime;
+
 // Keeps something as the newest version: put makes its file, unless it equals a version kept before, which
 // then takes that place as one made at that time.
 template <class Equals, class Put>
 std::string keep(const std::string& programFolder, const std::string& project, bool unsaved,
                  fs::file_time_type made, Equals equals, Put put) {
-    static std::mutex oneAtATime;
     const std::lock_guard guard(oneAtATime);
     const fs::path folder = backupsFolder(programFolder);
     std::error_code error;
