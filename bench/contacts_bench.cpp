@@ -12,7 +12,7 @@ namespace zentrik {
 namespace {
 
 void run(benchmark::State& state, Editor ed) {
-    for (auto _ : state) CalculatePositions(ed);
+    for (auto _ : state) advance(ed);
     state.counters["nodes"] = static_cast<double>(lastNode(ed));
     state.counters["links"] = static_cast<double>(lastLink(ed));
 }

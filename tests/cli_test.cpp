@@ -2,7 +2,7 @@
 
 #include "cli_rig.h"
 #include "failing_disk.h"
-#include "measure/model_run.h"
+#include "sim/model_run.h"
 #include "measure/state_hash.h"
 #include "scenes/visit.h"
 

@@ -3,7 +3,7 @@
 #include "cli/close_names.h"
 #include "cli/model.h"
 #include "cli/numbers.h"
-#include "measure/model_run.h"
+#include "sim/model_run.h"
 #include "sim/step.h"
 
 #include <algorithm>

@@ -5,7 +5,7 @@
 #include "export/film.h"
 #include "export/table.h"
 #include "export/thumbnail.h"
-#include "measure/model_run.h"
+#include "sim/model_run.h"
 
 #include <QGuiApplication>
 #include <algorithm>

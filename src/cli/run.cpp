@@ -3,7 +3,7 @@
 #include "cli/model.h"
 #include "cli/numbers.h"
 #include "cli/progress.h"
-#include "measure/model_run.h"
+#include "sim/model_run.h"
 #include "measure/run_table.h"
 #include "measure/state_hash.h"
 #include "model/store.h"

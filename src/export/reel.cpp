@@ -1,7 +1,7 @@
 #include "export/reel.h"
 
 #include "effects/fireworks.h"
-#include "measure/model_run.h"
+#include "sim/model_run.h"
 #include "sim/step.h"
 
 #include <algorithm>

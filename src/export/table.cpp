@@ -1,6 +1,6 @@
 #include "export/table.h"
 
-#include "measure/model_run.h"
+#include "sim/model_run.h"
 #include "measure/run_table.h"
 #include "project/write_file.h"
 

@@ -13,26 +13,24 @@ namespace zentrik {
 
 namespace {
 
-// A shooter finds its trigger the first time it is drawn, keeps it locked, and shows its aim. One that
-// has no link looks for it at every redraw, so all of them share one pass over the links.
-void aimShooters(Editor& ed) {
-    std::vector<std::int32_t> triggers;
-    forEachNode(ed, [&](std::int32_t i, Node& node) {
-        if (!takesAim(node)) return;
-        if (node.Trigger == 0) {
-            if (triggers.empty()) triggers = triggerNodes(ed);
-            node.Trigger = triggers[static_cast<std::size_t>(i)];
-        }
-        if (!nodeExists(ed, node.Trigger)) return;
-        nodeAt(ed, node.Trigger).Locked = true;
-        panel(ed, 1) = fixedText(barrelAngle(ed, node) * radiansToDegrees, 1);
-    });
+// Status panel 1 shows where the last shooter aims.
+void showAim(Editor& ed) {
+    const auto aims = [&](const Node& node) {
+        return node.Used && takesAim(node) && nodeExists(ed, node.Trigger);
+    };
+    const auto last = std::find_if(ed.Nodes.rbegin(), ed.Nodes.rend() - 1, aims);
+    if (last != ed.Nodes.rend() - 1) panel(ed, 1) = fixedText(barrelAngle(ed, *last) * radiansToDegrees, 1);
 }
 
 }  // namespace
 
 void DisplayScene(Editor& ed, float PX, float PY) {
-    if (ed.buttons.ball) aimShooters(ed);
+    if (ed.buttons.ball) lockTriggers(ed);
+    showScene(ed, PX, PY);
+}
+
+void showScene(Editor& ed, float PX, float PY) {
+    if (ed.buttons.ball) showAim(ed);
     ed.rubberBand.reset();
     if (PX >= 0 && PY >= 0 && ed.DrawMode && ed.SelectedNode != none)
         ed.rubberBand = PointF{SnapToGrid(ed, PX), SnapToGrid(ed, PY)};

@@ -11,6 +11,9 @@ namespace zentrik {
 // buttons, shows the clock, and marks the scene stale.
 void DisplayScene(Editor& ed, float PX, float PY);
 
+// The same without a change to the model: after a step, which keeps the triggers locked by itself.
+void showScene(Editor& ed, float PX, float PY);
+
 // Lays every animated link's disc out in the phase strip (into the link's DiscX, DiscY) and shifts the
 // strip's sine curve by the phase that the animators have at a time of the clock. Angles outside 0 to 360
 // stack at the nearer end.

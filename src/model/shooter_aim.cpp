@@ -30,6 +30,19 @@ std::vector<std::int32_t> triggerNodes(const Editor& ed) {
     return triggers;
 }
 
+// A shooter that has no link looks for one every time, so all of them share one pass over the links.
+void lockTriggers(Editor& ed) {
+    std::vector<std::int32_t> triggers;
+    forEachNode(ed, [&](std::int32_t i, Node& node) {
+        if (!takesAim(node)) return;
+        if (node.Trigger == 0) {
+            if (triggers.empty()) triggers = triggerNodes(ed);
+            node.Trigger = triggers[static_cast<std::size_t>(i)];
+        }
+        if (nodeExists(ed, node.Trigger)) nodeAt(ed, node.Trigger).Locked = true;
+    });
+}
+
 float GetVectorAngle(float dx, float dy) {
     if (dx == 0) return dy < 0 ? toReal(aimQuarter) : dy > 0 ? toReal(aimThreeQuarters) : 0;
     if (dy == 0) return dx < 0 ? toReal(aimHalf) : 0;

@@ -17,6 +17,9 @@ std::vector<std::int32_t> triggerNodes(const Editor& ed);
 // downwards a vector that points up the screen has pi / 2. The zero vector gives 0.
 float GetVectorAngle(float dx, float dy);
 
+// Every shooter that takes aim finds its trigger the first time, and keeps it locked from then on.
+void lockTriggers(Editor& ed);
+
 // Direction from a shooter's trigger, which must exist, through the shooter. Radians.
 float barrelAngle(const Editor& ed, const Node& shooter);
 

@@ -30,12 +30,13 @@ std::string problemText(std::int32_t i, const char* reason) {
 }  // namespace
 
 NodeStage::NodeStage(Editor& editor, const ForcePoints& points, Attraction& attraction, Barriers& barriers,
-                     Walls& walls)
+                     Walls& walls, StepReport& report)
     : ed(editor),
       points_(points),
       attraction_(attraction),
       barriers_(barriers),
       walls_(walls),
+      report_(report),
       bounds_(boundsOf(editor)),
       attracts_(!attraction.empty()),
       recolour_(editor.marks.mnuRandom && editor.Cycles % 10 == 0) {}
@@ -170,18 +171,14 @@ const char* NodeStage::move(std::int32_t i, Node& node, std::size_t lane) {
     const char* problem = nullptr;
     if (!barriers_.empty() || bounds_.touchedBy(node)) problem = meetContacts(i, node);
     if (node.Gravity != 0) attraction_.update(i, node);
-    if (i == ed.SelectedNode) plotPath(node);
+    if (i == ed.SelectedNode && ed.marks.mnuDisplayPath)
+        report_.dot = PathDot{toInt(node.X / 2.0), toInt(node.Y / 2.0), node.color};
     return problem;
-}
-
-void NodeStage::plotPath(const Node& node) {
-    if (ed.marks.mnuDisplayPath)
-        ed.pathDots.push_back({toInt(node.X / 2.0), toInt(node.Y / 2.0), node.color});
 }
 
 const char* NodeStage::meetContacts(std::int32_t i, Node& node) {
     floorAndCeiling(ed, i, bounds_);
-    if (!node.Used) removed_ = true;
+    if (!node.Used) report_.anyRemoved = true;
     if (ed.marks.mnuWalls) meetWalls(i);
     if (!barriers_.empty()) meetBarriers(i, node);
     return isFinite(node) ? nullptr : notFinite;
@@ -205,10 +202,10 @@ void NodeStage::meetBarriers(std::int32_t i, Node& node) {
     walls_.nodeDeflected(i);
 }
 
-// Status panel 5 shows what the last node's test found; the other nodes' are overwritten unseen.
+// The last node's test is the one that counts; one that was cut short leaves the former.
 void NodeStage::reportDistance(Node& node) {
     if (ed.marks.mnuIgnoreBarriers) return;
-    if (const auto distance = barriers_.BarrierTest(ed, node)) panel(ed, 5) = realText(*distance);
+    if (const auto distance = barriers_.BarrierTest(ed, node)) report_.distance = distance;
 }
 
 // A wall contact scales the velocities of nodes that were looked at already.

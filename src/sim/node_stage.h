@@ -7,6 +7,7 @@
 #include "sim/contacts.h"
 #include "sim/forces.h"
 #include "sim/node_run.h"
+#include "sim/step.h"
 #include "sim/walls.h"
 
 #include <string>
@@ -21,13 +22,12 @@ public:
     // points, attraction and barriers must hold this step's forces, attracting nodes and the barriers that
     // are heeded.
     NodeStage(Editor& editor, const ForcePoints& points, Attraction& attraction, Barriers& barriers,
-              Walls& walls);
+              Walls& walls, StepReport& report);
 
     // dt: time units. lastFree: the last node that will move. Gives what went wrong, or the empty text.
     std::string run(float dt, std::int32_t lastFree);
     // Names the first used node whose velocity is not finite, moved or not; the empty text for none.
     std::string checkVelocities() const;
-    bool anyRemoved() const { return removed_; }
 
 private:
     Editor& ed;
@@ -35,11 +35,11 @@ private:
     Attraction& attraction_;
     Barriers& barriers_;
     Walls& walls_;
+    StepReport& report_;
     const Bounds bounds_;
     std::int32_t lastFree_ = 0;
     bool attracts_, recolour_;
     bool attractorMoved_ = false;  // by the last wall contact
-    bool removed_ = false;         // the floor took a node out of the model
     NodeRun run_;
     Arrivals arrivals_;  // where the run's nodes go, if nothing comes in between
 
@@ -50,7 +50,6 @@ private:
     std::int32_t commitRun(std::int32_t from, std::int32_t to, std::string& problem);
     const char* hold(std::int32_t i, Node& node) const;
     const char* move(std::int32_t i, Node& node, std::size_t lane);
-    [[gnu::noinline]] void plotPath(const Node& node);
     [[gnu::noinline]] const char* meetContacts(std::int32_t i, Node& node);
     void meetWalls(std::int32_t i);
     void meetBarriers(std::int32_t i, Node& node);

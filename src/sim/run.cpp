@@ -1,26 +1,45 @@
 #include "sim/run.h"
 
+#include "model/numbers.h"
 #include "model/redraw.h"
 #include "model/store.h"
 #include "sim/step.h"
 
 namespace zentrik {
 
-void Timer1_Timer(Editor& ed) {
+void countCycle(Editor& ed) {
     // Counts up for as long as the program runs, so it must survive its own end.
     ed.Cycles = static_cast<std::int32_t>(static_cast<std::uint32_t>(ed.Cycles) + 1);
+}
+
+void Timer1_Timer(Editor& ed) {
+    countCycle(ed);
     panel(ed, 3) = "Cycles: " + std::to_string(ed.Cycles);
     stepOrStop(ed);
     if (ed.SingleStep) ed.Timer1.enabled = false;
 }
 
+std::string CalculatePositions(Editor& ed) {
+    const StepReport made = advance(ed);
+    // The strip is left out once in a hundred steps.
+    if (made.clock && toInt(static_cast<double>(*made.clock) / stepSize(ed)) % 100 != 0)
+        redrawPhaseManager(ed, *made.clock);
+    if (made.distance) panel(ed, 5) = realText(*made.distance);
+    if (made.dot) ed.pathDots.push_back(*made.dot);
+    if (!made.problem.empty()) return made.problem;
+    if (made.anyRemoved) showCounts(ed);
+    showScene(ed, -1, -1);
+    return {};
+}
+
 void stepOrStop(Editor& ed) {
-    const std::string problem = CalculatePositions(ed);
-    if (problem.empty()) return;
+    if (const std::string problem = CalculatePositions(ed); !problem.empty()) stopFor(ed, problem);
+}
+
+void stopFor(Editor& ed, const std::string& problem) {
     ed.buttons.start = false;
     StartStop(ed);
     panel(ed, 5) = problem + ": animation stopped!";
-    showClock(ed);
     DisplayScene(ed, -1, -1);
 }
 

@@ -3,13 +3,22 @@
 
 #include "model/editor.h"
 
+#include <string>
+
 namespace zentrik {
 
 class Host;
 
 void Timer1_Timer(Editor& ed);
-// One step; one that cannot go on stops the animation and says why in status panel 5.
+// Every tenth step of a model in random colours draws them anew.
+void countCycle(Editor& ed);
+// One step and what is seen of it: clock, counts, path, phase strip and scene. Gives why it was taken back,
+// if it was; the scene is then left to the caller.
+std::string CalculatePositions(Editor& ed);
+// The same; one that cannot go on stops the animation and says why in status panel 5.
 void stepOrStop(Editor& ed);
+// Stops the animation, and says in status panel 5 why.
+void stopFor(Editor& ed, const std::string& problem);
 
 // Makes the timer and the tool tip follow the start button.
 void StartStop(Editor& ed);

@@ -2,7 +2,7 @@
 
 #include "model/angles.h"
 #include "model/numbers.h"
-#include "model/redraw.h"
+#include "model/shooter_aim.h"
 #include "model/store.h"
 #include "sim/node_stage.h"
 
@@ -37,7 +37,7 @@ Scratch& scratch() {
 
 // What must be known of the nodes before the forces.
 struct Survey {
-    bool anyRotate = false;
+    bool anyRotate = false, anyAim = false;
     bool placesAreSmall = true;  // the difference of any two coordinates is exact as a 32-bit real
     std::int32_t lastFree = 0;   // the last node that the step will move
     std::int32_t massless = 0;   // the first node that cannot be moved
@@ -62,6 +62,7 @@ Survey survey(const Editor& ed, Scratch& work) {
         if (n.Rotate != 0) result.anyRotate = true;
         if (!n.Used) continue;
         if (n.Gravity != 0) work.attraction.add(i, n);
+        if (takesAim(n)) result.anyAim = true;
         if (n.Locked) continue;
         result.lastFree = i;
         if (n.Mass == 0 && result.massless == 0) result.massless = i;
@@ -107,15 +108,6 @@ bool applyInitialVelocities(Editor& ed) {
     return true;
 }
 
-void advanceClock(Editor& ed, float dt) {
-    ed.AnimationTime = real(ed.AnimationTime + wide(dt) * ed.TimeDirection);
-    // Left out once in a hundred steps.
-    if (toInt(wide(ed.AnimationTime) / dt) % 100 != 0) redrawPhaseManager(ed, ed.AnimationTime);
-    showClock(ed);
-}
-
-std::string nodeText(std::int32_t i) { return "Node " + std::to_string(i) + " "; }
-
 // The window cannot answer during a step, so one that would take this long is not begun.
 constexpr double longestStep = 5;  // seconds
 
@@ -124,44 +116,51 @@ std::string durationText(double seconds) {
     return std::to_string(toInt(minutes ? seconds / 60 : seconds)) + (minutes ? " minutes" : " seconds");
 }
 
+std::string whyNotBegun(const Editor& ed, const Survey& found, const Attraction& attraction) {
+    if (found.massless != 0) return "Node " + std::to_string(found.massless) + " has a mass of 0";
+    const double seconds = attraction.expectedTime(ed);
+    if (seconds <= longestStep) return {};
+    return "So many nodes attract each other that a step would take about " + durationText(seconds);
+}
+
 }  // namespace
 
 float stepSize(const Editor& ed) { return ed.buttons.slow ? 0.005F : real(ed.TimeInterval / 1000.0); }
 
-std::string CalculatePositions(Editor& ed) {
+StepReport advance(Editor& ed) {
+    StepReport report;
     Scratch& work = scratch();
     const float dt = stepSize(ed);
     const Survey found = survey(ed, work);
-    if (found.massless != 0) return nodeText(found.massless) + "has a mass of 0";
-
-    if (const double seconds = work.attraction.expectedTime(ed); seconds > longestStep)
-        return "So many nodes attract each other that a step would take about " + durationText(seconds);
+    report.problem = whyNotBegun(ed, found, work.attraction);
+    if (!report.problem.empty()) return report;
 
     const float time = ed.AnimationTime;
     const bool pending = ed.InitialVelocityPending;
     const std::int32_t selected = ed.SelectedNode;
     const bool started = applyInitialVelocities(ed);
-    advanceClock(ed, dt);
+    ed.AnimationTime = real(ed.AnimationTime + wide(dt) * ed.TimeDirection);
+    report.clock = ed.AnimationTime;
     if (found.anyRotate) applyRotationalDrive(ed, work.points);
     work.barrierLinks.clear();
     applySprings(ed, work.points, found.placesAreSmall, work.barrierLinks);
     work.barriers.clear();
     if (!ed.marks.mnuIgnoreBarriers) work.barriers.set(ed, work.barrierLinks);
-    NodeStage nodes(ed, work.points, work.attraction, work.barriers, work.walls);
-    std::string problem = nodes.run(dt, found.lastFree);
-    if (problem.empty() && started) problem = nodes.checkVelocities();  // those of locked nodes, too
-    if (problem.empty() && !std::isfinite(ed.AnimationTime)) problem = "The clock is not finite";
-    if (!problem.empty()) {
+    NodeStage nodes(ed, work.points, work.attraction, work.barriers, work.walls, report);
+    report.problem = nodes.run(dt, found.lastFree);
+    if (report.problem.empty() && started) report.problem = nodes.checkVelocities();  // of locked nodes, too
+    if (report.problem.empty() && !std::isfinite(ed.AnimationTime))
+        report.problem = "The clock is not finite";
+    if (!report.problem.empty()) {
         putBack(ed, work.before);
         ed.AnimationTime = time;
         ed.InitialVelocityPending = pending;
         ed.SelectedNode = selected;
-        return problem;
+        return report;
     }
-    if (nodes.anyRemoved()) showCounts(ed);
-    DisplayScene(ed, -1, -1);
+    if (found.anyAim && ed.buttons.ball) lockTriggers(ed);
     if (work.walls.touched()) ed.TimeDirection = -ed.TimeDirection;
-    return {};
+    return report;
 }
 
 }  // namespace zentrik

@@ -10,7 +10,8 @@ namespace zentrik {
 // Presses the start button. Chance is tied, so that equal models run alike.
 void beginRun(Editor& ed);
 
-// One tick of the animation timer; false when the model could not make the step and stands as before it.
+// What a tick of the animation timer does to the model, with nothing shown; false when the model could not
+// make the step and stands as before it.
 bool stepRun(Editor& ed);
 
 // Why a run ended, in words; the empty text while it goes on.

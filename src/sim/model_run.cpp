@@ -1,7 +1,8 @@
-#include "measure/model_run.h"
+#include "sim/model_run.h"
 
 #include "model/quiet_host.h"
 #include "sim/run.h"
+#include "sim/step.h"
 
 namespace zentrik {
 
@@ -13,7 +14,8 @@ void beginRun(Editor& ed) {
 }
 
 bool stepRun(Editor& ed) {
-    Timer1_Timer(ed);
+    countCycle(ed);
+    if (const std::string problem = advance(ed).problem; !problem.empty()) stopFor(ed, problem);
     return ed.Timer1.enabled;
 }
 
