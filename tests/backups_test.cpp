@@ -75,7 +75,7 @@ TEST_F(Backups, EveryWayToReplaceAProjectKeepsTheFormerFile) {
 }
 
 TEST_F(Backups, ASaveAndAKeptVersionAtOnceDropNothingTwice) {
-    for (int round = 0; round < 100; ++round) {
+    for (int round = 0; round < 60; ++round) {
         fs::remove_all(folder.path / "backups");
         for (int i = 1; i <= 20; ++i) putVersion("a", i);
         putFile(file("a"), "saved");
