@@ -23,6 +23,7 @@ gate "scripts" scripts
 gate "includes" tools/check_includes.sh src
 gate "unused functions" tools/check_unused.sh .
 gate "lengths" tools/check_lengths.sh .
+gate "gates stop what they must" tools/check_gates.sh "$root"
 gate "headers alone" tools/check_headers.sh "$root"
 folders="model sim effects project edit history ui"
 [ "${1:-}" != --all ] || folders=.

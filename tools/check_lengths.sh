@@ -6,7 +6,7 @@ cd "$1"
 # shellcheck disable=SC2016 # awk's own
 find src bench tools -name "*.h" -o -name "*.cpp" | sort | xargs awk '
     FNR == 1 { start = 0; before = "" }
-    /^[A-Za-z\[].*\) (const )?(override )?\{$/ || /^ {4,}.*\) (const )?\{$/ && !start && /^    [A-Za-z]/ {
+    /^[A-Za-z\[].*\) (const )?(override )?\{$/ || /^    .*\) (const )?\{$/ && !start && /^    [A-Za-z]/ {
         start = FNR; first = $0; excused = before ~ /^ *\/\/ Long: ./; indent = match($0, /[^ ]/) - 1
     }
     start && /^ *\}/ && match($0, /[^ ]/) - 1 == indent {

@@ -9,7 +9,7 @@ find src tests bench tools -name '*.h' -o -name '*.cpp' | sort | xargs awk '
     { sub(/\/\/.*/, ""); gsub(/"([^"\\]|\\.)*"/, "\"\"") }
     # A declaration or definition: a type or a class, then the name, then the parenthesis.
     function declared(text,    name) {
-        if (text !~ /^( {4})?(\[\[[a-z_:]+\]\] )?[A-Za-z_][A-Za-z0-9_:<>,*& ]*[ &*:][A-Za-z_][A-Za-z0-9_]*\(/) return ""
+        if (text !~ /^(    )?(\[\[[a-z_:]+\]\] )?[A-Za-z_][A-Za-z0-9_:<>,*& ]*[ &*:][A-Za-z_][A-Za-z0-9_]*\(/) return ""
         if (text ~ /^ *(return|else|if|for|while|switch|case|using|throw|new|delete|operator)/) return ""
         if (text ~ /operator|override|alignas/) return ""
         name = substr(text, 1, index(text, "(") - 1)

@@ -28,7 +28,6 @@ class NearestColour {
 public:
     explicit NearestColour(std::vector<Rgb> palette) : palette_(std::move(palette)) {}
 
-    const std::vector<Rgb>& palette() const { return palette_; }
     std::uint8_t operator()(QRgb colour);
 
 private:

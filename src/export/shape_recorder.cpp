@@ -115,17 +115,6 @@ private:
 
 }  // namespace
 
-std::size_t RecordedPicture::measuresOf(ShapeKind kind) {
-    switch (kind) {
-        case ShapeKind::line:
-            return 0;
-        case ShapeKind::outline:
-            return 1;  // its entry among the outlines
-        default:
-            return 2;
-    }
-}
-
 std::int32_t ShapeTables::numberOf(const QString& text, std::vector<QString>& all,
                                    std::map<QString, std::int32_t>& numbers) {
     const auto [entry, isNew] = numbers.try_emplace(text, static_cast<std::int32_t>(all.size()));

@@ -29,9 +29,6 @@ enum class ShapeKind { rectangle, line, ellipse, outline, image };
 struct RecordedPicture {
     std::vector<std::int32_t> shapes;
     std::vector<Spot> places;
-
-    static std::size_t measuresOf(ShapeKind kind);
-    static std::size_t placesOf(ShapeKind kind) { return kind == ShapeKind::line ? 2 : 1; }
 };
 
 // What the shapes of all pictures of a film are drawn with; an entry's number stays.

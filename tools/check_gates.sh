@@ -1,0 +1,37 @@
+#!/bin/sh
+# Fails when a gate passes what it is there to stop: a fault for each is planted in a copy of the sources.
+# $1: the project.
+set -eu
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+for folder in src tests bench tools; do cp -r "$1/$folder" "$scratch"; done
+header=$scratch/src/model/planted.h source=$scratch/src/model/planted.cpp
+status=0
+
+# stopped NAME GATE...: the gate must fail with the fault, which is then taken out again.
+stopped() {
+    name=$1
+    shift
+    if "$@" >/dev/null 2>&1; then echo "passes $name"; status=1; fi
+    rm -f "$header" "$source"
+}
+
+printf '#pragma once\nnamespace zentrik {\nvoid neverCalledByAnybody();\n}\n' >"$header"
+stopped "a procedure that nobody calls" "$1/tools/check_unused.sh" "$scratch"
+printf '#pragma once\nstruct Planted {\n    int neverReadByAnybody() const { return 1; }\n};\n' >"$header"
+stopped "a member that nobody calls" "$1/tools/check_unused.sh" "$scratch"
+
+lines=$(seq 80 | sed 's/.*/    ++i;/')
+printf 'void planted(int i) {\n%s\n}\n' "$lines" >"$source"
+stopped "a long function" "$1/tools/check_lengths.sh" "$scratch"
+printf 'struct Planted {\n    void planted(int i) {\n%s\n    }\n};\n' "$(echo "$lines" | sed 's/^/    /')" >"$source"
+stopped "a long member" "$1/tools/check_lengths.sh" "$scratch"
+
+echo '#include "ui/menus.h"' >"$source"
+stopped "an include upwards" "$1/tools/check_includes.sh" "$scratch/src"
+echo '#include <QString>' >"$source"
+stopped "Qt where there is none" "$1/tools/check_includes.sh" "$scratch/src"
+
+"$1/tools/check_unused.sh" "$scratch" && "$1/tools/check_lengths.sh" "$scratch" &&
+    "$1/tools/check_includes.sh" "$scratch/src" || status=1
+exit $status
