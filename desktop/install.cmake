@@ -11,7 +11,10 @@ install(FILES docs/manual.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR}
         FILES_MATCHING PATTERN "*.png" PATTERN "*.gif")
 install(DIRECTORY docs/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} USE_SOURCE_PERMISSIONS)
-install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
+configure_file(LICENSE ${desktop_out}/copyright COPYONLY)
+file(READ ${desktop_in}/font-licence.txt font_licence)
+file(APPEND ${desktop_out}/copyright "\n----\n\n${font_licence}")
+install(FILES ${desktop_out}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 configure_file(${desktop_in}/zentrik.desktop.in ${desktop_out}/${ZENTRIK_ID}.desktop @ONLY)
 configure_file(${desktop_in}/zentrik.metainfo.xml.in ${desktop_out}/${ZENTRIK_ID}.metainfo.xml @ONLY)
@@ -62,6 +65,7 @@ install(FILES ${desktop_out}/changelog.gz ${desktop_out}/changelog.Debian.gz
 add_custom_target(zentrik_desktop ALL DEPENDS ${drawn})
 
 set(CPACK_GENERATOR DEB)
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_PACKAGE_NAME zentrik)
 set(CPACK_PACKAGE_VENDOR "The Zentrik authors")
 set(CPACK_PACKAGE_CONTACT "The Zentrik authors <authors@zentrik.example>")

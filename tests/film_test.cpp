@@ -168,7 +168,7 @@ TEST_F(Films, APageIsSmallAndShowsTheRunInABrowser) {
         if (picture != 0 && picture != 137) continue;
         SCOPED_TRACE(picture);
         const QImage scene = sceneImage(reel.subject(), plan.look);
-        const std::string page = path("walker.html") + "#t=" + std::to_string(picture / 25.0);
+        const std::string page = path("walker.html") + "#t=" + QString::number(picture / 25.0).toStdString();
         const Difference by = softDifference(shownBy(page, folder_, scene.size()), scene);
         EXPECT_LE(by.largest, 100);
         EXPECT_LE(by.perMille, 30);

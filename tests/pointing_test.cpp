@@ -82,6 +82,7 @@ protected:
     int unlikeRecord() {
         const QImage seen = view();
         QImage fresh(seen.size(), QImage::Format_RGB32);
+        fresh.setDevicePixelRatio(seen.devicePixelRatio());
         QPainter painter(&fresh);
         drawScene(painter, ed(), {});
         painter.end();

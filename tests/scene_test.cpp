@@ -282,6 +282,26 @@ TEST(Lettering, StandsInItsInkOnItsPaper) {
     EXPECT_GT(mixed, 20) << "blue is made lighter on black, and stays blue";
 }
 
+TEST(Lettering, TitlesOfAnyWritingShow) {
+    const auto inkOf = [](const char* title) {
+        Editor ed;
+        ed.sceneWidth = 9000;
+        ed.sceneHeight = 1200;
+        ed.marks.mnuDisplayTitle = true;
+        ed.ProjectTitle = title;
+        const QImage image = painted(ed);
+        int found = 0;
+        for (int i = 0; i < image.width() * image.height(); ++i)
+            found += image.pixelColor(i % image.width(), i / image.width()).green() < 128;
+        return found;
+    };
+    const int latin = inkOf("Title");
+    EXPECT_GT(latin, 200);
+    EXPECT_EQ(inkOf("\u00e9"), inkOf("e\u0301")) << "composed or not";
+    for (const char* lacked : {"Title \u10d0", "Title \u6f22", "Title x\u0323\u0308", "\u05ea Title \u05d0"})
+        EXPECT_GT(inkOf(lacked), latin + 10) << lacked;
+}
+
 TEST(Scene, PlacesAndSizesOfAnyMagnitudeArePaintable) {
     constexpr auto least = std::numeric_limits<std::int32_t>::min();
     constexpr auto most = std::numeric_limits<std::int32_t>::max();

@@ -4,7 +4,7 @@
 #include "rig.h"
 #include "window_rig.h"
 
-#include <QScreen>
+#include <QBackingStore>
 
 namespace zentrik {
 
@@ -14,11 +14,21 @@ class Seen : public Window {
 protected:
     QImage screenOf(const char* name) {
         const QWidget* widget = find(name);
-        const QPixmap whole = widget->screen()->grabWindow(widget->window()->winId());
-        return whole.copy({widget->mapTo(widget->window(), QPoint()), widget->size()}).toImage();
+        // A grab of the offscreen screen knows no scale.
+        const auto* whole = dynamic_cast<QImage*>(widget->backingStore()->paintDevice());
+        if (whole == nullptr) return {};
+        const QRectF part(widget->mapTo(widget->window(), QPoint()), widget->size());
+        const double ratio = widget->devicePixelRatio();
+        QImage image = whole->copy(QRectF(part.topLeft() * ratio, part.size() * ratio).toRect());
+        image.setDevicePixelRatio(ratio);
+        return image;
+    }
+    QColor colourAt(const char* name, QPoint at) {
+        const QImage image = screenOf(name);
+        return image.pixelColor((QPointF(at) * image.devicePixelRatio()).toPoint());
     }
     bool shows(const char* name, QPoint at, QColor colour) {
-        return await([&] { return screenOf(name).pixelColor(at) == colour; });
+        return await([&] { return colourAt(name, at) == colour; });
     }
     bool isWhite(const char* name) {
         const QImage image = screenOf(name).convertToFormat(QImage::Format_RGB32);
@@ -84,7 +94,7 @@ TEST_F(Seen, DiscsFollowTheirAnglesAndThePointer) {
         pressProperty("angle");
         ASSERT_TRUE(shows("picPhase", discAt(QString(angle).toDouble()), Qt::blue)) << angle;
     }
-    EXPECT_NE(screenOf("picPhase").pixelColor(discAt(112.5)), QColor(Qt::blue));
+    EXPECT_NE(colourAt("picPhase", discAt(112.5)), QColor(Qt::blue));
     const auto stripClick = [&](QPoint at, Qt::MouseButton mouseButton = Qt::LeftButton) {
         QTest::mouseClick(find("picPhase"), mouseButton, {}, at);
     };
@@ -121,9 +131,11 @@ TEST_F(Seen, ThePathIsErasedInEveryWay) {
     click({100, 100});
     find("frmPath")->resize(100, 40);
     runAWhile();
-    ASSERT_TRUE(await([&] { return screenOf("frmPath").width() == 100 && isWhite("frmPath"); }));
+    ASSERT_TRUE(await(
+        [&] { return screenOf("frmPath").deviceIndependentSize().width() == 100 && isWhite("frmPath"); }));
     find("frmPath")->resize(900, 500);
-    ASSERT_TRUE(await([&] { return screenOf("frmPath").width() == 900 && !isWhite("frmPath"); }));
+    ASSERT_TRUE(await(
+        [&] { return screenOf("frmPath").deviceIndependentSize().width() == 900 && !isWhite("frmPath"); }));
 }
 
 TEST_F(Seen, AFileOfALargerSceneIsLaidOut) {

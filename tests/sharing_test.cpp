@@ -110,8 +110,9 @@ TEST_F(SharingTest, CopiesThePictureByKeyAndMenu) {
         const QMimeData* data = QApplication::clipboard()->mimeData();
         ASSERT_TRUE(data->hasImage());
         const auto image = qvariant_cast<QImage>(data->imageData());
-        EXPECT_EQ(image.size(), find("picS")->size());
-        EXPECT_EQ(image.pixelColor(150, 100), QColor(Qt::black)) << "a link";
+        const double ratio = find("picS")->devicePixelRatio();
+        EXPECT_EQ(image.size(), find("picS")->size() * ratio);
+        EXPECT_EQ(image.pixelColor((QPointF(150, 100) * ratio).toPoint()), QColor(Qt::black)) << "a link";
         EXPECT_TRUE(QSvgRenderer(data->data("image/svg+xml")).isValid());
         EXPECT_EQ(panelText(5), "The scene was copied as a picture.");
     }

@@ -110,7 +110,7 @@ TEST_F(Window, TheStartButtonShowsWhatItDoes) {
 
 TEST_F(Window, ItsSizeFollowsTheScreenItIsOn) {
     EXPECT_EQ(window_->maximumSize(), QSize(1600, 1000));
-    window_->move(1700, 50);
+    window_->move(QGuiApplication::screens()[1]->geometry().topLeft() + QPoint(100, 50));
     EXPECT_TRUE(await([&] { return window_->maximumSize() == QSize(2400, 1400); }));
     EXPECT_EQ(boundedSize({16000, 16000}, {960, 334}, {800, 300}), QSize(960, 334));
 

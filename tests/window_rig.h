@@ -34,7 +34,6 @@ protected:
             QFile::copy(QString(ZENTRIK_SOURCE_DIR "/sprites/") + name, path + "/sprites/" + name);
         start();
     }
-    // The pointer starts outside: a move to where it already is reaches nobody.
     std::unique_ptr<frmMain> makeWindow() const {
         QCursor::setPos(0, 0);
         settle();
@@ -48,6 +47,7 @@ protected:
     void show() {
         window_->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window_.get(), longest));
+        QTest::mouseMove(window_.get(), {1, 1});  // a move to where the pointer already is reaches nobody
     }
     void restart() {
         ASSERT_TRUE(window_->close());

@@ -22,7 +22,7 @@ allow model none model
 allow sim none model sim
 allow effects none model effects
 allow project none model project
-allow display 'Q(Painter|PainterPath|PaintEngine|Image|ImageReader|Pixmap|Font|FontMetricsF?|Color|PointF?|LineF?|RectF?|Size|SizeF|Pen|Brush|String|StringList|Hash|Cache|List|SvgRenderer|Buffer|ByteArray|Dir|File|FileInfo|Transform|StaticText|Vector|TextStream|RawFont|GlyphRun|TextLayout|Polygon|PolygonF)' model display
+allow display 'Q(Painter|PainterPath|PaintEngine|Image|ImageReader|Pixmap|Font|FontMetricsF?|Color|PointF?|LineF?|RectF?|Size|SizeF|Pen|Brush|String|StringList|Hash|Cache|List|SvgRenderer|Buffer|ByteArray|Dir|File|FileInfo|Transform|StaticText|Vector|TextStream|RawFont|GlyphRun|TextBoundaryFinder|Polygon|PolygonF)' model display
 allow edit none model sim effects edit
 allow history none model sim history
 allow measure none model sim measure

@@ -3,6 +3,7 @@
 // Usage: zentrik_picture PICTURE.png [SECONDS]
 
 #include "app/frm_main.h"
+#include "app/legible.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -12,6 +13,7 @@
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
+    zentrik::keepTextsLegible();
     QApplication::setApplicationName("Zentrik");
     QApplication::setStyle("Fusion");
     const QStringList arguments = QApplication::arguments();

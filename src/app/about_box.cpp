@@ -3,6 +3,7 @@
 #include "app/icons.h"
 #include "model/addresses.h"
 
+#include <QFile>
 #include <QMessageBox>
 
 namespace zentrik {
@@ -15,11 +16,15 @@ QWidget* makeAboutBox(QWidget* parent) {
     box->setWindowTitle("About Zentrik");
     box->setIconPixmap(programIcon().pixmap(64, 64));
     box->setTextFormat(Qt::RichText);
-    box->setText(QString("<h3>Zentrik %1</h3>"
-                         "<p>Springs, masses and muscles, set in motion.</p>"
-                         "<p>By %2.<br>Free software under the MIT licence.</p>"
-                         "<p><small>Running on Qt %3.</small></p>")
-                     .arg(ZENTRIK_VERSION, makerName, qVersion()));
+    QFile fontLicence(":/fonts/font-licence.txt");
+    if (fontLicence.open(QIODevice::ReadOnly)) box->setDetailedText(QString::fromUtf8(fontLicence.readAll()));
+    box->setText(
+        QString("<h3>Zentrik %1</h3>"
+                "<p>Springs, masses and muscles, set in motion.</p>"
+                "<p>By %2.<br>Free software under the MIT licence.</p>"
+                "<p><small>Letters of the scene: Liberation Sans, under the SIL Open Font License 1.1.<br>"
+                "Running on Qt %3.</small></p>")
+            .arg(ZENTRIK_VERSION, makerName, qVersion()));
     return box;
 }
 

@@ -1,5 +1,6 @@
 #include "app/command_line.h"
 #include "app/frm_main.h"
+#include "app/legible.h"
 #include "app/program_ends.h"
 #include "app/program_folder.h"
 #include "app/running_program.h"
@@ -11,6 +12,7 @@ int main(int argc, char** argv) {
     const zentrik::CommandLine line = zentrik::readCommandLine(argc, argv);
     if (line.exitStatus) return *line.exitStatus;
     QApplication app(argc, argv);
+    zentrik::keepTextsLegible();
     QApplication::setApplicationName("Zentrik");
     QApplication::setApplicationVersion(ZENTRIK_VERSION);
     QApplication::setDesktopFileName(ZENTRIK_ID);

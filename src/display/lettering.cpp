@@ -1,8 +1,8 @@
 #include "display/lettering.h"
 
+#include "display/face.h"
 #include "model/units.h"
 
-#include <QFontMetricsF>
 #include <QPainterPath>
 #include <QPen>
 #include <algorithm>
@@ -45,37 +45,28 @@ QRect inked(const QImage& image) {
 
 constexpr double haloReach = 0.14;  // of the font's size
 
-void strokeHalo(QPainter& painter, const QPainterPath& outline, const QFont& font, QColor paper) {
-    paper.setAlpha(220);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.strokePath(
-        outline, QPen(paper, 2 * haloReach * font.pixelSize(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setRenderHint(QPainter::Antialiasing, false);
-}
-
-QPainterPath outlineOf(QPointF baseline, const QFont& font, const QString& text) {
-    QPainterPath outline;
-    outline.addText(baseline, font, text);
-    return outline;
+// Read once a thread; what is kept is plain outlines.
+const Glyph& glyphOf(char c) {
+    static thread_local const std::vector<Glyph> printable = [] {
+        const Face face(Weight::regular);
+        std::vector<Glyph> glyphs;
+        for (char each = ' '; each <= '~'; ++each)
+            glyphs.push_back(face.glyphs(QString(QChar::fromLatin1(each))).front());
+        return glyphs;
+    }();
+    return printable[static_cast<std::size_t>(c - ' ')];
 }
 
 }  // namespace
 
-QFont sceneFont(double ratio, double size, bool bold) {
-    QFont font;
-    font.setFamilies({"Arial", "Liberation Sans", "Nimbus Sans", "DejaVu Sans"});
-    font.setStyleHint(QFont::SansSerif);
-    font.setStyleStrategy(QFont::NoSubpixelAntialias);    // alike on every layer of the scene
-    font.setHintingPreference(QFont::PreferFullHinting);  // whole-pixel advances: even spacing
-    font.setPixelSize(static_cast<int>(std::lround(size * 96 / 72 * ratio)));
-    font.setBold(bold);
-    // The columns of the tables are narrow: a wide face would run them into each other.
-    if (QFontMetricsF(font).horizontalAdvance('0') > 0.6 * font.pixelSize())
-        font.setStretch(QFont::SemiCondensed);
-    return font;
+int scenePixels(double ratio, double points) {
+    return std::max(1, static_cast<int>(std::lround(points * 96 / 72 * ratio)));
 }
 
-double sceneLineHeight() { return std::ceil(QFontMetricsF(sceneFont(1)).height()) * twipsPerPixel; }
+double sceneLineHeight() {
+    const int size = scenePixels(1);
+    return (std::ceil(Face::ascent * size) + std::ceil(Face::descent * size)) * twipsPerPixel;
+}
 
 std::int32_t legibleInk(std::int32_t ink, std::int32_t paper) {
     constexpr double sufficient = 3.9;
@@ -89,40 +80,39 @@ std::int32_t legibleInk(std::int32_t ink, std::int32_t paper) {
     return end;
 }
 
-void drawHaloText(QPainter& painter, QPointF baseline, const QFont& font, const QString& text, QColor ink,
-                  QColor paper) {
-    const QPainterPath outline = outlineOf(baseline, font, text);
-    strokeHalo(painter, outline, font, paper);
-    // Shapes read alike whatever fonts there are where they are shown.
-    if (keepsShapes(painter)) return painter.fillPath(outline, ink);
-    painter.setFont(font);
-    painter.setPen(ink);
-    painter.drawText(baseline, text);
+void strokeHalo(QPainter& painter, const QPainterPath& outline, int size, QColor paper) {
+    paper.setAlpha(220);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(outline,
+                       QPen(paper, 2 * haloReach * size, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-Lettering::Lettering(const QFont& font, std::int32_t ink, std::int32_t paper)
-    : font_(font),
+void fillLetters(QPainter& painter, const QPainterPath& outline, QColor ink) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(outline, ink);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+Lettering::Lettering(int size, std::int32_t ink, std::int32_t paper)
+    : size_(size),
       ink_(colorOf(legibleInk(ink, paper))),
       paper_(colorOf(paper)),
-      ascent_(std::ceil(QFontMetricsF(font).ascent())) {}
+      ascent_(std::ceil(Face::ascent * size)) {}
 
 const Lettering::Letter& Lettering::letter(char c) {
     if (c < ' ' || c > '~') c = ' ';
     Letter& made = letters_[static_cast<std::size_t>(c)];
     if (made.made) return made;
-    const QFontMetricsF metrics(font_);
-    const QString text{QChar::fromLatin1(c)};
+    const Glyph& glyph = glyphOf(c);
     made.made = true;
-    made.advance = metrics.horizontalAdvance(text);
-    if (c == ' ') return made;
-    made.outline = outlineOf({0, ascent_}, font_, text);
+    made.advance = std::round(glyph.advance * size_);
+    if (glyph.outline.isEmpty()) return made;
+    made.outline = scaled(glyph.outline, size_).translated(0, ascent_);
 
-    const QPointF baseline(0, ascent_);
+    const QPainterPath sharp = sharpened(glyph.outline, size_).translated(0, ascent_);
     const auto picture = [&](double margin, auto draw) {
-        const QRect box = metrics.boundingRect(text)
-                              .translated(baseline)
-                              .adjusted(-margin, -margin, margin, margin)
-                              .toAlignedRect();
+        const QRect box = sharp.boundingRect().adjusted(-margin, -margin, margin, margin).toAlignedRect();
         Picture result{box.topLeft(), QImage(box.size(), QImage::Format_ARGB32_Premultiplied)};
         result.image.fill(Qt::transparent);
         QPainter painter(&result.image);
@@ -130,13 +120,11 @@ const Lettering::Letter& Lettering::letter(char c) {
         draw(painter);
         return result;
     };
-    made.halo = picture(haloReach * font_.pixelSize() + 1, [&](QPainter& painter) {
-        strokeHalo(painter, outlineOf(baseline, font_, text), font_, paper_);
-    });
+    made.halo =
+        picture(haloReach * size_ + 1, [&](QPainter& painter) { strokeHalo(painter, sharp, size_, paper_); });
     made.ink = picture(1, [&](QPainter& painter) {
-        painter.setFont(font_);
-        painter.setPen(ink_);
-        painter.drawText(baseline, text);
+        for (int strike = 0; strike < 2; ++strike)
+            fillLetters(painter, sharp, ink_);  // thin strokes keep dark
     });
     return made;
 }
@@ -156,8 +144,8 @@ void Lettering::printShapes(QPainter& painter, QPointF topLeft, std::string_view
         painter.translate(topLeft);
         for (const char c : text) {
             const Letter& made = letter(c);
-            if (halo && !made.outline.isEmpty()) strokeHalo(painter, made.outline, font_, paper_);
-            if (!halo && !made.outline.isEmpty()) painter.fillPath(made.outline, ink_);
+            if (halo && !made.outline.isEmpty()) strokeHalo(painter, made.outline, size_, paper_);
+            if (!halo && !made.outline.isEmpty()) fillLetters(painter, made.outline, ink_);
             painter.translate(made.advance, 0);
         }
         painter.restore();
@@ -239,7 +227,7 @@ Lettering& lettering(double ratio, std::int32_t ink, std::int32_t paper) {
     for (Kept& it : kept)
         if (it.ratio == ratio && it.ink == ink && it.paper == paper) return it.letters;
     if (kept.size() == most) kept.pop_front();
-    kept.push_back({ratio, ink, paper, Lettering(sceneFont(ratio), ink, paper)});
+    kept.push_back({ratio, ink, paper, Lettering(scenePixels(ratio), ink, paper)});
     return kept.back().letters;
 }
 

@@ -4,35 +4,35 @@
 
 #include "display/canvas.h"
 
-#include <QFont>
 #include <QImage>
 #include <QPainterPath>
 #include <QPoint>
-#include <QString>
 #include <array>
 #include <string_view>
 #include <vector>
 
 namespace zentrik {
 
-// The font of the scene and of the phase strip, in device pixels of the canvas; size in points.
-QFont sceneFont(double ratio, double size = 8.25, bool bold = false);
-// Height of a line of that font at size 8.25, twips; the same at every device pixel ratio.
+// A font's size in device pixels of the canvas; the scene's and the phase strip's is 8.25 points.
+int scenePixels(double ratio, double points = 8.25);
+// Height of a line at that size, twips; the same at every device pixel ratio.
 double sceneLineHeight();
 
 // The ink itself where it stands out from the paper, else the nearest mixture with black or white that
 // reads well. Contrast as in WCAG 2.1, from relative luminance; red on white, at 4.0, just stands out.
 std::int32_t legibleInk(std::int32_t ink, std::int32_t paper);
 
-// One line of any text with a halo of the paper's colour. Left end of the baseline in device pixels.
-void drawHaloText(QPainter& painter, QPointF baseline, const QFont& font, const QString& text, QColor ink,
-                  QColor paper);
+// Outlines of letters, and a rim of the paper's colour that is drawn before them; size of their font in
+// pixels.
+void strokeHalo(QPainter& painter, const QPainterPath& outline, int size, QColor paper);
+void fillLetters(QPainter& painter, const QPainterPath& outline, QColor ink);
 
 // Stamps texts from pictures made once: letter by letter, numbers by groups of digits. Characters outside
 // printable ASCII leave a gap as wide as a blank.
 class Lettering {
 public:
-    Lettering(const QFont& font, std::int32_t ink, std::int32_t paper);
+    // Size in device pixels.
+    Lettering(int size, std::int32_t ink, std::int32_t paper);
 
     // Top-left corner in device pixels.
     void print(QPainter& painter, QPointF topLeft, std::string_view text);
@@ -46,7 +46,7 @@ private:
     };
     struct Letter {
         bool made = false;
-        double advance = 0;
+        double advance = 0;  // whole device pixels: even spacing
         Picture halo, ink;
         QPainterPath outline;
     };
@@ -56,7 +56,7 @@ private:
     void printNumber(QPainter& painter, QPointF topLeft, std::string_view text);
     const Picture& digitsPicture(std::string_view digits, bool first);
 
-    QFont font_;
+    int size_;
     QColor ink_, paper_;
     double ascent_;
     std::array<Letter, 127> letters_;

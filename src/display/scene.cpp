@@ -4,8 +4,7 @@
 #include "display/lines.h"
 #include "display/nodes.h"
 #include "display/overlays.h"
-
-#include <QFontMetricsF>
+#include "display/title.h"
 
 namespace zentrik {
 
@@ -15,17 +14,6 @@ void drawPage(const Canvas& canvas, const TextPage& page, std::int32_t paper) {
     for (const TextRun& run : page.runs)
         lettering(canvas.ratio, run.color, paper)
             .print(canvas.painter, {canvas.pixels(run.x), canvas.pixels(run.y)}, run.text);
-}
-
-void drawTitle(const Canvas& canvas, const Editor& ed, std::int32_t ink) {
-    constexpr qsizetype longest = 1000;  // letters; far more than a scene is wide
-    const QString title = QString::fromStdString(ed.ProjectTitle).left(longest);
-    const QFont font = sceneFont(canvas.ratio, 16, true);
-    const QFontMetricsF metrics(font);
-    const QPointF baseline(std::round((canvas.pixels(ed.sceneWidth) - metrics.horizontalAdvance(title)) / 2),
-                           std::round(canvas.pixels(250) + metrics.ascent()));
-    drawHaloText(canvas.painter, baseline, font, title, colorOf(legibleInk(ink, ed.BackColor)),
-                 colorOf(ed.BackColor));
 }
 
 bool spritesShown(const Editor& ed) {
