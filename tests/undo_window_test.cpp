@@ -1,9 +1,12 @@
 // The way back as a person takes it: the project list's line that loads nothing by itself, undo and redo
 // by key and by button, and the mark of unsaved changes.
 
+#include "project/manage.h"
+#include "ui/project_menu.h"
 #include "window_rig.h"
 
 #include <QAbstractItemView>
+#include <QColorDialog>
 
 namespace zentrik {
 
@@ -123,6 +126,67 @@ TEST_F(WayBack, UndoAndRedoByKeyAndButton) {
     EXPECT_FALSE(ed().Timer1.enabled);
     EXPECT_EQ(panelText(5), "Undone: Animation run");
     EXPECT_EQ(ed().AnimationTime, 0);
+}
+
+TEST_F(WayBack, TheRunIsGoneThroughByKeysBehindAnyStartAndUndo) {
+    click({100, 100});
+    runAWhile();
+    const auto steps = ed().Cycles;
+    const auto expectAt = [&](int step, int last) {
+        EXPECT_EQ(panelText(5), QString("Step %1 of %2").arg(step).arg(last));
+        EXPECT_EQ(panelText(3), QString("Cycles: %1").arg(step));
+    };
+    key(Qt::Key_Left, Qt::ControlModifier);
+    key(Qt::Key_Left, Qt::ControlModifier);
+    expectAt(steps - 2, steps);
+    for (int i = 0; i < 2; ++i) QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
+    EXPECT_EQ(panelText(5), "Undone: Animation run");
+    key(Qt::Key_Right, Qt::ControlModifier);
+    expectAt(1, steps);
+    runAWhile();
+    const auto further = ed().Cycles;
+    key(Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
+    expectAt(0, further);
+}
+
+TEST_F(WayBack, EveryButtonNamesItsStep) {
+    click({100, 100});
+    click({300, 100});
+    ASSERT_EQ(ed().SelectedNode, 2);
+    const auto undoTip = [&] { return find<QToolButton>("undo")->toolTip().toStdString(); };
+    for (const char* key : {"locked", "shooter"}) {
+        pressProperty(key);
+        const std::string said = ed().panels[4];
+        QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
+        window_->perform("", [&](Editor& record, Host&) { panel(record, 5) = said; });
+        pressProperty(key);  // says nothing new
+        const std::string name = button("Toolbar2", key)->accessibleName().toStdString();
+        EXPECT_EQ(undoTip(), "Undo: " + name + " (Alt+Backspace)");
+    }
+    inNextBox([](QWidget& box) {
+        dynamic_cast<QColorDialog&>(box).setCurrentColor(Qt::cyan);
+        dynamic_cast<QColorDialog&>(box).accept();
+    });
+    pressProperty("color");
+    EXPECT_EQ(undoTip(), "Undo: Node Color (Alt+Backspace)");
+}
+
+TEST_F(WayBack, ARenameIsNoStep) {
+    click({100, 100});
+    saveAs("wa");
+    click({300, 100});
+    press("save");
+    answerNext("wz", Qt::Key_Return);
+    for (const ProjectMenuRow& row : projectMenuRows())
+        if (row.command == renameProject) window_->perform(row.what, row.command);
+    ASSERT_EQ(ed().savedText, "wz");
+    QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
+    EXPECT_EQ(ed().savedText, "wz");
+    EXPECT_EQ(UsedNodes(ed()), 1);
+    press("save");
+    QTest::mouseClick(find<QToolButton>("redo"), Qt::LeftButton);
+    EXPECT_EQ(ed().savedText, "wz");
+    EXPECT_FALSE(std::filesystem::exists(folder_.path / "zoo" / "wa.bot"));
 }
 
 }  // namespace
