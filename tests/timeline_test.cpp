@@ -105,6 +105,26 @@ TEST_F(TimeTravel, GivesTheSameBitsWhateverHappenedInTheRun) {
     }
 }
 
+TEST_F(TimeTravel, GivesBackEveryMarkThatAStepReads) {
+    for (const MenuRow& row : menuRows()) {
+        if (row.mark == nullptr || row.mark == &Marks::mnuDisplayAngleManager) continue;
+        for (std::uint32_t seed = 1; seed <= 8; ++seed) {
+            Editor ed = quiet(randomModel(seed));
+            ed.marks.*row.mark = seed % 2 == 0;
+            begin(std::move(ed));
+            run(20);
+            if (!ed_.Timer1.enabled) continue;
+            edit([&] { ed_.marks.*row.mark = !(ed_.marks.*row.mark); });
+            run(20);
+            stop();
+            for (const int steps : {-10, -20, 5, 20}) {
+                go(steps);
+                EXPECT_TRUE(asItWas()) << row.name << ", seed " << seed << ", step " << timeline_.at;
+            }
+        }
+    }
+}
+
 TEST_F(TimeTravel, AChangeAtAnEarlierTimeMakesThatThePresent) {
     Editor ed = scenes::fullScreen();
     scenes::addNodes(ed, {{3000, 1000}, {4000, 1000}});

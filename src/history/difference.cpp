@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#include <limits>
 #include <utility>
 
 namespace zentrik {
@@ -29,6 +30,7 @@ bool same(const T& a, const T& b) {
 // Calls visit(bit, a, b) for every pair of fields of two alike tuples of references, until it gives false.
 template <class A, class B, class Visit>
 void forEachPair(const A& a, const B& b, Visit visit) {
+    static_assert(std::tuple_size_v<A> <= std::numeric_limits<Number>::digits, "a bit of the mask each");
     Number bit = 1;
     const auto step = [&](auto& x, auto& y) { return visit(std::exchange(bit, bit << 1), x, y); };
     [&]<std::size_t... i>(std::index_sequence<i...>) { (step(std::get<i>(a), std::get<i>(b)) && ...); }
