@@ -35,11 +35,11 @@ TEST_F(ExportCommand, MakesTheSameFilmsAndTablesAsTheWindow) {
         EXPECT_EQ(said.error, "");
         EXPECT_EQ(said.status, 0);
         const FilmPlan plan{stepsIn(ed, 1), 10, {2, false}};
-        ASSERT_EQ(makeFilm(ed, format, plan, file("ours"), [](double) { return true; }).problem, "");
+        ASSERT_EQ(makeFilm(ed, format, plan, file("ours"), [](const FilmState&) { return true; }).problem, "");
         EXPECT_TRUE(contentOf(file("film." + suffix)) == contentOf(file("ours")));
     }
     EXPECT_EQ(zentrikCli({"export", sample("7 a walker"), "--steps", "50", "-o", file("t.csv")}).error, "");
-    makeTable(ed, 50, file("ours"), [](double) { return true; });
+    makeTable(ed, 50, file("ours"), [](const FilmState&) { return true; });
     EXPECT_TRUE(contentOf(file("t.csv")) == contentOf(file("ours")));
     EXPECT_EQ(linesOf(contentOf(file("ours"))).size(), 52U);
     if (!missing("ffmpeg").empty()) GTEST_SKIP() << missing("ffmpeg");

@@ -33,7 +33,7 @@ const FilmFormat& format(std::string_view suffix) {
     throw std::out_of_range("no such format");
 }
 
-const FilmProgress goOn = [](double) { return true; };
+const FilmProgress goOn = [](const FilmState&) { return true; };
 
 class Films : public testing::Test {
 protected:
@@ -241,13 +241,35 @@ TEST_F(Films, TheSameFilmIsTheSameBytes) {
     }
 }
 
+// A person who waits for too large a file learns so before it is made.
+TEST_F(Films, TellHowLargeTheyWillBe) {
+    const Editor ed = walker();
+    for (const FilmFormat& it : filmFormats()) {
+        SCOPED_TRACE(it.name);
+        double halfway = 0;
+        const auto watch = [&](const FilmState& state) {
+            if (halfway == 0 && state.done > 0.75) halfway = state.expectedSize;
+            return true;
+        };
+        ASSERT_EQ(makeFilm(ed, it, planOf(ed, 4), path(it.name), watch).problem, "");
+        double size = 0;
+        for (const auto& entry : fs::recursive_directory_iterator(path("")))
+            if (entry.is_regular_file()) size += static_cast<double>(entry.file_size());
+        fs::remove_all(path(it.name));
+        const bool isVideo = std::string_view(it.name).ends_with("video");  // nobody knows
+        EXPECT_GE(halfway, isVideo ? 0 : 0.8 * size);
+        EXPECT_LE(halfway, isVideo ? 0 : 1.2 * size);
+    }
+}
+
 TEST_F(Films, WhateverEndsOneLeavesNothing) {
     const Editor ed = walker();
     const FilmPlan plan = planOf(ed, 1.5);
     for (const FilmFormat& it : filmFormats()) {
         SCOPED_TRACE(it.name);
         int seen = 0;
-        FilmResult result = makeFilm(ed, it, plan, path("film"), [&](double) { return ++seen < 25; });
+        FilmResult result =
+            makeFilm(ed, it, plan, path("film"), [&](const FilmState&) { return ++seen < 25; });
         EXPECT_TRUE(result.cancelled);
         EXPECT_EQ(entriesIn(folder_.path), 0U);
         {

@@ -37,7 +37,7 @@ for size in 16 24 32 48 64 128 256; do
 done
 
 if have desktop-file-validate desktop-file-utils; then
-    said=$(desktop-file-validate --no-hints "$usr/share/applications/$id.desktop" 2>&1) || true
+    said=$(desktop-file-validate "$usr/share/applications/$id.desktop" 2>&1) || true
     [ -z "$said" ] || fail "the desktop entry: $said"
 fi
 if have appstreamcli appstream; then

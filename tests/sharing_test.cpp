@@ -20,6 +20,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr int webPage = 0, gif = 1;  // among the formats of films
+
 class SharingTest : public Window {
 protected:
     std::vector<std::function<bool(QWidget&)>> script_;  // one for each box to come; false waits on
@@ -152,7 +154,7 @@ TEST_F(SharingTest, SavesPicturesWhereAndAsTold) {
 }
 
 TEST_F(SharingTest, RecordsBesideARunningWindow) {
-    fill({{"format", 0}, {"unit", 1}, {"length", 200}, {"rate", 10}, {"scale", 1}, {"transparent", 0}});
+    fill({{"format", gif}, {"unit", 1}, {"length", 200}, {"rate", 20}, {"scale", 1}, {"transparent", 0}});
     name(out("film"));
     press("start");
     const std::int32_t cycles = ed().Cycles;
@@ -161,7 +163,16 @@ TEST_F(SharingTest, RecordsBesideARunningWindow) {
     awaitFilm();
     EXPECT_TRUE(QTest::qWaitFor([&] { return ed().Cycles > cycles; }, 60000));
     EXPECT_TRUE(filmText().startsWith("film.gif, ")) << filmText().toStdString();
-    EXPECT_EQ(QImageReader(QString::fromStdString(out("film.gif"))).size(), find("picS")->size());
+    const auto made = [&] { return QImageReader(QString::fromStdString(out("film.gif"))); };
+    EXPECT_EQ(made().size(), find("picS")->size());
+    const int pictures = made().imageCount();
+    // Too large? The same film with fewer pictures, in its place.
+    QPointer<Recording> former = recording();
+    QTest::mouseClick(former->findChild<QPushButton*>("offer"), Qt::LeftButton);
+    ASSERT_TRUE(await([&] { return former == nullptr; }));
+    awaitFilm();
+    EXPECT_LT(made().imageCount(), 0.6 * pictures);
+    EXPECT_FALSE(recording()->findChild<QPushButton*>("offer")->isVisible());
 
     QString opened;
     recording()->openFolder = [&](const QString& folder) { opened = folder; };
@@ -184,10 +195,11 @@ TEST_F(SharingTest, SavesTheTableOfTheSelectedNode) {
 
 TEST_F(SharingTest, ACancelledFilmAndAClosedWindowLeaveNothing) {
     for (const bool closed : {false, true}) {
-        fill({{"format", 0}, {"unit", 1}, {"length", 1000000}, {"scale", 1}});
+        fill({{"format", webPage}, {"unit", 1}, {"length", 1000000}, {"scale", 1}});
         name(out("film"));
         share("shareFilm");
         ASSERT_TRUE(recording()->isRunning());
+        EXPECT_TRUE(await([this] { return filmText().contains("\nIt will have about "); }));
         auto* bar = recording()->findChild<QProgressBar*>();
         EXPECT_TRUE(bar->isVisible());
         if (closed)
@@ -200,7 +212,7 @@ TEST_F(SharingTest, ACancelledFilmAndAClosedWindowLeaveNothing) {
 }
 
 TEST_F(SharingTest, AFolderThatIsGoneIsSaid) {
-    fill({{"format", 0}, {"unit", 1}, {"length", 300}, {"scale", 1}});
+    fill({{"format", gif}, {"unit", 1}, {"length", 300}, {"scale", 1}});
     name(out("film"));
     share("shareFilm");
     fs::remove_all(folder_.path / "out");

@@ -13,7 +13,7 @@ namespace zentrik {
 struct FilmChoice {
     int format = 0;  // place among the formats
     RunLength length;
-    int rate = 20;
+    int rate = 25;
     Look look;
 };
 FilmPlan planOf(const Editor& ed, const FilmChoice& choice);

@@ -16,6 +16,7 @@ namespace zentrik {
 namespace {
 
 constexpr double besideText = 0.4;  // of the width, for a picture in a table
+constexpr int rest = 100;           // milliseconds
 
 QString manualMarkdown() {
     QFile file(":/docs/manual.md");
@@ -50,6 +51,8 @@ ManualText::ManualText(QWidget* parent) : QTextBrowser(parent) {
     playFilms();
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // the pictures are fitted beside it
     setOpenLinks(false);
+    resting_.setSingleShot(true);
+    connect(&resting_, &QTimer::timeout, this, &ManualText::scalePictures);
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { followLink(link); });
 }
 
@@ -73,11 +76,8 @@ void ManualText::playFilms() {
         const QString name = place.charFormat().toImageFormat().name();
         if (!name.endsWith(".gif")) continue;
         auto* film = new QMovie(":/docs/" + name, {}, this);
-        const QUrl shown = document()->baseUrl().resolved(name);
-        connect(film, &QMovie::frameChanged, this, [this, film, shown] {
-            document()->addResource(QTextDocument::ImageResource, shown, film->currentPixmap());
-            viewport()->update();
-        });
+        connect(film, &QMovie::frameChanged, this,
+                [this, film, name] { showPicture(name, film->currentImage()); });
         film->start();
     }
 }
@@ -93,7 +93,13 @@ void ManualText::goTo(int position) {
 
 void ManualText::resizeEvent(QResizeEvent* event) {
     fitPictures();
+    resting_.start(rest);
     QTextBrowser::resizeEvent(event);
+}
+
+void ManualText::paintEvent(QPaintEvent* event) {
+    if (ratio_ != devicePixelRatioF()) resting_.start(0);
+    QTextBrowser::paintEvent(event);
 }
 
 void ManualText::fitPictures() {
@@ -106,11 +112,38 @@ void ManualText::fitPictures() {
         const double part = cursor.currentTable() != nullptr ? besideText : 1;
         const double width = std::min(natural.width() * 1.0, room * part);
         if (natural.isEmpty() || format.width() == width) continue;
-        format.setWidth(width);
-        format.setHeight(width * natural.height() / natural.width());
+        const QSizeF size(width, width * natural.height() / natural.width());
+        sizes_[format.name()] = size;
+        format.setWidth(size.width());
+        format.setHeight(size.height());
         cursor.setPosition(place.position() + place.length(), QTextCursor::KeepAnchor);
         cursor.setCharFormat(format);
     }
+}
+
+int ManualText::wholePicturesWidth() const {
+    int widest = 0;
+    for (const QTextFragment& place : picturesOf(*document()))
+        widest = std::max(widest,
+                          QImageReader(":/docs/" + place.charFormat().toImageFormat().name()).size().width());
+    const int around = 2 * static_cast<int>(document()->documentMargin()) + 2 * frameWidth();
+    return widest + around + verticalScrollBar()->sizeHint().width();
+}
+
+void ManualText::scalePictures() {
+    ratio_ = devicePixelRatioF();
+    for (auto it = sizes_.cbegin(); it != sizes_.cend(); ++it)
+        if (!it.key().endsWith(".gif")) showPicture(it.key(), QImage(":/docs/" + it.key()));
+}
+
+// The text's painter leaves out pixels when it makes a picture smaller, and with them thin lines.
+void ManualText::showPicture(const QString& name, const QImage& picture) {
+    QImage scaled = picture.scaled((sizes_.value(name, picture.size()) * devicePixelRatioF()).toSize(),
+                                   Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(devicePixelRatioF());
+    document()->addResource(QTextDocument::ImageResource, document()->baseUrl().resolved(name),
+                            QPixmap::fromImage(scaled));
+    viewport()->update();
 }
 
 void ManualText::followLink(const QUrl& link) {

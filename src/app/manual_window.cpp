@@ -14,6 +14,7 @@ namespace zentrik {
 
 namespace {
 
+constexpr int contentsWidth = 230;       // device-independent pixels
 constexpr int placeRole = Qt::UserRole;  // of an entry: where its chapter begins in the text
 
 }  // namespace
@@ -26,7 +27,6 @@ ManualWindow::ManualWindow(QWidget* parent)
     setObjectName("Manual");
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle("Zentrik - Manual");
-    resize(QSize(980, 720).boundedTo(screen()->availableSize()));
     text_->setAccessibleName("Text of the manual");
     contents_->setAccessibleName("Contents of the manual");
     search_->setAccessibleName("Search the manual");
@@ -41,10 +41,14 @@ ManualWindow::ManualWindow(QWidget* parent)
     split->addWidget(contents_);
     split->addWidget(text_);
     split->setStretchFactor(1, 1);
-    split->setSizes({240, 740});
+    split->setSizes({contentsWidth, text_->wholePicturesWidth()});
     auto* column = new QVBoxLayout(this);
     column->addWidget(search_);
     column->addWidget(split, 1);
+    const QMargins around = column->contentsMargins();
+    const int width =
+        contentsWidth + split->handleWidth() + text_->wholePicturesWidth() + around.left() + around.right();
+    resize(QSize(width, 760).boundedTo(screen()->availableSize()));
 
     connect(contents_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
         if (item != nullptr) text_->goTo(item->data(0, placeRole).toInt());

@@ -23,6 +23,11 @@ QString timeText(double seconds) {
     return whole < 60 ? QString("%1 s").arg(whole) : QString("%1 min %2 s").arg(whole / 60).arg(whole % 60);
 }
 
+QString sizeText(double bytes) {
+    return QLocale::c().formattedDataSize(std::llround(bytes), bytes < 1e6 ? 0 : 1,
+                                          QLocale::DataSizeSIFormat);
+}
+
 // Of a file, or of all files of a folder.
 qint64 sizeOf(const QFileInfo& made) {
     if (!made.isDir()) return made.size();
@@ -39,6 +44,7 @@ Recording::Recording(const QString& title, const QString& path, Job job, QWidget
       text_(new QLabel(this)),
       bar_(new QProgressBar(this)),
       folder_(new QPushButton("Open &Folder", this)),
+      offer_(new QPushButton(this)),
       end_(new QPushButton("Cancel", this)) {
     setObjectName("Recording");
     setWindowTitle(title);
@@ -50,17 +56,21 @@ Recording::Recording(const QString& title, const QString& path, Job job, QWidget
     bar_->setRange(0, 1000);
     bar_->setAccessibleName("Progress");
     auto* row = new QDialogButtonBox(this);
+    row->addButton(offer_, QDialogButtonBox::ActionRole);
     row->addButton(folder_, QDialogButtonBox::ActionRole);
     row->addButton(end_, QDialogButtonBox::RejectRole);
     folder_->setVisible(false);  // until there is something in it
+    offer_->setObjectName("offer");
+    offer_->setVisible(false);
     auto* column = new QVBoxLayout(this);
     for (QWidget* part : std::initializer_list<QWidget*>{text_, bar_, row}) column->addWidget(part);
     connect(row, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(folder_, &QPushButton::clicked, this, [this] { openFolder(QFileInfo(path_).absolutePath()); });
     connect(&look_, &QTimer::timeout, this, &Recording::showProgress);
     thread_.reset(QThread::create([this, job = std::move(job)] {
-        result_ = job([this](double done) {
-            done_ = done;
+        result_ = job([this](const FilmState& state) {
+            done_ = state.done;
+            expectedSize_ = state.expectedSize;
             return !cancelled_;
         });
     }));
@@ -72,6 +82,13 @@ Recording::Recording(const QString& title, const QString& path, Job job, QWidget
 }
 
 Recording::~Recording() { cancel(); }
+
+void Recording::offer(const QString& caption, const QString& tip, std::function<void()> chosen) {
+    offer_->setText(caption);
+    offer_->setToolTip(tip);
+    offer_->setVisible(true);
+    connect(offer_, &QPushButton::clicked, this, std::move(chosen));
+}
 
 void Recording::cancel() {
     if (!isRunning()) return;
@@ -93,7 +110,9 @@ void Recording::showProgress() {
     const double passed = static_cast<double>(since_.elapsed()) / 1000;
     const QString left =
         part > 0 && passed > 0.5 ? timeText(passed * (1 - part) / part) + " left" : QString("just begun");
-    text_->setText(QString("Making %1: %2").arg(QFileInfo(path_).fileName(), left));
+    const double size = expectedSize_;
+    const QString large = size > 0 ? QString("\nIt will have about %1").arg(sizeText(size)) : QString("\n");
+    text_->setText(QString("Making %1: %2").arg(QFileInfo(path_).fileName(), left) + large);
 }
 
 void Recording::finish() {
@@ -106,13 +125,13 @@ void Recording::finish() {
     const QFileInfo file(path_);
     QString text = QString::fromStdString(result_.problem);
     if (text.isEmpty()) {
-        text = file.fileName() + ", " +
-               QLocale::c().formattedDataSize(sizeOf(file), 0, QLocale::DataSizeSIFormat);
+        text = file.fileName() + ", " + sizeText(static_cast<double>(sizeOf(file)));
         if (!result_.stopped.empty())
             text += "\nThe run ended early. " + QString::fromStdString(result_.stopped);
         folder_->setVisible(true);
         folder_->setFocus();
     } else {
+        offer_->setVisible(false);
         text = QString("%1 could not be made.\n%2").arg(file.fileName(), text);
     }
     text_->setText(text);

@@ -23,6 +23,8 @@ public:
     ~Recording() override;
 
     std::function<void(const QString& folder)> openFolder;
+    // Shows a button beside the size, while the work is done and after.
+    void offer(const QString& caption, const QString& tip, std::function<void()> chosen);
 
     bool isRunning() const { return thread_ != nullptr; }
 
@@ -34,11 +36,12 @@ private:
     QLabel* const text_;
     QProgressBar* const bar_;
     QPushButton* const folder_;
+    QPushButton* const offer_;
     QPushButton* const end_;  // Cancel, then Close
     QTimer look_;
     QElapsedTimer since_;
     std::unique_ptr<QThread> thread_;
-    std::atomic<double> done_ = 0;
+    std::atomic<double> done_ = 0, expectedSize_ = 0;
     std::atomic<bool> cancelled_ = false;
     FilmResult result_;
 

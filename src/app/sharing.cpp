@@ -18,6 +18,7 @@ namespace zentrik {
 
 namespace {
 
+constexpr int fewPictures = 10;  // a second
 constexpr const char* pictureSuffixes[] = {"png", "svg", "pdf"};
 
 // The project's name as a file may have it.
@@ -118,11 +119,26 @@ void Sharing::recordAnimation() {
     film_ = dialog.choice();
     const FilmFormat& format = filmFormats()[static_cast<std::size_t>(film_.format)];
     const QString file = askName(format.name, format.suffix);
-    if (file.isEmpty()) return;
+    if (!file.isEmpty()) makeFilm(std::make_shared<Editor>(ed_), file);
+}
+
+// A film that grows too large can be had with fewer pictures, of the same run.
+void Sharing::makeFilm(const std::shared_ptr<const Editor>& from, const QString& file) {
+    const FilmFormat& format = filmFormats()[static_cast<std::size_t>(film_.format)];
     work("Record Animation", file,
-         [ed = ed_, &format, plan = planOf(ed_, film_), path = file.toStdString()](const FilmProgress& goOn) {
-             return makeFilm(ed, format, plan, path, goOn);
+         [from, &format, plan = planOf(*from, film_), path = file.toStdString()](const FilmProgress& goOn) {
+             return zentrik::makeFilm(*from, format, plan, path, goOn);
          });
+    const bool isFolder = *format.suffix == '\0';
+    if (film_.rate <= fewPictures || isFolder) return;
+    recording_->offer(QString("%1 &Pictures a Second").arg(fewPictures),
+                      QString("Makes a smaller file: the same film with %1 pictures a second instead of %2")
+                          .arg(fewPictures)
+                          .arg(film_.rate),
+                      [this, from, file] {
+                          film_.rate = fewPictures;
+                          makeFilm(from, file);
+                      });
 }
 
 void Sharing::saveTable() {

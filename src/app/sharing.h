@@ -6,6 +6,7 @@
 #include "app/table_dialog.h"
 
 #include <QPointer>
+#include <memory>
 
 namespace zentrik {
 
@@ -34,6 +35,7 @@ private:
     void copyPicture();
     void savePicture();
     void recordAnimation();
+    void makeFilm(const std::shared_ptr<const Editor>& from, const QString& file);
     void saveTable();
     bool isBusy();
     void work(const char* title, const QString& file, Recording::Job job);

@@ -121,8 +121,8 @@ ExitStatus exportFilm(const Editor& ed, const FilmFormat& format, const std::str
     FilmResult result;
     {
         Progress progress(streams, "pictures", count);
-        result = makeFilm(ed, format, plan, file, [&](double done) {
-            progress.show(std::llround(done * static_cast<double>(count)));
+        result = makeFilm(ed, format, plan, file, [&](const FilmState& state) {
+            progress.show(std::llround(state.done * static_cast<double>(count)));
             return true;
         });
     }

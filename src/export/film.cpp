@@ -21,8 +21,8 @@ std::unique_ptr<FilmWriter> make(const std::string& path, const Editor& ed, cons
 }
 
 constexpr FilmFormat formats[] = {
-    {"GIF", "gif", 20, 50, true, make<GifWriter>},
     {"Web page", "html", 25, 100, true, make<PageWriter>},
+    {"GIF", "gif", 20, 50, true, make<GifWriter>},
     {"MP4 video", "mp4", 30, 100, false, make<Mp4Writer>},
     {"WebM video", "webm", 30, 100, true, make<WebmWriter>},
     {"Folder of numbered PNG pictures", "", 25, 100, true, make<NumberedWriter>},
@@ -47,14 +47,20 @@ FilmResult makeFilm(const Editor& ed, const FilmFormat& format, const FilmPlan& 
     result.problem = folderProblem(path);
     if (!result.problem.empty()) return result;
     const auto writer = format.makeWriter(path, ed, plan);
-    const double work = static_cast<double>(pictureCount(ed, plan)) * (writer->looksFirst() ? 2 : 1);
+    const auto pictures = static_cast<double>(pictureCount(ed, plan));
+    const double before = writer->looksFirst() ? pictures : 0;
     double done = 0;
+    const auto state = [&] {
+        const double taken = done - before;
+        return FilmState{done / (before + pictures), taken > 0 ? writer->expectedSize(taken / pictures) : 0};
+    };
     // False when it is over before the film is.
     const auto show = [&](auto take) {
         Reel reel(ed, plan);
         do {
             result.problem = take(reel.subject());
-            result.cancelled = result.problem.empty() && !goOn(++done / work);
+            ++done;
+            result.cancelled = result.problem.empty() && !goOn(state());
             if (!result.problem.empty() || result.cancelled) return false;
         } while (reel.next());
         result.stopped = reel.stopped();

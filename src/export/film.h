@@ -22,6 +22,10 @@ public:
     // Both give the problem in words, or the empty text.
     virtual std::string take(const Subject& subject) = 0;
     virtual std::string finish() = 0;
+
+    // How many bytes the file will have, seen from the part of the pictures taken, 0 to 1; 0 where nobody
+    // knows.
+    virtual double expectedSize(double part) const = 0;
 };
 
 struct FilmFormat {
@@ -43,8 +47,12 @@ struct FilmResult {
 // Of a film or table that nobody gave a length, in seconds of the model's time.
 inline constexpr double usualFilm = 10;
 
-// Told how much of the work is done, 0 to 1; false ends it. Called by the thread that makes the film.
-using FilmProgress = std::function<bool(double done)>;
+struct FilmState {
+    double done = 0;          // of the work, 0 to 1
+    double expectedSize = 0;  // of the file, bytes; 0 while nobody knows
+};
+// Told how far it is; false ends it. Called by the thread that makes the film.
+using FilmProgress = std::function<bool(const FilmState&)>;
 
 // Makes the film, wholly or not at all, and replaces a file at the path. Any thread may call it.
 FilmResult makeFilm(const Editor& ed, const FilmFormat& format, const FilmPlan& plan, const std::string& path,

@@ -19,6 +19,7 @@ public:
     void look(const Subject& subject) override;
     std::string take(const Subject& subject) override;
     std::string finish() override;
+    double expectedSize(double part) const override { return static_cast<double>(bytes_.size()) / part; }
 
 private:
     using Indexed = std::vector<std::uint8_t>;  // a picture, as places in the palette

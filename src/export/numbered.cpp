@@ -45,6 +45,7 @@ std::string NumberedWriter::take(const Subject& subject) {
     number.insert(0, digits_ - std::min(digits_, number.size()), '0');
     const std::string bytes = pngBytes(sceneImage(subject, plan_.look));
     if (bytes.empty()) return "So large a picture cannot be made.";
+    size_ += static_cast<double>(bytes.size());
     return writeFile(aside_ + "/" + number + ".png", bytes);
 }
 

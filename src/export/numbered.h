@@ -11,12 +11,14 @@ public:
 
     std::string take(const Subject& subject) override;
     std::string finish() override;
+    double expectedSize(double part) const override { return size_ / part; }
 
 private:
     const std::string path_, aside_;  // the latter while it grows
     const FilmPlan plan_;
     const std::size_t digits_;
     std::int64_t taken_ = 0;
+    double size_ = 0;  // of what is taken, bytes
 
     std::string makeFolder() const;
 };

@@ -124,6 +124,17 @@ QByteArray PageWriter::film() const {
            "],\n\"moves\":\"" + moves_.toBase64() + "\"}";
 }
 
+// The moves grow with every picture, in four letters for three bytes; what they move seldom does.
+double PageWriter::expectedSize(double part) const {
+    static const auto playerSize = static_cast<double>(player().size());
+    double seldom = 0;
+    for (const Chapter& chapter : chapters_)
+        seldom += 4 * static_cast<double>(chapter.shapes.size() + chapter.points.size());
+    for (const auto* texts : {&tables_.styles, &tables_.outlines, &tables_.images})
+        for (const QString& text : *texts) seldom += static_cast<double>(text.size()) + 4;
+    return playerSize + seldom + static_cast<double>(moves_.size()) / part * 4 / 3;
+}
+
 std::string PageWriter::finish() {
     endStill();
     QByteArray page = player();

@@ -12,6 +12,7 @@ public:
 
     std::string take(const Subject& subject) override;
     std::string finish() override;
+    double expectedSize(double part) const override;
 
 private:
     // Pictures that show the same shapes in other places. Shapes that meet in a point share it.

@@ -26,7 +26,7 @@ FilmResult makeTable(const Editor& ed, std::int64_t steps, const std::string& pa
     std::string text;
     FilmResult result;
     result.stopped = runTable(model, steps, text, [&](std::int64_t step) {
-        result.cancelled = !goOn(static_cast<double>(step) / static_cast<double>(steps));
+        result.cancelled = !goOn({static_cast<double>(step) / static_cast<double>(steps)});
         return !result.cancelled;
     });
     if (!result.cancelled) result.problem = writeFile(path, text);

@@ -15,6 +15,7 @@ public:
 
     std::string take(const Subject& subject) override;
     std::string finish() override;
+    double expectedSize(double) const override { return 0; }  // the encoder keeps most pictures to itself
 
 private:
     const Kind kind_;

@@ -61,7 +61,7 @@ Numbers spokedWheel(Editor& ed, double x, double y, double radius, std::int32_t 
     return rim;
 }
 
-void addWalker(Editor& ed, double x, double y) {
+void addWalker(Editor& ed, double x, double y, Nose nose) {
     const Numbers back = row(ed, x, y - 600, x + 3600, y - 600, 9, navy, 1.5F);
     const Numbers belly = row(ed, x, y, x + 3600, y, 9, sky, 1.5F);
     chain(ed, back, 24);
@@ -77,11 +77,11 @@ void addWalker(Editor& ed, double x, double y) {
         drive(ed, join(ed, belly[hip], foot, 30), beat, 0.15);
         drive(ed, join(ed, belly[hip + 2], foot, 30), beat + 90, 0.15);
     }
-    const Nose light{0.7F, 12}, heavy{7, 1.6F};
+    const Nose light{0.7F, 12};
     const std::int32_t head = addNose(ed, x + 4050, y - 950, {back.back(), belly.back()}, navy, light);
-    addNose(ed, x + 4500, y - 750, {back.back(), belly.back(), head}, coral, heavy);
+    addNose(ed, x + 4500, y - 750, {back.back(), belly.back(), head}, coral, nose);
     const std::int32_t rump = addNose(ed, x - 350, y - 650, {back[0], back[1], belly[0]}, sky, light);
-    addNose(ed, x - 770, y - 1000, {back[0], back[1], rump}, coral, heavy);
+    addNose(ed, x - 770, y - 1000, {back[0], back[1], rump}, coral, nose);
 }
 
 void addBench(Editor& ed, double x, double y) {

@@ -37,6 +37,9 @@ Numbers spokedWheel(Editor& ed, double x, double y, double radius, std::int32_t 
 // A body of triangles on two pairs of feet, about 2400 twips long; (x, y) is its first hip.
 void addBench(Editor& ed, double x, double y);
 // A long truss on three pairs of feet, a heavy nose at either end.
-void addWalker(Editor& ed, double x, double y);
+void addWalker(Editor& ed, double x, double y, Nose nose = {7, 1.6F});
+// The noses of one that comes to walls for ever: the body rams them away from the wall, and no wave of its
+// gait brings them back before it has left.
+inline constexpr Nose ram{17, 12};
 
 }  // namespace zentrik::zoo

@@ -14,7 +14,7 @@ namespace zentrik::zoo {
 Editor car() {
     Editor ed =
         project("Out for a drive",
-                {.gravity = 0.3F, .friction = 0.5F, .viscosity = 0.1F, .bounce = 0.1F, .deltaAngle = 1.2F});
+                {.gravity = 0.29F, .friction = 0.5F, .viscosity = 0.1F, .bounce = 0.1F, .deltaAngle = 1.2F});
     const double x = 1400, y = 2300, apart = 2000;
     const Wheel back = addWheel(ed, x, y, 480, ink, 10), front = addWheel(ed, x + apart, y, 480, ink, 10);
     const Numbers sill = row(ed, x - 500, y - 650, x + apart + 600, y - 650, 6, coral);
@@ -52,7 +52,7 @@ Editor caterpillar() {
         drive(ed, below[m], phase + 180, force);
     }
     for (std::size_t m = 2; m < back.size(); m += 4) nodeAt(ed, back[m]).color = amber;
-    const Nose feeler{4, 2};
+    const Nose feeler{6, 2};
     addNose(ed, 250, 2600, {back.front(), belly.front(), back[2]}, teal, feeler);
     addNose(ed, 5850, 2600, {back.back(), belly.back(), back[cells - 3]}, coral, feeler);
     return ed;
@@ -117,8 +117,8 @@ Editor tower() {
 Editor walker() {
     Editor ed =
         project("Six legs out for a walk",
-                {.gravity = 0.25F, .friction = 0.9F, .viscosity = 0.1F, .bounce = 0.1F, .deltaAngle = 2.4F});
-    addWalker(ed, 1100, 1750);
+                {.gravity = 0.25F, .friction = 0.9F, .viscosity = 0.2F, .bounce = 0.1F, .deltaAngle = 2.4F});
+    addWalker(ed, 1100, 1750, ram);
     return ed;
 }
 
@@ -127,18 +127,18 @@ Editor climber() {
     Editor ed =
         project("Against the wind it climbs as on a hill, with it it comes down again", {.gravity = 0.25F,
                                                                                          .friction = 0.9F,
-                                                                                         .viscosity = 0.1F,
+                                                                                         .viscosity = 0.2F,
                                                                                          .bounce = 0.1F,
                                                                                          .deltaAngle = 2.6F,
                                                                                          .wind = -0.3F});
-    addWalker(ed, 1100, 1750);
+    addWalker(ed, 5000, 1750, ram);  // far from the wall that the wind blows it to while it falls
     return ed;
 }
 
 Editor wheel() {
     Editor ed =
         project("Wheels that roll by leaning",
-                {.gravity = 0.5F, .friction = 0.5F, .viscosity = 0.02F, .bounce = 0.1F, .deltaAngle = 1.1F});
+                {.gravity = 0.5F, .friction = 0.5F, .viscosity = 0.04F, .bounce = 0.1F, .deltaAngle = 1.1F});
     addWheel(ed, 1600, 1750, 1000, coral, 25);
     addWheel(ed, 4800, 2000, 800, teal, 22);
     return ed;

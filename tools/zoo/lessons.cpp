@@ -109,7 +109,7 @@ Editor twoMuscles() {
 Editor rollingWheel() {
     Editor ed =
         project("Spokes lengthen in turn, so the wheel rolls. Structures builds such rings",
-                {.gravity = 0.5F, .friction = 0.5F, .viscosity = 0.02F, .bounce = 0.1F, .deltaAngle = 1.1F});
+                {.gravity = 0.5F, .friction = 0.5F, .viscosity = 0.05F, .bounce = 0.1F, .deltaAngle = 1.1F});
     addWheel(ed, 2200, 1900, 950, coral, 25);
     return ed;
 }

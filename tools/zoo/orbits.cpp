@@ -52,7 +52,7 @@ Editor moon() {
 }
 
 Editor planets() {
-    const double g = 0.125, distance = 1150;
+    const double g = 0.09, distance = 1150;
     Editor ed = project("The sun attracts its planets; the lighter ones overtake. Try Display Sprites",
                         {.gravity = 0, .viscosity = giveBack(g, distance), .timeInterval = 1000 * step});
     const std::int32_t sun = attract(ed, pin(ed, 7140, 1680, amber), g);
