@@ -4,6 +4,7 @@
 #include "window_rig.h"
 
 #include <QAbstractItemView>
+#include <QColorDialog>
 
 namespace zentrik {
 
@@ -123,6 +124,28 @@ TEST_F(WayBack, UndoAndRedoByKeyAndButton) {
     EXPECT_FALSE(ed().Timer1.enabled);
     EXPECT_EQ(panelText(5), "Undone: Animation run");
     EXPECT_EQ(ed().AnimationTime, 0);
+}
+
+TEST_F(WayBack, EveryButtonNamesItsStep) {
+    click({100, 100});
+    click({300, 100});
+    ASSERT_EQ(ed().SelectedNode, 2);
+    const auto undoTip = [&] { return find<QToolButton>("undo")->toolTip().toStdString(); };
+    for (const char* key : {"locked", "shooter"}) {
+        pressProperty(key);
+        const std::string said = ed().panels[4];
+        QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
+        window_->perform("", [&](Editor& record, Host&) { panel(record, 5) = said; });
+        pressProperty(key);  // says nothing new
+        const std::string name = button("Toolbar2", key)->accessibleName().toStdString();
+        EXPECT_EQ(undoTip(), "Undo: " + name + " (Alt+Backspace)");
+    }
+    inNextBox([](QWidget& box) {
+        dynamic_cast<QColorDialog&>(box).setCurrentColor(Qt::cyan);
+        dynamic_cast<QColorDialog&>(box).accept();
+    });
+    pressProperty("color");
+    EXPECT_EQ(undoTip(), "Undo: Node Color (Alt+Backspace)");
 }
 
 }  // namespace

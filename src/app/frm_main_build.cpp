@@ -29,9 +29,9 @@ namespace {
 // A caption as it reads: without the mark of its access key.
 std::string plainCaption(const char* caption) { return QString(caption).remove('&').toStdString(); }
 
-// A label as it reads alone: "Gravity: " is "Gravity".
+// A label as it reads alone: "Gravity: " is "Gravity". Buttons without presets have their tip.
 std::string plainLabel(const PropertyRow& row) {
-    return QString(row.label != nullptr ? row.label : row.fixedTip).remove(": ").toStdString();
+    return QString(row.label[0] != '\0' ? row.label : row.fixedTip).remove(": ").toStdString();
 }
 
 }  // namespace

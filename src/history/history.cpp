@@ -4,6 +4,7 @@
 #include "model/store.h"
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 namespace zentrik {
@@ -36,6 +37,7 @@ void forgetTheOldest(History& history) {
 bool record(History& history, const Editor& ed, const std::string& what, bool isRun = false) {
     std::optional<Difference> difference = differenceBetween(history.shown, ed);
     if (!difference) return false;
+    assert(!what.empty());  // the undo button shows it
     Step step{what,          history.context,  contextOf(ed), *std::move(difference),
               history.state, ++history.newest, isRun};
     noteStep(history, ed, step);

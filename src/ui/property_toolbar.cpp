@@ -10,6 +10,8 @@
 #include "model/store.h"
 #include "ui/property_commands.h"
 
+#include <algorithm>
+
 namespace zentrik {
 
 namespace {
@@ -128,6 +130,11 @@ constexpr PropertyRow rows[] = {
 static_assert(!anyShared(rows, [](const PropertyRow& row) { return std::string_view(row.key); }) &&
                   !anyShared(rows, [](const PropertyRow& row) { return row.pressed; }),
               "two buttons share a key or a state");
+static_assert(std::all_of(std::begin(rows), std::end(rows),
+                          [](const PropertyRow& row) {
+                              return !row.isButton() || row.label[0] != '\0' || row.fixedTip[0] != '\0';
+                          }),
+              "a button has no name that undo could show");
 
 bool ownerExists(const Editor& ed, const PropertyRow& row) {
     if (row.owner == Owner::node) return nodeExists(ed, ed.SelectedNode);

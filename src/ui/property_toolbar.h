@@ -47,7 +47,7 @@ struct PropertyRow {
     std::string Tips::*presetTip = nullptr;  // which shows that value instead of the button's own tip
     bool redrawStrip = false;                // the phase strip shows this quantity
 
-    bool isButton() const { return style != ButtonStyle::separator && style != ButtonStyle::room; }
+    constexpr bool isButton() const { return style != ButtonStyle::separator && style != ButtonStyle::room; }
     bool isVisible(const Editor& ed) const {
         return pair == Pair::always || (pair == Pair::directional) == ed.marks.mnuUseDirectional;
     }
