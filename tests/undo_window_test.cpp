@@ -1,6 +1,8 @@
 // The way back as a person takes it: the project list's line that loads nothing by itself, undo and redo
 // by key and by button, and the mark of unsaved changes.
 
+#include "project/manage.h"
+#include "ui/project_menu.h"
 #include "window_rig.h"
 
 #include <QAbstractItemView>
@@ -146,6 +148,24 @@ TEST_F(WayBack, EveryButtonNamesItsStep) {
     });
     pressProperty("color");
     EXPECT_EQ(undoTip(), "Undo: Node Color (Alt+Backspace)");
+}
+
+TEST_F(WayBack, ARenameIsNoStep) {
+    click({100, 100});
+    saveAs("wa");
+    click({300, 100});
+    press("save");
+    answerNext("wz", Qt::Key_Return);
+    for (const ProjectMenuRow& row : projectMenuRows())
+        if (row.command == renameProject) window_->perform(row.what, row.command);
+    ASSERT_EQ(ed().savedText, "wz");
+    QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
+    EXPECT_EQ(ed().savedText, "wz");
+    EXPECT_EQ(UsedNodes(ed()), 1);
+    press("save");
+    QTest::mouseClick(find<QToolButton>("redo"), Qt::LeftButton);
+    EXPECT_EQ(ed().savedText, "wz");
+    EXPECT_FALSE(std::filesystem::exists(folder_.path / "zoo" / "wa.bot"));
 }
 
 }  // namespace

@@ -21,7 +21,8 @@ Context contextOf(const Editor& ed) {
 }
 
 std::size_t bytesOf(const Step& step) {
-    return sizeof step + step.difference.size() + step.what.size() + 2 * step.before.savedText.size();
+    return sizeof step + step.difference.size() + step.what.size() + step.before.savedText.size() +
+           step.after.savedText.size();
 }
 
 void forget(History& history, std::deque<Step>& steps) {
@@ -79,12 +80,28 @@ std::string commandName(const History& history, const Editor& ed, const std::str
     return text;
 }
 
+// A rename is no step: undo and redo lead to the new name.
+void renameInSteps(History& history, const std::string& from, const std::string& to) {
+    const auto rename = [&](Context& context) {
+        if (context.savedText == from) context.savedText = to;
+    };
+    for (auto* steps : {&history.done, &history.undone})
+        for (Step& step : *steps) {
+            history.bytes -= bytesOf(step);
+            rename(step.before), rename(step.after);
+            history.bytes += bytesOf(step);
+        }
+    rename(history.context);
+}
+
 // What a renamed file holds the new one holds; a deleted one holds nothing.
 void followFiles(History& history, const Editor& ed) {
     if (std::exchange(history.goneCount, ed.goneCount) == ed.goneCount) return;
-    auto file = history.filed.extract(ed.goneName);
-    if (file.empty() || ed.savedText == ed.goneName) return;
-    history.filed[ed.savedText] = file.mapped();
+    const auto file = history.filed.extract(ed.goneName);
+    const std::string former = history.context.savedText;  // with the blanks that were typed around it
+    if (former == ed.savedText) return;
+    if (!file.empty()) history.filed[ed.savedText] = file.mapped();
+    for (const std::string& name : {former, ed.goneName}) renameInSteps(history, name, ed.savedText);
 }
 
 void endTick(History& history, const Editor& ed) {
