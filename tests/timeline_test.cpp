@@ -55,6 +55,10 @@ protected:
         command(act);
         images_.back() = imageOf(ed_);
     }
+    void singleStep() {
+        command([&] { singleClicked(ed_, host_); });
+        perform(Event::timer, [&] { tick(timeline_, ed_); });
+    }
     void stop() {
         command([&] { stopAnimation(ed_); });
     }
@@ -132,6 +136,26 @@ TEST_F(TimeTravel, AChangeAtAnEarlierTimeMakesThatThePresent) {
     EXPECT_TRUE(imageOf(ed_) == end) << "what was dropped comes back by undo";
 }
 
+TEST_F(TimeTravel, GivesBackTheCyclesThatTheColoursChangeBy) {
+    Editor ed = scenes::fullScreen();
+    scenes::addNodes(ed, {{3000, 1000}, {4000, 1000}});
+    ed.marks.mnuRandom = true;
+    begin(ed);
+    run(47);
+    stop();
+    go(-7);
+    EXPECT_EQ(panel(ed_, 3), "Cycles: 40");
+    for (int i = 41; i <= 49; ++i) {
+        singleStep();
+        EXPECT_TRUE(i > 47 || asItWas()) << i;
+    }
+    const std::string last = imageOf(ed_);
+    go(-6);
+    EXPECT_TRUE(asItWas());
+    go(6);
+    EXPECT_TRUE(imageOf(ed_) == last);
+}
+
 TEST_F(TimeTravel, StartingGoesOnFromThere) {
     Editor ed = scenes::fullScreen();
     scenes::addNodes(ed, {{3000, 1000}});
@@ -140,10 +164,7 @@ TEST_F(TimeTravel, StartingGoesOnFromThere) {
     const std::string fortieth = images_.back();
     stop();
     go(-15);
-    for (int i = 0; i < 3; ++i) {
-        command([&] { singleClicked(ed_, host_); });
-        perform(Event::timer, [&] { tick(timeline_, ed_); });
-    }
+    for (int i = 0; i < 3; ++i) singleStep();
     EXPECT_EQ(timeline_.last, 28);
     EXPECT_TRUE(imageOf(ed_) == images_[28]);
     command([&] { ed_.buttons.start = true, startClicked(ed_, host_); });

@@ -140,6 +140,7 @@ void travel(Timeline& timeline, Editor& ed, std::int64_t steps) {
     }
     copyContents(ed, replay);
     ed.InitialVelocityPending = replay.InitialVelocityPending;
+    ed.Cycles = replay.Cycles;
 }
 
 }  // namespace zentrik

@@ -20,6 +20,7 @@ void travelBy(Editor& ed, History& history, Timeline& timeline, int steps) {
     ed.HoverNode = ed.HoverLink = none;
     ed.DrawMode = ed.DrawMode && ed.SelectedNode != none;
     showCounts(ed);
+    panel(ed, 3) = "Cycles: " + std::to_string(ed.Cycles);
     redrawPhaseManager(ed, ed.AnimationTime);
     DisplayScene(ed, -1, -1);
     panel(ed, 5) = "Step " + std::to_string(timeline.at) + " of " + std::to_string(timeline.last);
