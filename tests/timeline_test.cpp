@@ -39,6 +39,7 @@ protected:
     }
     void perform(Event event, auto act) {
         beginEvent(history_, ed_, event);
+        noteBegin(timeline_, history_);
         act();
         endEvent(history_, ed_, event, "Change");
         followEvent(timeline_, ed_, history_, event);
@@ -62,6 +63,8 @@ protected:
     void stop() {
         command([&] { stopAnimation(ed_); });
     }
+    void undo() { retrace(ed_, history_, timeline_, undoLast); }
+    void redo() { retrace(ed_, history_, timeline_, redoNext); }
     void go(int steps) { travelBy(ed_, history_, timeline_, steps); }
     bool asItWas() const { return imageOf(ed_) == images_.at(static_cast<std::size_t>(timeline_.at)); }
     void wander(std::uint32_t seed, int ways) {
@@ -69,7 +72,7 @@ protected:
         for (; ways > 0; --ways) {
             const int far = random() % 3 == 0 ? 400 : 3;
             go(static_cast<int>(random() % static_cast<unsigned>(2 * far + 1)) - far);
-            ASSERT_TRUE(asItWas()) << "step " << timeline_.at << " of " << timeline_.last << ", seed "
+            ASSERT_TRUE(asItWas()) << "step " << timeline_.at << " of " << timeline_.run.last << ", seed "
                                    << seed;
         }
     }
@@ -98,7 +101,7 @@ TEST_F(TimeTravel, GivesTheSameBitsWhateverHappenedInTheRun) {
         run(60);
         stop();
         wander(seed, 60);
-        EXPECT_LE(timeline_.bytes, timeline_.limit + 200000);
+        EXPECT_LE(timeline_.run.bytes, timeline_.limit + 200000);
     }
 }
 
@@ -131,9 +134,12 @@ TEST_F(TimeTravel, AChangeAtAnEarlierTimeMakesThatThePresent) {
     EXPECT_EQ(ed_.Nodes[1].Mass, 1);
     go(1);
     EXPECT_EQ(ed_.Nodes[1].Mass, 3);
-    undoLast(ed_, history_);
-    undoLast(ed_, history_);
+    undo();
+    undo();
     EXPECT_TRUE(imageOf(ed_) == end) << "what was dropped comes back by undo";
+    go(-1);
+    EXPECT_EQ(panel(ed_, 5), "Step 49 of 50") << "and so does the run";
+    EXPECT_TRUE(asItWas());
 }
 
 TEST_F(TimeTravel, GivesBackTheCyclesThatTheColoursChangeBy) {
@@ -165,7 +171,7 @@ TEST_F(TimeTravel, StartingGoesOnFromThere) {
     stop();
     go(-15);
     for (int i = 0; i < 3; ++i) singleStep();
-    EXPECT_EQ(timeline_.last, 28);
+    EXPECT_EQ(timeline_.run.last, 28);
     EXPECT_TRUE(imageOf(ed_) == images_[28]);
     command([&] { ed_.buttons.start = true, startClicked(ed_, host_); });
     go(-1);
@@ -174,10 +180,55 @@ TEST_F(TimeTravel, StartingGoesOnFromThere) {
     EXPECT_TRUE(imageOf(ed_) == fortieth);
     stop();
     go(-100);
-    EXPECT_TRUE(imageOf(ed_) == images_[28]) << "the run begins at its last start";
+    EXPECT_EQ(panel(ed_, 5), "Step 0 of 40") << "the run goes on over a start";
+    wander(1, 20);
+}
+
+TEST_F(TimeTravel, UndoLeadsBackIntoTheRun) {
+    Editor ed = scenes::fullScreen();
+    scenes::addNodes(ed, {{3000, 1000}, {4000, 1000}});
+    ed.marks.mnuRandom = true;
+    begin(ed);
+    const auto expectAt = [&](const char* text) {
+        EXPECT_EQ(panel(ed_, 5), text);
+        EXPECT_TRUE(asItWas()) << text;
+    };
+    const char* nowhere = "Start the animation first: there is no run to go through.";
+    run(50);
+    command([&] { ed_.Nodes[1].Mass = 3; });  // ends the step of the run, not the run
+    run(10);
+    stop();
+    undo();
+    go(1);
+    expectAt("Step 51 of 60");
+    go(-1);
+    undo();
+    images_[50] = imageOf(ed_);
+    go(0);
+    expectAt("Step 50 of 50");
+    undo();
+    go(7);
+    expectAt("Step 7 of 50");
+    singleStep();  // of one step with the journey before it
+    undo();
+    redo();
+    go(-2);
+    expectAt("Step 6 of 8");
     command([&] { ClearAnimation(ed_); });
     go(-1);
-    EXPECT_EQ(panel(ed_, 5), "Start the animation first: there is no run to go through.");
+    EXPECT_EQ(panel(ed_, 5), nowhere);
+    undo();
+    go(1);
+    expectAt("Step 7 of 8");
+    while (!history_.done.empty()) undo();
+    go(1);
+    expectAt("Step 1 of 8");
+    const auto nodes = ed_.Nodes;
+    command([&] { ClearAnimation(ed_); });
+    command([&] { ed_.Nodes = nodes; });
+    singleStep();
+    go(-1);
+    EXPECT_EQ(panel(ed_, 5), "Step 0 of 1") << "the run of another model";
 }
 
 }  // namespace

@@ -128,6 +128,27 @@ TEST_F(WayBack, UndoAndRedoByKeyAndButton) {
     EXPECT_EQ(ed().AnimationTime, 0);
 }
 
+TEST_F(WayBack, TheRunIsGoneThroughByKeysBehindAnyStartAndUndo) {
+    click({100, 100});
+    runAWhile();
+    const auto steps = ed().Cycles;
+    const auto expectAt = [&](int step, int last) {
+        EXPECT_EQ(panelText(5), QString("Step %1 of %2").arg(step).arg(last));
+        EXPECT_EQ(panelText(3), QString("Cycles: %1").arg(step));
+    };
+    key(Qt::Key_Left, Qt::ControlModifier);
+    key(Qt::Key_Left, Qt::ControlModifier);
+    expectAt(steps - 2, steps);
+    for (int i = 0; i < 2; ++i) QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
+    EXPECT_EQ(panelText(5), "Undone: Animation run");
+    key(Qt::Key_Right, Qt::ControlModifier);
+    expectAt(1, steps);
+    runAWhile();
+    const auto further = ed().Cycles;
+    key(Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
+    expectAt(0, further);
+}
+
 TEST_F(WayBack, EveryButtonNamesItsStep) {
     click({100, 100});
     click({300, 100});

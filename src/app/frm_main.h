@@ -122,6 +122,7 @@ private:
     void run(Event event, const std::string& what, Procedure procedure) {
         follow([&](Editor& ed, Host& host) {
             beginEvent(history_, ed, event);
+            noteBegin(timeline_, history_);
             procedure(ed, host);
             endEvent(history_, ed, event, what);
             followEvent(timeline_, ed, history_, event);

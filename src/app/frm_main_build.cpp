@@ -128,8 +128,7 @@ void frmMain::connectSharing() {
 
 void frmMain::connectUndo() {
     const auto take = [this](void (*way)(Editor&, History&)) {
-        follow([&](Editor& ed, Host&) { way(ed, history_); });
-        forgetRun(timeline_);
+        follow([&](Editor& ed, Host&) { retrace(ed, history_, timeline_, way); });
         leaveList();
     };
     undo_->undo = [take] { take(undoLast); };

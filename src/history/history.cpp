@@ -172,8 +172,6 @@ void endEvent(History& history, const Editor& ed, Event event, const std::string
 }
 
 void beginTravel(History& history, const Editor& ed) {
-    if (history.going == Going::travel) return;
-    closeStep(history, ed);
     history.context = contextOf(ed);
     history.going = Going::travel;
 }

@@ -92,7 +92,7 @@ void beginEvent(History& history, const Editor& ed, Event event);
 // what: names the step where the event itself did not say in status panel 5 what it did.
 void endEvent(History& history, const Editor& ed, Event event, const std::string& what);
 
-// The model is taken to another moment of its run; where it stays is a step.
+// The model is taken to another moment of its run; where it stays is a step. Nothing may be going on.
 void beginTravel(History& history, const Editor& ed);
 
 // Makes what is going on a step, so that it can be undone.

@@ -3,7 +3,9 @@
 #include "sim/run.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
+#include <numeric>
 
 namespace zentrik {
 
@@ -17,127 +19,190 @@ constexpr std::uint64_t spread = 0xD1342543DE82EF95U;  // parts the chance of on
 std::size_t bytesOf(const Moment& moment) {
     return sizeof moment + (moment.difference ? moment.difference->size() : 0);
 }
+std::size_t bytesOf(const Contents& contents) {
+    return contents.Nodes.size() * sizeof(Node) + contents.Links.size() * sizeof(Link);
+}
 
-Moment momentOf(const Timeline& timeline, const Editor& ed, std::int64_t step, bool pinned) {
-    return {
-        step,     pinned, differenceBetween(timeline.first, ed), stepInputsOf(ed), ed.InitialVelocityPending,
-        ed.Cycles};
+std::size_t bytesOfAll(const Timeline& timeline) {
+    return std::accumulate(
+        timeline.former.begin(), timeline.former.end(), timeline.run.bytes,
+        [](std::size_t sum, const RecordedRun& run) { return sum + run.bytes + bytesOf(*run.first); });
+}
+
+Moment momentOf(const RecordedRun& run, const Editor& ed, std::int64_t step, bool pinned) {
+    std::optional<Difference> difference = differenceBetween(*run.first, ed);
+    return {step,
+            pinned,
+            difference ? std::make_shared<const Difference>(*std::move(difference)) : nullptr,
+            stepInputsOf(ed),
+            ed.InitialVelocityPending,
+            ed.Cycles};
 }
 
 // The last moment of a step or before it.
-auto momentBefore(Timeline& timeline, std::int64_t step) {
+auto momentBefore(RecordedRun& run, std::int64_t step) {
     const auto behind =
-        std::upper_bound(timeline.moments.begin(), timeline.moments.end(), step,
+        std::upper_bound(run.moments.begin(), run.moments.end(), step,
                          [](std::int64_t wanted, const Moment& m) { return wanted < m.step; });
     return behind - 1;
 }
 
-void drop(Timeline& timeline, std::vector<Moment>::iterator moment) {
-    timeline.bytes -= bytesOf(*moment);
-    timeline.moments.erase(moment);
+void drop(RecordedRun& run, std::vector<Moment>::iterator moment) {
+    run.bytes -= bytesOf(*moment);
+    run.moments.erase(moment);
 }
 
 // The moment least missed: the shorter the way its successor would be from its predecessor, and the
 // farther from where the model is, the less. The very first is never one.
-auto leastMissed(Timeline& timeline) {
-    auto least = timeline.moments.end();
+auto leastMissed(RecordedRun& run, std::int64_t at) {
+    auto least = run.moments.end();
     double lowest = std::numeric_limits<double>::infinity();
-    for (auto m = timeline.moments.begin() + 1; m < timeline.moments.end() - 1; ++m) {
+    for (auto m = run.moments.begin() + 1; m < run.moments.end() - 1; ++m) {
         if (m->pinned) continue;
         const double way = static_cast<double>((m + 1)->step - (m - 1)->step);
-        const double far = static_cast<double>(std::abs(m->step - timeline.at)) + 1;
+        const double far = static_cast<double>(std::abs(m->step - at)) + 1;
         if (way / far < lowest) lowest = way / far, least = m;
     }
     return least;
 }
 
+// Where all moments are pinned the oldest part of the run is forgotten, but for that where the model is.
+bool thinOut(RecordedRun& run, std::int64_t at) {
+    if (run.moments.size() <= 2) return false;
+    const auto least = leastMissed(run, at);
+    if (least == run.moments.end() && run.moments[1].step > at) return false;
+    drop(run, least != run.moments.end() ? least : run.moments.begin());
+    const std::int64_t oldest = run.moments.front().step;
+    std::erase_if(run.places, [oldest](const auto& place) { return place.second < oldest; });
+    return true;
+}
+
 void keepWithinLimit(Timeline& timeline) {
-    while (timeline.bytes > timeline.limit && timeline.moments.size() > 2) {
-        const auto least = leastMissed(timeline);
-        // Where all are pinned the oldest part of the run is forgotten.
-        drop(timeline, least != timeline.moments.end() ? least : timeline.moments.begin());
-    }
+    while (bytesOfAll(timeline) > timeline.limit)
+        if (!timeline.former.empty())
+            timeline.former.erase(timeline.former.begin());
+        else if (!thinOut(timeline.run, timeline.at))
+            return;
 }
 
 void keep(Timeline& timeline, Moment moment) {
-    const auto place =
-        timeline.moments.empty() ? timeline.moments.begin() : momentBefore(timeline, moment.step) + 1;
-    timeline.bytes += bytesOf(moment);
-    timeline.moments.insert(place, std::move(moment));
+    RecordedRun& run = timeline.run;
+    const auto place = run.moments.empty() ? run.moments.begin() : momentBefore(run, moment.step) + 1;
+    run.bytes += bytesOf(moment);
+    run.moments.insert(place, std::move(moment));
     keepWithinLimit(timeline);
 }
 
+// The run as it went on from here stays a former one.
 void dropWhatCameAfter(Timeline& timeline) {
-    timeline.last = timeline.at;
-    while (!timeline.moments.empty() && timeline.moments.back().step > timeline.at)
-        drop(timeline, timeline.moments.end() - 1);
+    RecordedRun& run = timeline.run;
+    const std::int64_t at = timeline.at;
+    if (run.last == at) return;
+    timeline.former.push_back(run);
+    run.last = at;
+    while (run.moments.back().step > at) drop(run, run.moments.end() - 1);
+    std::erase_if(run.places, [at](const auto& place) { return place.second > at; });
 }
 
 void begin(Timeline& timeline, Editor& ed) {
-    forgetRun(timeline);
-    copyContents(timeline.first, ed);
-    timeline.seed = ed.chance.seedSource();
-    keep(timeline, momentOf(timeline, ed, 0, true));
+    Contents first;
+    copyContents(first, ed);
+    timeline.at = 0;
+    timeline.edited = false;
+    timeline.run = {};
+    timeline.run.first = std::make_shared<const Contents>(std::move(first));
+    timeline.run.seed = ed.chance.seedSource();
+    timeline.run.places[timeline.state] = 0;
+    keep(timeline, momentOf(timeline.run, ed, 0, true));
 }
 
 // Makes the model as it stands a moment of its own.
 void pinPresent(Timeline& timeline, const Editor& ed) {
     dropWhatCameAfter(timeline);
-    keep(timeline, momentOf(timeline, ed, timeline.at, true));
+    keep(timeline, momentOf(timeline.run, ed, timeline.at, true));
     timeline.edited = false;
 }
 
-void step(const Timeline& timeline, Editor& ed, std::int64_t number) {
-    ed.chance.tie(timeline.seed + static_cast<std::uint64_t>(number) * spread);
+void step(const RecordedRun& run, Editor& ed, std::int64_t number) {
+    ed.chance.tie(run.seed + static_cast<std::uint64_t>(number) * spread);
     Timer1_Timer(ed);
     ed.chance.loosen();
+}
+
+void takeTo(const RecordedRun& run, const Moment& moment, Editor& ed) {
+    Contents contents = *run.first;
+    if (moment.difference) apply(*moment.difference, Way::forth, contents);
+    copyContents(ed, contents);
+    stepInputsOf(ed) = moment.inputs;
+    ed.InitialVelocityPending = moment.InitialVelocityPending;
+    ed.Cycles = moment.Cycles;
+}
+
+// A model that was taken to a step from the moment before it.
+Editor replayTo(Timeline& timeline, std::int64_t target) {
+    const Moment from = *momentBefore(timeline.run, target);
+    Editor replay;
+    takeTo(timeline.run, from, replay);
+    for (std::int64_t number = from.step; number < target; ++number) {
+        if (number == target - runway) keep(timeline, momentOf(timeline.run, replay, number, false));
+        step(timeline.run, replay, number);
+    }
+    return replay;
+}
+
+// Whether the run passes through the model as it stands.
+bool isPassed(Timeline& timeline, const Editor& ed) {
+    Contents passed;
+    copyContents(passed, replayTo(timeline, timeline.at));
+    return !differenceBetween(passed, ed);
 }
 
 }  // namespace
 
 void tick(Timeline& timeline, Editor& ed) {
+    RecordedRun& run = timeline.run;
     const bool isStart = !timeline.running && !ed.SingleStep;
-    if (timeline.moments.empty() || isStart)
+    if (run.moments.empty())
         begin(timeline, ed);
-    else if (timeline.edited || stepInputsOf(ed) != momentBefore(timeline, timeline.at)->inputs)
+    else if (isStart || timeline.edited || stepInputsOf(ed) != momentBefore(run, timeline.at)->inputs)
         pinPresent(timeline, ed);
     dropWhatCameAfter(timeline);
-    step(timeline, ed, timeline.at);
-    timeline.last = ++timeline.at;
+    step(run, ed, timeline.at);
+    run.last = ++timeline.at;
     timeline.running = ed.Timer1.enabled;
-    if (timeline.at % stride == 0) keep(timeline, momentOf(timeline, ed, timeline.at, false));
+    if (timeline.at % stride == 0) keep(timeline, momentOf(run, ed, timeline.at, false));
 }
 
 void noteEdit(Timeline& timeline) { timeline.edited = true; }
 
-void forgetRun(Timeline& timeline) {
-    timeline.moments.clear();
-    timeline.bytes = 0;
-    timeline.at = timeline.last = 0;
-    timeline.running = timeline.edited = false;
+void noteState(Timeline& timeline, std::uint64_t state) {
+    timeline.state = state;
+    if (!timeline.run.moments.empty()) timeline.run.places[state] = timeline.at;
+}
+
+void findState(Timeline& timeline, std::uint64_t state) {
+    const auto holds = [state](const RecordedRun& run) { return run.places.contains(state); };
+    if (!holds(timeline.run)) {
+        RecordedRun left = std::exchange(timeline.run, {});
+        const auto found = std::find_if(timeline.former.rbegin(), timeline.former.rend(), holds);
+        if (found != timeline.former.rend()) {
+            timeline.run = std::move(*found);
+            timeline.former.erase(std::next(found).base());
+        }
+        if (!left.moments.empty()) timeline.former.push_back(std::move(left));
+    }
+    timeline.at = holds(timeline.run) ? timeline.run.places[state] : 0;
+    timeline.running = false;
+    timeline.edited = true;
 }
 
 void travel(Timeline& timeline, Editor& ed, std::int64_t steps) {
-    if (timeline.moments.empty()) return;
-    if (timeline.edited) pinPresent(timeline, ed);
-    const std::int64_t target = std::clamp(timeline.at + steps, timeline.moments.front().step, timeline.last);
-    const auto from = momentBefore(timeline, target);
-    Editor replay;
-    copyContents(replay, timeline.first);
-    if (from->difference) {
-        Contents contents = timeline.first;
-        apply(*from->difference, Way::forth, contents);
-        copyContents(replay, contents);
-    }
-    stepInputsOf(replay) = from->inputs;
-    replay.InitialVelocityPending = from->InitialVelocityPending;
-    replay.Cycles = from->Cycles;
-    timeline.at = target;
-    const std::int64_t start = from->step;
-    for (std::int64_t number = start; number < target; ++number) {
-        if (number == target - runway) keep(timeline, momentOf(timeline, replay, number, false));
-        step(timeline, replay, number);
-    }
+    RecordedRun& run = timeline.run;
+    if (run.moments.empty()) return;
+    if (timeline.edited && !isPassed(timeline, ed)) pinPresent(timeline, ed);
+    timeline.edited = false;
+    timeline.at = std::clamp(timeline.at + steps, run.moments.front().step, run.last);
+    const Editor replay = replayTo(timeline, timeline.at);
     copyContents(ed, replay);
     ed.InitialVelocityPending = replay.InitialVelocityPending;
     ed.Cycles = replay.Cycles;

@@ -1,12 +1,17 @@
 #pragma once
-// The run since the last start, step by step, so that it can be gone through back and forth. Of some moments
-// it keeps how the model differs from the run's first; every other is stepped to from the nearest before
-// it, which gives the same bits. What a step cannot repeat (an edit, a shot, fireworks, a switched option)
-// has a moment of its own.
+// The run since the model's first step, so that it can be gone through back and forth. Of some moments it
+// keeps how the model differs from the run's first; every other is stepped to from the nearest before it,
+// which gives the same bits. What a step cannot repeat (a start, an edit, a shot, fireworks, a switched
+// option) has a moment of its own.
+//
+// A run that the model leaves, and one whose later part is dropped, stays as it was: where undo leads back
+// into it, it is there again.
 
 #include "history/difference.h"
 
 #include <cstdint>
+#include <map>
+#include <memory>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -29,22 +34,33 @@ using StepInputs = decltype(valuesOf(stepInputsOf(std::declval<Editor&>())));
 
 struct Moment {
     std::int64_t step = 0;
-    bool pinned = false;                   // no step leads here from the moment before
-    std::optional<Difference> difference;  // from the first; none where they are the same
+    bool pinned = false;  // no step leads here from the moment before
+    // From the first; none where they are the same. Former runs share it.
+    std::shared_ptr<const Difference> difference;
     StepInputs inputs;
     bool InitialVelocityPending = false;
     std::int32_t Cycles = 0;
 };
 
-struct Timeline {
-    std::size_t limit = 64U << 20;  // bytes of all moments; thinned out where they are dense and far away
-    Contents first;
+struct RecordedRun {
+    std::shared_ptr<const Contents> first;
     std::vector<Moment> moments;  // in order; none before the first step
-    std::size_t bytes = 0;
-    std::int64_t at = 0, last = 0;  // steps since the start: where the model is, and how far it went
-    std::uint64_t seed = 0;         // of the run's chance
-    bool running = false;           // the last step was one of a run that goes on
-    bool edited = false;            // something else changed the model since then
+    std::size_t bytes = 0;        // of the moments
+    std::int64_t last = 0;        // how far it went, in steps
+    std::uint64_t seed = 0;       // of its chance
+    // The steps at which states lie that undo knows, by their numbers (see History::state).
+    std::map<std::uint64_t, std::int64_t> places;
+};
+
+struct Timeline {
+    // Bytes of all runs. The oldest former ones go first, then moments where they are dense and far away.
+    std::size_t limit = 64U << 20;
+    RecordedRun run;
+    std::vector<RecordedRun> former;  // the newest is the last
+    std::int64_t at = 0;              // the step of the run at which the model is
+    std::uint64_t state = 0;          // the last one that was noted
+    bool running = false;             // the last step was one of a run that goes on
+    bool edited = false;              // something else changed the model since then, or may have
     std::int32_t replacedCount = 0;
 };
 
@@ -52,10 +68,13 @@ struct Timeline {
 void tick(Timeline& timeline, Editor& ed);
 // Another event changed the model, or may have.
 void noteEdit(Timeline& timeline);
-// The run is no longer this model's.
-void forgetRun(Timeline& timeline);
+// The model as it stands is a state that undo knows. To be called before anything changes it.
+void noteState(Timeline& timeline, std::uint64_t state);
+// The model was made a state by something else than a step: finds the run that it lies in, if there is one.
+void findState(Timeline& timeline, std::uint64_t state);
 
-// Takes the model `steps` on (back if negative), as far as the run goes. O(1) steps where they are few.
+// Takes the model `steps` on (back if negative), as far as the run goes; where something else changed it,
+// what came after is dropped first. O(1) steps where they are few.
 void travel(Timeline& timeline, Editor& ed, std::int64_t steps);
 
 }  // namespace zentrik
