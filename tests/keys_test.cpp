@@ -2,6 +2,7 @@
 
 #include "ui/keys.h"
 #include "model/numbers.h"
+#include "model/units.h"
 #include "project/writer.h"
 #include "scenes/scenes.h"
 #include "window_rig.h"
@@ -92,6 +93,27 @@ TEST_F(Keys, DrawRunAndSaveACreature) {
     saveAs("by keys");
     EXPECT_TRUE(std::filesystem::exists(folder_.path / "zoo/by keys.bot"));
     EXPECT_TRUE(scene()->hasFocus());
+}
+
+// The first press ends the mouse's drag; what the keys drag until Alt is let go is one step of its own.
+TEST_F(Keys, ADragByKeysTakesOverFromTheMouse) {
+    click({100, 100});
+    const auto place = [&] { return QPoint(nodeAt(ed(), 1).X, nodeAt(ed(), 1).Y) / twipsPerPixel; };
+    for (const QPoint way : {QPoint(0, 0), QPoint(60, 0)}) {
+        const QPoint from = place(), to = from + way;
+        moveTo(from);
+        QTest::mousePress(scene(), Qt::LeftButton, {}, from);
+        QMouseEvent held(QEvent::MouseMove, to, scene()->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(scene(), &held);
+        for (int i = 0; i < 2; ++i) QTest::keyPress(scene(), Qt::Key_Down, Qt::AltModifier);
+        QTest::keyRelease(scene(), Qt::Key_Alt);
+        QTest::mouseRelease(scene(), Qt::LeftButton, {}, to);
+        EXPECT_EQ(place(), to + QPoint(0, 10));
+        hit(Qt::Key_Backspace, Qt::AltModifier);
+        EXPECT_EQ(place(), to) << "both presses are one step";
+        if (!way.isNull()) hit(Qt::Key_Backspace, Qt::AltModifier);
+        EXPECT_EQ(place(), from) << "and the mouse's drag is another";
+    }
 }
 
 TEST_F(Keys, ThePointerStaysInTheSceneAndOnTheGrid) {
