@@ -197,8 +197,8 @@ TEST_F(ImproveCommand, TheShippedExampleWalksThatFar) {
             {"sweep", path, "--vary=Speed=10:10:1", "--time=30", "--measure=distance", "--walls=off"});
         return said.status == 0 ? std::lround(std::stod(cellsOf(linesOf(said.out)[1])[2])) : 0;
     };
-    EXPECT_EQ(distance(sample("walker")), 5677);
-    EXPECT_EQ(distance(ZENTRIK_SOURCE_DIR "/docs/examples/better_walker.bot"), 21212);
+    EXPECT_EQ(distance(sample("walker")), 6842);
+    EXPECT_EQ(distance(ZENTRIK_SOURCE_DIR "/docs/examples/better_walker.bot"), 14683);
 }
 
 TEST_F(ImproveCommand, AnInterruptEndsItAndKeepsTheBest) {

@@ -117,7 +117,7 @@ Editor tower() {
 Editor walker() {
     Editor ed =
         project("Six legs out for a walk",
-                {.gravity = 0.25F, .friction = 0.9F, .viscosity = 0.2F, .bounce = 0.1F, .deltaAngle = 2.4F});
+                {.gravity = 0.25F, .friction = 0.9F, .viscosity = 0.2F, .bounce = 0.1F, .deltaAngle = 3});
     addWalker(ed, 1100, 1750, ram);
     return ed;
 }
@@ -129,7 +129,7 @@ Editor climber() {
                                                                                          .friction = 0.9F,
                                                                                          .viscosity = 0.2F,
                                                                                          .bounce = 0.1F,
-                                                                                         .deltaAngle = 2.6F,
+                                                                                         .deltaAngle = 3,
                                                                                          .wind = -0.3F});
     addWalker(ed, 5000, 1750, ram);  // far from the wall that the wind blows it to while it falls
     return ed;
