@@ -51,7 +51,7 @@ void tickBesidePaints(benchmark::State& state) {
     frmMain window(folder.path());
     window.resize(1920, 1080);
     window.show();
-    window.perform("", [&](Editor& ed, Host& host) {
+    window.perform("Change", [&](Editor& ed, Host& host) {
         const Editor model = scenes::latticeOf(static_cast<int>(state.range(0)));
         ed.Nodes = model.Nodes, ed.Links = model.Links;
         ed.Gravity = 0;

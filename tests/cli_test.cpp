@@ -2,9 +2,9 @@
 
 #include "cli_rig.h"
 #include "failing_disk.h"
-#include "sim/model_run.h"
 #include "measure/state_hash.h"
 #include "scenes/visit.h"
+#include "sim/model_run.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -84,9 +84,9 @@ TEST(InfoCommand, TellsWhatIsThere) {
     EXPECT_EQ(walker["animators"].toInt(), 12);
     EXPECT_EQ(walker["connected objects"].toInt(), 1);
     EXPECT_EQ(walker["extent"]["right"].toInt(), 5600);
-    EXPECT_EQ(walker["settings"]["Viscosity"].toDouble(), 0.1);
+    EXPECT_EQ(walker["settings"]["Viscosity"].toDouble(), 0.2);
     const Said text = zentrikCli({"info", "-"}, contentOf(sample("walker")));
-    EXPECT_NE(text.out.find("\nsettings DeltaAngle: 2.4\n"), std::string::npos) << text.out;
+    EXPECT_NE(text.out.find("\nsettings DeltaAngle: 3\n"), std::string::npos) << text.out;
 }
 
 using RunCommand = CommandLine;
@@ -121,7 +121,7 @@ TEST_F(RunCommand, WritesTheModelAsItIsThen) {
         zentrikCli({"run", sample("walker"), "-n0", "--set", "gravity=0.5", "--set",
                     "link 42,44..45.angle=33", "--set=Timer Period=40", "--set=node all.Locked=True"});
     ASSERT_EQ(changed.status, 0) << changed.error;
-    EXPECT_NE(changed.out.find("Settings : 0.5 : 0.9 : 0.1 : 0 : 0.1 : 10 : 40 :"), std::string::npos);
+    EXPECT_NE(changed.out.find("Settings : 0.5 : 0.9 : 0.2 : 0 : 0.1 : 10 : 40 :"), std::string::npos);
     std::size_t angles = 0;
     for (const std::string& line : linesOf(changed.out))
         angles += line.find(" : True : 33 : ") != std::string::npos;

@@ -94,7 +94,7 @@ protected:
 };
 
 TEST_F(PointingWindow, TheSceneShowsTheRecordWhateverIsKeptOfIt) {
-    window_->perform("", [](Editor& ed, Host&) {
+    window_->perform("Change", [](Editor& ed, Host&) {
         scenes::addNodes(ed, {{1500, 1500}, {4500, 1500}});
         scenes::addLink(ed, 1, 2);
         ed.buttons.numbers = ed.marks.mnuDisplayTitle = true;
@@ -109,7 +109,7 @@ TEST_F(PointingWindow, TheSceneShowsTheRecordWhateverIsKeptOfIt) {
         EXPECT_EQ(view() == without, at.x() == 500) << "a mark where there is something";
     }
     // Nobody says that this changed the scene, but the next move shows it.
-    window_->perform("", [](Editor& ed, Host&) { ed.Nodes[1].color = 0xFF00FF; });
+    window_->perform("Change", [](Editor& ed, Host&) { ed.Nodes[1].color = 0xFF00FF; });
     moveTo(QPoint(501, 300));
     EXPECT_EQ(unlikeRecord(), 0);
     EXPECT_NE(view(), without);

@@ -158,7 +158,7 @@ TEST_F(WayBack, EveryButtonNamesItsStep) {
         pressProperty(key);
         const std::string said = ed().panels[4];
         QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
-        window_->perform("", [&](Editor& record, Host&) { panel(record, 5) = said; });
+        window_->perform("Change", [&](Editor& record, Host&) { panel(record, 5) = said; });
         pressProperty(key);  // says nothing new
         const std::string name = button("Toolbar2", key)->accessibleName().toStdString();
         EXPECT_EQ(undoTip(), "Undo: " + name + " (Alt+Backspace)");

@@ -30,7 +30,7 @@ TEST_F(Window, BarsTakeTheRoomTheirFontNeeds) {
             SCOPED_TRACE(testing::Message() << family << " " << points);
             desktop.set(family, points);
             settle();
-            window_->perform("", [](Editor& ed, Host&) {
+            window_->perform("Change", [](Editor& ed, Host&) {
                 ed.panels[0] = "Nodes: 123456";
                 ed.panels[3] = "Time:  12345.678";
                 ed.panels[4] = std::string(400, 'm');
@@ -115,14 +115,14 @@ TEST_F(Window, ItsSizeFollowsTheScreenItIsOn) {
     EXPECT_EQ(boundedSize({16000, 16000}, {960, 334}, {800, 300}), QSize(960, 334));
 
     // A project from a larger scene.
-    window_->perform("", [](Editor&, Host& host) { host.resizeWindow(90000, 90000); });
+    window_->perform("Change", [](Editor&, Host& host) { host.resizeWindow(90000, 90000); });
     EXPECT_TRUE(window_->screen()->availableGeometry().contains(window_->frameGeometry()));
     EXPECT_EQ(window_->frameGeometry().size(), QSize(2400, 1400));
     window_->resize(1000, 600);
     window_->showMaximized();
     settle();
     const QSize filled = window_->size();
-    window_->perform("", [](Editor&, Host& host) { host.resizeWindow(19500, -1); });
+    window_->perform("Change", [](Editor&, Host& host) { host.resizeWindow(19500, -1); });
     EXPECT_TRUE(window_->isMaximized());
     EXPECT_EQ(window_->size(), filled);
     ASSERT_TRUE(window_->close());

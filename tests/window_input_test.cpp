@@ -38,7 +38,7 @@ TEST_F(Window, BoxesAreAsWideAsTheirTitles) {
         title = box.fontMetrics().horizontalAdvance(box.windowTitle());
         box.close();
     });
-    window_->perform("", [](Editor&, Host& host) {
+    window_->perform("Change", [](Editor&, Host& host) {
         host.messageBox("!", "A title that is far longer than its message", BoxIcon::plain);
     });
     EXPECT_GT(width, title + 100);

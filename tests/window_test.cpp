@@ -245,7 +245,7 @@ TEST_F(Window, StripsAndPathOpenBelow) {
     EXPECT_GE(find("picPhase")->y(), find("picS")->geometry().bottom());
     QFile::copy(ZENTRIK_SOURCE_DIR "/sprites/bee.svg",
                 QString::fromStdString((folder_.path / "sprites" / "a.svg").string()));
-    window_->perform("", [](Editor& ed, Host&) { ed.Nodes[1].Sprite = "a.svg"; });
+    window_->perform("Change", [](Editor& ed, Host&) { ed.Nodes[1].Sprite = "a.svg"; });
     choose("mnuDisplayBrowser");
     EXPECT_EQ(find<QComboBox>("lstSprites")->itemText(3), "a.svg") << "the folder is read again";
     EXPECT_EQ(ed().Nodes[1].SpriteIndex, 3);
