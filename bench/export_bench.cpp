@@ -57,7 +57,8 @@ void film(benchmark::State& state, std::string_view suffix) {
     const auto formats = filmFormats();
     const auto format = std::find_if(formats.begin(), formats.end(),
                                      [&](const FilmFormat& it) { return it.suffix == suffix; });
-    for (auto _ : state) makeFilm(hundredNodes(), *format, plan(), path, [](double) { return true; });
+    for (auto _ : state)
+        makeFilm(hundredNodes(), *format, plan(), path, [](const FilmState&) { return true; });
     countPictures(state);
 }
 BENCHMARK_CAPTURE(film, gif, "gif")->Unit(benchmark::kMillisecond);

@@ -82,7 +82,7 @@ void stepBackInTime(benchmark::State& state) {
         travel(timeline, ed, -1);
         if (timeline.at <= 1) travel(timeline, ed, steps);
     }
-    state.counters["moments"] = static_cast<double>(timeline.moments.size());
+    state.counters["moments"] = static_cast<double>(timeline.run.moments.size());
 }
 void tickWithTimeline(benchmark::State& state) {
     Editor ed = scenes::latticeOf(static_cast<int>(state.range(0)));
