@@ -31,7 +31,7 @@ TEST_F(CheckCommand, TellsEveryProblemOfEveryFile) {
     putFile(bad,
             "Zentrik\r\nA title\r\nGlobal Settings : 1 : x : 0 : 0 : 0 : 10 : 0 : 1 : 0 : nan : 0\r\n"
             "Links\r\n" +
-                link("True : 1 : 9") + link("True : y : 3") + link("True : 2 : 2") + link("False : 7 : 7") +
+                link("True : 1 : 5") + link("True : y : 3") + link("True : 2 : 2") + link("False : 7 : 7") +
                 "5 : True : 1\r\nNodes\r\n" + node("True : 5 : inf", "1", "-1") +
                 node("True : 5 : 6", "1", "3") + node("False : 5 : 6", "1", "44") +
                 node("True : 5 : 6", "0", "0"));
@@ -41,7 +41,7 @@ TEST_F(CheckCommand, TellsEveryProblemOfEveryFile) {
     const std::vector<std::string> expected{
         bad + ":3: field 3 (Friction) is not a number: x",
         bad + ":3: field 11 (scene height) is not a number: nan",
-        bad + ":5: field 4 (N2 of link 1) names node 9, which does not exist",
+        bad + ":5: field 4 (N2 of link 1) names node 5, which does not exist",
         bad + ":6: field 3 (N1) is not a whole number: y",
         bad + ":6: field 4 (N2 of link 2) names node 3, whose slot is free",
         bad + ":7: field 4 (N2 of link 3) is its other end, too",

@@ -120,6 +120,18 @@ TEST_F(Undo, TakesAGestureOrARunAsOneStep) {
     EXPECT_TRUE(imageOf(ed_) == first);
     undo();
     EXPECT_EQ(panel(ed_, 5), "There is nothing to undo.");
+    redo();
+    mouse([&] { picS_MouseDown(ed_, rightButton, 0, 0); });
+    mouse([&] { picS_MouseMove(ed_, 0, 3000, 3000); });
+    mouse([&] { picS_MouseDown(ed_, leftButton, 3000, 3000); });
+    redo();
+    EXPECT_FALSE(ed_.MouseIsDown) << "redo takes the node from the hand";
+    undo();
+    press("start");
+    ticks(2);
+    redo();
+    EXPECT_FALSE(ed_.Timer1.enabled);
+    EXPECT_EQ(steps(), "Node moved; Animation run; ") << "and stops the run, which is the last change";
 }
 
 TEST_F(Undo, SelectingIsNoStepEvenWhileItRuns) {

@@ -5,6 +5,7 @@
 #include "window_rig.h"
 
 #include <QAbstractItemView>
+#include <QBitmap>
 #include <QContextMenuEvent>
 #include <QTreeWidget>
 
@@ -60,12 +61,12 @@ TEST_F(ProjectMenu, AnEarlierVersionIsOpenedByKeysAndCanBeUndone) {
     click({200, 300});
     saveAs("mine");
     QStringList shown;
-    bool pictured = true;
+    QImage drawn;  // of the former version of two nodes
     inVersions([&](QTreeWidget& rows) {
         for (int i = 0; i < rows.topLevelItemCount(); ++i) {
             const QTreeWidgetItem& row = *rows.topLevelItem(i);
             shown += row.text(2) + " " + row.text(3) + " " + row.text(4);
-            pictured &= !row.icon(0).isNull();
+            if (i == 0) drawn = row.icon(0).pixmap(120, 72).toImage();
         }
         QTest::keyClick(&rows, Qt::Key_Down);
         QTest::keyClick(&rows, Qt::Key_Return);
@@ -73,7 +74,10 @@ TEST_F(ProjectMenu, AnEarlierVersionIsOpenedByKeysAndCanBeUndone) {
     QMenu* menu = openMenu(*list()->lineEdit(), QContextMenuEvent::Keyboard);
     QTest::keyClick(menu, Qt::Key_E);
     EXPECT_EQ(shown.join("|").toStdString(), "2 1 one|1 0 one");
-    EXPECT_TRUE(pictured);
+    const QBitmap ink = QBitmap::fromImage(drawn.createMaskFromColor(qRgb(255, 255, 255), Qt::MaskInColor));
+    EXPECT_EQ(QRegion(ink).boundingRect(), QRect(4, 20, 113, 32))
+        << "the balls fill the width, in the middle";
+    EXPECT_NE(drawn.pixelColor(60, 36), QColor(Qt::white)) << "the link";
     EXPECT_EQ(UsedNodes(ed()), 1);
     EXPECT_EQ(ed().savedText, "mine");
     EXPECT_TRUE(window_->isWindowModified()) << "no file changed";

@@ -102,6 +102,14 @@ protected:
     QString filmText() const { return recording()->findChild<QLabel*>()->text(); }
 };
 
+TEST(TimeLeft, IsInProportionToWhatIsDone) {
+    EXPECT_EQ(timeLeft(0.4, 0.5), "just begun");
+    EXPECT_EQ(timeLeft(10, 0), "just begun");
+    EXPECT_EQ(timeLeft(10, 0.25), "30 s left");
+    EXPECT_EQ(timeLeft(30, 0.2), "2 min 0 s left");
+    EXPECT_EQ(timeLeft(4, 0.75), "2 s left") << "rounded up";
+}
+
 TEST_F(SharingTest, CopiesThePictureByKeyAndMenu) {
     for (const bool byKey : {true, false}) {
         QApplication::clipboard()->clear();

@@ -251,7 +251,8 @@ TEST_F(Window, StripsAndPathOpenBelow) {
     EXPECT_EQ(ed().Nodes[1].SpriteIndex, 3);
     EXPECT_TRUE(find("Frame1")->isVisible() && find("HScroll1")->isVisible());
     EXPECT_EQ(find<QScrollBar>("HScroll1")->maximum(), 2);
-    QTest::mouseClick(find("imgSprite2"), Qt::LeftButton);
+    const QPoint second(6 + 43 + 20, 23);  // of slots of 40 pixels, 3 apart
+    QTest::mouseClick(find("Frame1")->childAt(second), Qt::LeftButton);
     EXPECT_EQ(ed().Nodes[1].Sprite, "bee.svg");
     EXPECT_EQ(find<QComboBox>("lstSprites")->currentText(), "bee.svg");
     choose("mnuDisplayAngleManager");

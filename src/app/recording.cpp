@@ -38,6 +38,11 @@ qint64 sizeOf(const QFileInfo& made) {
 
 }  // namespace
 
+QString timeLeft(double passed, double part) {
+    if (part <= 0 || passed <= 0.5) return "just begun";
+    return timeText(passed * (1 - part) / part) + " left";
+}
+
 Recording::Recording(const QString& title, const QString& path, Job job, QWidget* parent)
     : QDialog(parent),
       path_(path),
@@ -108,11 +113,9 @@ void Recording::showProgress() {
     const double part = done_;
     bar_->setValue(static_cast<int>(1000 * part));
     const double passed = static_cast<double>(since_.elapsed()) / 1000;
-    const QString left =
-        part > 0 && passed > 0.5 ? timeText(passed * (1 - part) / part) + " left" : QString("just begun");
     const double size = expectedSize_;
     const QString large = size > 0 ? QString("\nIt will have about %1").arg(sizeText(size)) : QString("\n");
-    text_->setText(QString("Making %1: %2").arg(QFileInfo(path_).fileName(), left) + large);
+    text_->setText(QString("Making %1: %2").arg(QFileInfo(path_).fileName(), timeLeft(passed, part)) + large);
 }
 
 void Recording::finish() {

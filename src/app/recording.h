@@ -14,6 +14,9 @@ class QThread;
 
 namespace zentrik {
 
+// How long a job takes on that has done a part (0 to 1) in so many seconds: "1 min 5 s left".
+QString timeLeft(double passed, double part);
+
 // Makes a film or a table in a thread of its own, and shows how far it is beside the window, which stays
 // usable. Ends with the file's name and size, or with what went wrong. Closing it cancels.
 class Recording : public QDialog {

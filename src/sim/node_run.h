@@ -17,7 +17,8 @@ struct NodeRun {
     using Column = std::array<T, 2 * size>;
 
     std::size_t count = 0;
-    bool plain = false;  // none of the nodes needs a closer look for what it is itself
+    // None of the nodes needs a closer look for what it is itself. False is right for any run, and slower.
+    bool plain = false;
     std::array<Node*, size> node;
     Column<std::int32_t> place;  // twips
     Column<float> velocity, force, mass;
