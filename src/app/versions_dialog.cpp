@@ -53,7 +53,6 @@ QPixmap pictureOf(Editor& ed, double ratio) {
     ed.sceneWidth = pictureWidth;
     ed.sceneHeight = pictureHeight;
     ed.NodeRadius = 30;
-    ed.buttons.ball = ed.buttons.line = true;
     QPixmap pixmap(pictureSize() * ratio);
     pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::white);
