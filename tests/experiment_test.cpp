@@ -2,6 +2,7 @@
 
 #include "cli_rig.h"
 #include "failing_disk.h"
+#include "model/numbers.h"
 
 #include <QProcess>
 #include <QtTest/QTest>
@@ -195,7 +196,7 @@ TEST_F(ImproveCommand, TheShippedExampleWalksThatFar) {
     const auto distance = [](const std::string& path) {
         const Said said = zentrikCli(
             {"sweep", path, "--vary=Speed=10:10:1", "--time=30", "--measure=distance", "--walls=off"});
-        return said.status == 0 ? std::lround(std::stod(cellsOf(linesOf(said.out)[1])[2])) : 0;
+        return said.status == 0 ? std::lround(leadingNumber(cellsOf(linesOf(said.out)[1])[2])) : 0;
     };
     EXPECT_EQ(distance(sample("walker")), 6842);
     EXPECT_EQ(distance(ZENTRIK_SOURCE_DIR "/docs/examples/better_walker.bot"), 14683);

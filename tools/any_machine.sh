@@ -1,7 +1,7 @@
 #!/bin/sh
 # Runs the tests that look at pixels on the machines that this one is not: with other fonts and font settings, scales,
 # languages, time zones, users and home folders. Prints a line a world; ends with 1 when one fails.
-# Usage: any_machine.sh [--all] [BUILD_FOLDER]      --all: every test in every world, which takes half an hour
+# Usage: any_machine.sh [--all] [BUILD_FOLDER]      --all: every test in every world, not only those
 # Nothing of this machine is changed: the fonts and languages it lacks are unpacked in BUILD_FOLDER/any_machine, where
 # every world leaves its log and, as "golden", the pictures that differ.
 set -eu
