@@ -5,12 +5,16 @@
 #include "window_rig.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QContextMenuEvent>
+#include <QToolTip>
 #include <QTreeWidget>
 
 namespace zentrik {
 
 namespace {
+
+namespace fs = std::filesystem;
 
 class ProjectMenu : public Window {
 protected:
@@ -82,6 +86,40 @@ TEST_F(ProjectMenu, AnEarlierVersionIsOpenedByKeysAndCanBeUndone) {
     inVersions([](QTreeWidget& rows) { QTest::keyClick(&rows, Qt::Key_Escape); });
     QTest::keyClick(openMenu(*list(), QContextMenuEvent::Mouse), Qt::Key_E);
     EXPECT_EQ(UsedNodes(ed()), 3);
+}
+
+// Whoever looks for the bridge finds it without loading all the others.
+TEST_F(ProjectMenu, EntriesShowWhatIsInThem) {
+    const fs::path samples(ZENTRIK_SOURCE_DIR "/zoo"), zoo = folder_.path / "zoo";
+    for (const char* name : {"bridge.bot", "shoal.bot", "9 a moon.bot", "planets.bot"})
+        fs::copy(samples / name, zoo / name);
+    putFile(zoo / "bad.bot", "Zentrik\r\n<b>\r\nNodes\r\n1 : x\r\n");
+    restart();
+    list()->showPopup();
+    QAbstractItemView* names = list()->view();
+    ASSERT_TRUE(await([&] { return names->isVisible(); }));
+    const auto tip = [&](const char* name) {
+        const QRect entry = names->visualRect(names->model()->index(list()->findText(name), 0));
+        QHelpEvent event(QEvent::ToolTip, entry.center(), names->viewport()->mapToGlobal(entry.center()));
+        QApplication::sendEvent(names->viewport(), &event);
+        return QToolTip::text();
+    };
+    EXPECT_TRUE(tip("bad").contains("bad, line 4")) << tip("bad").toStdString();
+    const QString bridge = tip("bridge");
+    EXPECT_TRUE(bridge.contains("bridge", Qt::CaseInsensitive)) << bridge.left(100).toStdString();
+    const QByteArray data = bridge.section("base64,", 1).section('"', 0, 0).toLatin1();
+    const QImage picture = QImage::fromData(QByteArray::fromBase64(data));
+    EXPECT_EQ(std::max(picture.width(), picture.height()), 300);
+    int inked = 0;
+    for (int x = 0; x < picture.width(); ++x)
+        inked += picture.pixel(x, picture.height() / 2) != picture.pixel(2, 2);
+    EXPECT_GT(inked, 10) << "cars and hangers";
+    for (const char* name : {"shoal", "9 a moon", "planets"}) {
+        EXPECT_TRUE(tip(name).startsWith("<p>Press Display Sprites")) << name;
+        const QAccessibleInterface* entry =
+            QAccessible::queryAccessibleInterface(names)->child(list()->findText(name));
+        EXPECT_TRUE(entry->text(QAccessible::Description).startsWith("Press Display Sprites")) << name;
+    }
 }
 
 TEST_F(ProjectMenu, RenamesByKeyboard) {
