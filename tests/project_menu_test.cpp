@@ -122,6 +122,31 @@ TEST_F(ProjectMenu, EntriesShowWhatIsInThem) {
     }
 }
 
+TEST_F(ProjectMenu, AShippedSampleComesBack) {
+    click({100, 100});
+    saveAs("bridge");
+    QTest::keyClick(openMenu(*list(), QContextMenuEvent::Mouse), Qt::Key_M);
+    const std::string shipped = contentOf(ZENTRIK_SOURCE_DIR "/zoo/bridge.bot");
+    EXPECT_EQ(contentOf(folder_.path / "zoo" / "bridge.bot"), shipped);
+    EXPECT_EQ(ed().ProjectTitle, "A rope bridge in the rush hour");
+    EXPECT_FALSE(window_->isWindowModified());
+    EXPECT_EQ(formerVersions(folder_.path.string(), "bridge").size(), 1U);
+    const auto offers = [&] {
+        QMenu* menu = openMenu(*list(), QContextMenuEvent::Mouse);
+        const bool offered = menu->findChild<QAction*>("restoreSample") != nullptr;
+        menu->close();
+        return offered;
+    };
+    EXPECT_FALSE(offers()) << "it is the shipped one";
+    QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
+    EXPECT_EQ(UsedNodes(ed()), 1);
+    EXPECT_EQ(panelText(5), "Undone: Sample bridge restored");
+    fs::remove(folder_.path / "zoo" / "bridge.bot");
+    EXPECT_TRUE(offers());
+    list()->setEditText("mine");
+    EXPECT_FALSE(offers());
+}
+
 TEST_F(ProjectMenu, RenamesByKeyboard) {
     click({100, 100});
     saveAs("mine");

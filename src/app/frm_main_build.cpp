@@ -98,10 +98,12 @@ void frmMain::connectLists() {
         return projectTip(ed_.programFolder, name, devicePixelRatioF());
     };
     list.descriptionOf = [this](const QString& name) { return projectTitle(ed_.programFolder, name); };
-    attachProjectMenu(list, [this](const ProjectMenuRow& row) {
-        perform(row.what, row.command);
-        picS_->setFocus();
-    });
+    attachProjectMenu(
+        list, [this](const ProjectMenuRow& row) { return row.isShown == nullptr || row.isShown(ed_, host_); },
+        [this](const ProjectMenuRow& row) {
+            perform(row.what, row.command);
+            picS_->setFocus();
+        });
     bars_.lstSprites->installEventFilter(this);
     connect(bars_.lstSprites, &QComboBox::activated, this, [this](int entry) {
         perform("Sprite", [&](Editor& ed, Host&) {
