@@ -5,13 +5,17 @@
 #include "window_rig.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QBitmap>
 #include <QContextMenuEvent>
+#include <QToolTip>
 #include <QTreeWidget>
 
 namespace zentrik {
 
 namespace {
+
+namespace fs = std::filesystem;
 
 class ProjectMenu : public Window {
 protected:
@@ -86,6 +90,65 @@ TEST_F(ProjectMenu, AnEarlierVersionIsOpenedByKeysAndCanBeUndone) {
     inVersions([](QTreeWidget& rows) { QTest::keyClick(&rows, Qt::Key_Escape); });
     QTest::keyClick(openMenu(*list(), QContextMenuEvent::Mouse), Qt::Key_E);
     EXPECT_EQ(UsedNodes(ed()), 3);
+}
+
+// Whoever looks for the bridge finds it without loading all the others.
+TEST_F(ProjectMenu, EntriesShowWhatIsInThem) {
+    const fs::path samples(ZENTRIK_SOURCE_DIR "/zoo"), zoo = folder_.path / "zoo";
+    for (const char* name : {"bridge.bot", "shoal.bot", "9 a moon.bot", "planets.bot"})
+        fs::copy(samples / name, zoo / name);
+    putFile(zoo / "bad.bot", "Zentrik\r\n<b>\r\nNodes\r\n1 : x\r\n");
+    restart();
+    list()->showPopup();
+    QAbstractItemView* names = list()->view();
+    ASSERT_TRUE(await([&] { return names->isVisible(); }));
+    const auto tip = [&](const char* name) {
+        const QRect entry = names->visualRect(names->model()->index(list()->findText(name), 0));
+        QHelpEvent event(QEvent::ToolTip, entry.center(), names->viewport()->mapToGlobal(entry.center()));
+        QApplication::sendEvent(names->viewport(), &event);
+        return QToolTip::text();
+    };
+    EXPECT_TRUE(tip("bad").contains("bad, line 4")) << tip("bad").toStdString();
+    const QString bridge = tip("bridge");
+    EXPECT_TRUE(bridge.contains("bridge", Qt::CaseInsensitive)) << bridge.left(100).toStdString();
+    const QByteArray data = bridge.section("base64,", 1).section('"', 0, 0).toLatin1();
+    const QImage picture = QImage::fromData(QByteArray::fromBase64(data));
+    EXPECT_EQ(std::max(picture.width(), picture.height()), 300);
+    int inked = 0;
+    for (int x = 0; x < picture.width(); ++x)
+        inked += picture.pixel(x, picture.height() / 2) != picture.pixel(2, 2);
+    EXPECT_GT(inked, 10) << "cars and hangers";
+    for (const char* name : {"shoal", "9 a moon", "planets"}) {
+        EXPECT_TRUE(tip(name).startsWith("<p>Press Display Sprites")) << name;
+        const QAccessibleInterface* entry =
+            QAccessible::queryAccessibleInterface(names)->child(list()->findText(name));
+        EXPECT_TRUE(entry->text(QAccessible::Description).startsWith("Press Display Sprites")) << name;
+    }
+}
+
+TEST_F(ProjectMenu, AShippedSampleComesBack) {
+    click({100, 100});
+    saveAs("bridge");
+    QTest::keyClick(openMenu(*list(), QContextMenuEvent::Mouse), Qt::Key_M);
+    const std::string shipped = contentOf(ZENTRIK_SOURCE_DIR "/zoo/bridge.bot");
+    EXPECT_EQ(contentOf(folder_.path / "zoo" / "bridge.bot"), shipped);
+    EXPECT_EQ(ed().ProjectTitle, "A rope bridge in the rush hour");
+    EXPECT_FALSE(window_->isWindowModified());
+    EXPECT_EQ(formerVersions(folder_.path.string(), "bridge").size(), 1U);
+    const auto offers = [&] {
+        QMenu* menu = openMenu(*list(), QContextMenuEvent::Mouse);
+        const bool offered = menu->findChild<QAction*>("restoreSample") != nullptr;
+        menu->close();
+        return offered;
+    };
+    EXPECT_FALSE(offers()) << "it is the shipped one";
+    QTest::mouseClick(find<QToolButton>("undo"), Qt::LeftButton);
+    EXPECT_EQ(UsedNodes(ed()), 1);
+    EXPECT_EQ(panelText(5), "Undone: Sample bridge restored");
+    fs::remove(folder_.path / "zoo" / "bridge.bot");
+    EXPECT_TRUE(offers());
+    list()->setEditText("mine");
+    EXPECT_FALSE(offers());
 }
 
 TEST_F(ProjectMenu, RenamesByKeyboard) {

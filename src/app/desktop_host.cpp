@@ -149,6 +149,11 @@ bool DesktopHost::openAddress(const std::string& address) {
 
 bool DesktopHost::moveToTrash(const std::string& file) { return QFile::moveToTrash(text(file)); }
 
+std::string DesktopHost::shippedProject(const std::string& name) {
+    QFile file(":/zoo/" + text(name) + ".bot");
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+}
+
 void DesktopHost::fetchMessage(const std::string& address) { fetcher_.fetch(QUrl(text(address))); }
 
 void DesktopHost::showAbout() {

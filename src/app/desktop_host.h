@@ -39,6 +39,7 @@ public:
     bool setClipboard(const std::string& text) override;
     bool openAddress(const std::string& address) override;
     bool moveToTrash(const std::string& file) override;
+    std::string shippedProject(const std::string& name) override;
     void fetchMessage(const std::string& address) override;
     void showAbout() override;
     void showManual() override;

@@ -2,6 +2,7 @@
 
 #include "app/frm_main.h"
 #include "app/project_menu.h"
+#include "app/project_tip.h"
 #include "edit/mouse.h"
 #include "effects/fireworks.h"
 #include "model/redraw.h"
@@ -93,10 +94,16 @@ void frmMain::connectLists() {
     };
     list.entered = [this] { perform("Project saved", lstSaved_Enter); };
     list.left = [this] { picS_->setFocus(); };
-    attachProjectMenu(list, [this](const ProjectMenuRow& row) {
-        perform(row.what, row.command);
-        picS_->setFocus();
-    });
+    list.tipOf = [this](const QString& name) {
+        return projectTip(ed_.programFolder, name, devicePixelRatioF());
+    };
+    list.descriptionOf = [this](const QString& name) { return projectTitle(ed_.programFolder, name); };
+    attachProjectMenu(
+        list, [this](const ProjectMenuRow& row) { return row.isShown == nullptr || row.isShown(ed_, host_); },
+        [this](const ProjectMenuRow& row) {
+            perform(row.what, row.command);
+            picS_->setFocus();
+        });
     bars_.lstSprites->installEventFilter(this);
     connect(bars_.lstSprites, &QComboBox::activated, this, [this](int entry) {
         perform("Sprite", [&](Editor& ed, Host&) {

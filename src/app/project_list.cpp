@@ -3,10 +3,30 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStandardItemModel>
 
 namespace zentrik {
 
+namespace {
+
+class Entries : public QStandardItemModel {
+public:
+    explicit Entries(ProjectList* list) : QStandardItemModel(list), list_(*list) {}
+
+    QVariant data(const QModelIndex& index, int role) const override {
+        const auto& tell = role == Qt::ToolTipRole ? list_.tipOf : list_.descriptionOf;
+        const bool isTold = role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole;
+        return isTold && tell ? tell(index.data().toString()) : QStandardItemModel::data(index, role);
+    }
+
+private:
+    const ProjectList& list_;
+};
+
+}  // namespace
+
 ProjectList::ProjectList(QWidget* parent) : QComboBox(parent) {
+    setModel(new Entries(this));
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);

@@ -13,6 +13,8 @@ public:
     std::function<void(int entry)> chosen;
     std::function<void()> entered;  // Enter in the line
     std::function<void()> left;     // the keyboard belongs to the scene again
+    // What an entry of the opened list tells who points at it, and who has it read; asked for only then.
+    std::function<QString(const QString&name)> tipOf, descriptionOf;
 
     void showPopup() override;
 

@@ -21,13 +21,15 @@ void addLineEntries(QMenu& menu, QLineEdit& line) {
 
 }  // namespace
 
-void attachProjectMenu(QComboBox& list, const std::function<void(const ProjectMenuRow&)>& chosen) {
-    const auto open = [&list, chosen](QWidget& from, QPoint at) {
+void attachProjectMenu(QComboBox& list, const std::function<bool(const ProjectMenuRow&)>& isShown,
+                       const std::function<void(const ProjectMenuRow&)>& chosen) {
+    const auto open = [&list, isShown, chosen](QWidget& from, QPoint at) {
         auto* menu = new QMenu(&list);
         menu->setObjectName("ProjectMenu");
         menu->setAttribute(Qt::WA_DeleteOnClose);
         for (const ProjectMenuRow& row : projectMenuRows())
-            menu->addAction(row.caption, &list, [chosen, &row] { chosen(row); })->setObjectName(row.name);
+            if (isShown(row))
+                menu->addAction(row.caption, &list, [chosen, &row] { chosen(row); })->setObjectName(row.name);
         addLineEntries(*menu, *list.lineEdit());
         menu->popup(from.mapToGlobal(at));
     };

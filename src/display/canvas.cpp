@@ -35,7 +35,8 @@ Canvas::Canvas(QPainter& target, std::int32_t width, std::int32_t height)
       shapes(keepsShapes(target)),
       unit(ratio / twipsPerPixel) {
     painter.save();
-    painter.scale(1 / ratio, 1 / ratio);
+    const double unscaled = std::min(1.0, 1 / ratio);  // a painter scales up by itself, but not down
+    painter.scale(unscaled, unscaled);
     painter.setClipRect(frame, Qt::IntersectClip);
 }
 

@@ -41,6 +41,8 @@ public:
     virtual bool openAddress(const std::string& address) = 0;
     // False when the desktop has no trash that takes the file; it is then where it was.
     virtual bool moveToTrash(const std::string& file) = 0;
+    // The bytes of a project that came with the program, empty when none of that name did.
+    virtual std::string shippedProject(const std::string&) { return {}; }
     // Starts fetching the maker's message; the answer arrives later in status panel 5.
     virtual void fetchMessage(const std::string& address) = 0;
     virtual void showAbout() = 0;

@@ -42,15 +42,14 @@ bool formerIsSafe(const Editor& ed, Host& host, const std::string& name, const s
                                            "Zentrik");
 }
 
-// Writes the project's file and lists a new name.
-Stored storeProject(Editor& ed, Host& host, const std::string& name) {
+// Writes a project's file and lists a new name.
+Stored storeProject(Editor& ed, Host& host, const std::string& name, const std::string& bytes) {
     if (std::string problem = nameProblem(name); !problem.empty()) return {false, false, std::move(problem)};
     const std::string path = pathText(projectPath(ed.programFolder, name));
     std::error_code error;
     fs::create_directory(zooFolder(ed.programFolder), error);  // one that is missing for good fails the write
     const WriteTarget target = writeTarget(path, ed.programFolder);
     std::string problem = target.problem;
-    const std::string bytes = projectBytes(ed);
     if (problem.empty() && !formerIsSafe(ed, host, name, bytes)) return {};
     if (problem.empty()) problem = writeFile(path, bytes, ed.programFolder);
     if (!problem.empty()) return {false, false, fileText(name) + " could not be saved.\n" + problem};
@@ -83,7 +82,7 @@ void showNewModel(Editor& ed) {
 enum class Mail { failed, onClipboard, handedOver };
 
 Mail exportMail(Editor& ed, Host& host) {
-    if (!storeProject(ed, host, "email").done) return Mail::failed;
+    if (!storeProject(ed, host, "email", projectBytes(ed)).done) return Mail::failed;
     const FileBytes file = readProjectFile(projectPath(ed.programFolder, "email"));
     if (!file.problem.empty() || !host.setClipboard(file.bytes)) return Mail::failed;
     const std::string body =
@@ -109,7 +108,7 @@ void saySaved(Editor& ed, Host& host, const std::string& name, bool isNew) {
 }  // namespace
 
 bool SaveFile(Editor& ed, Host& host, const std::string& name) {
-    const Stored stored = storeProject(ed, host, name);
+    const Stored stored = storeProject(ed, host, name, projectBytes(ed));
     if (stored.done) saySaved(ed, host, name, stored.isNew);
     if (!stored.problem.empty()) tell(host, stored.problem);
     return stored.done;
@@ -162,6 +161,25 @@ void lstSaved_Enter(Editor& ed, Host& host) {
 
 void saveProject(Editor& ed, Host& host) {
     if (SaveFile(ed, host, ed.savedText)) ++ed.filedCount;
+}
+
+bool sampleDiffers(const Editor& ed, Host& host) {
+    const std::string name = withoutOuterBlanks(ed.savedText);
+    if (!nameProblem(name).empty()) return false;
+    const std::string shipped = host.shippedProject(name);
+    return !shipped.empty() && readProjectFile(projectPath(ed.programFolder, name)).bytes != shipped;
+}
+
+void restoreSample(Editor& ed, Host& host) {
+    if (!sampleDiffers(ed, host)) return;
+    const std::string name = withoutOuterBlanks(ed.savedText);
+    const Stored stored = storeProject(ed, host, name, host.shippedProject(name));
+    if (!stored.problem.empty()) tell(host, stored.problem);
+    if (!stored.done) return;
+    LoadListOfFileNames(ed, host, false);
+    ed.savedText = name;
+    reloadProject(ed, host);
+    panel(ed, 5) = "Sample " + name + " restored";
 }
 
 void reloadProject(Editor& ed, Host& host) {

@@ -30,6 +30,12 @@ void lstSaved_Enter(Editor& ed, Host& host);
 void saveProject(Editor& ed, Host& host);
 void reloadProject(Editor& ed, Host& host);
 
+// Whether the list's text names a project that came with the program, and its file is another or gone.
+bool sampleDiffers(const Editor& ed, Host& host);
+// Puts the one that came with the program in that file's place, as a save would, and loads it; stopping the
+// animation is the caller's.
+void restoreSample(Editor& ed, Host& host);
+
 void mnuSetTitle_Click(Editor& ed, Host& host);
 // Saves the model as "email", puts that file's text on the clipboard and opens a mail to the author.
 void mnuEmail_Click(Editor& ed, Host& host);

@@ -1,6 +1,7 @@
 #include "ui/project_menu.h"
 
 #include "model/no_doubles.h"
+#include "project/library.h"
 #include "project/manage.h"
 #include "sim/run.h"
 
@@ -18,8 +19,14 @@ void earlierVersions(Editor& ed, Host& host) {
     showEarlierVersion(ed, host, std::move(*version));
 }
 
+void bringSampleBack(Editor& ed, Host& host) {
+    stopAnimation(ed);
+    restoreSample(ed, host);
+}
+
 constexpr ProjectMenuRow rows[] = {
     {"earlierVersions", "&Earlier Versions…", "Earlier version opened", earlierVersions},
+    {"restoreSample", "Restore Sa&mple", "Sample restored", bringSampleBack, sampleDiffers},
     {"renameProject", "&Rename…", "Project renamed", renameProject},
     {"deleteProject", "&Delete…", "Project deleted", deleteProject},
     {"showFolder", "&Show in Folder", "Folder shown", showFolder},

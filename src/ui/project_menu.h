@@ -12,6 +12,7 @@ struct ProjectMenuRow {
     const char* caption;  // "&" marks the access key
     const char* what;     // it is called when it can be undone
     Command command;
+    bool (*isShown)(const Editor& ed, Host& host) = nullptr;  // null = always
 };
 
 std::span<const ProjectMenuRow> projectMenuRows();

@@ -42,7 +42,7 @@ std::int32_t satellite(Editor& ed, std::int32_t centre, const Orbit& orbit, std:
 
 Editor moon() {
     const double g = 0.095, distance = 1150;
-    Editor ed = project("No link: the planet attracts the moon (G of a node). Try Display Sprites",
+    Editor ed = project("Press Display Sprites: the planet attracts the moon without a link (G of a node)",
                         {.gravity = 0, .viscosity = giveBack(g, distance), .timeInterval = 1000 * step});
     const std::int32_t planet = attract(ed, pin(ed, 7140, 1680, sky), g);
     dress(ed, planet, "planet.svg");
@@ -53,7 +53,7 @@ Editor moon() {
 
 Editor planets() {
     const double g = 0.09, distance = 1150;
-    Editor ed = project("The sun attracts its planets; the lighter ones overtake. Try Display Sprites",
+    Editor ed = project("Press Display Sprites: the sun attracts its planets; the lighter ones overtake",
                         {.gravity = 0, .viscosity = giveBack(g, distance), .timeInterval = 1000 * step});
     const std::int32_t sun = attract(ed, pin(ed, 7140, 1680, amber), g);
     dress(ed, sun, "sun.svg");
