@@ -35,7 +35,8 @@ TEST_F(ExportCommand, MakesTheSameFilmsAndTablesAsTheWindow) {
         EXPECT_EQ(said.error, "");
         EXPECT_EQ(said.status, 0);
         const FilmPlan plan{stepsIn(ed, 1), 10, {2, false}};
-        ASSERT_EQ(makeFilm(ed, format, plan, file("ours"), [](const FilmState&) { return true; }).problem, "");
+        ASSERT_EQ(makeFilm(ed, format, plan, file("ours"), [](const FilmState&) { return true; }).problem,
+                  "");
         EXPECT_TRUE(contentOf(file("film." + suffix)) == contentOf(file("ours")));
     }
     EXPECT_EQ(zentrikCli({"export", sample("7 a walker"), "--steps", "50", "-o", file("t.csv")}).error, "");

@@ -3,11 +3,11 @@
 #include "cli/model.h"
 #include "cli/numbers.h"
 #include "cli/progress.h"
-#include "sim/model_run.h"
 #include "measure/run_table.h"
 #include "measure/state_hash.h"
 #include "model/store.h"
 #include "project/writer.h"
+#include "sim/model_run.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,8 +1,8 @@
 #include "export/table.h"
 
-#include "sim/model_run.h"
 #include "measure/run_table.h"
 #include "project/write_file.h"
+#include "sim/model_run.h"
 
 namespace zentrik {
 
