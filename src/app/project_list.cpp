@@ -1,5 +1,6 @@
 #include "app/project_list.h"
 
+#include <QAbstractItemView>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -14,9 +15,8 @@ public:
     explicit Entries(ProjectList* list) : QStandardItemModel(list), list_(*list) {}
 
     QVariant data(const QModelIndex& index, int role) const override {
-        const auto& tell = role == Qt::ToolTipRole ? list_.tipOf : list_.descriptionOf;
-        const bool isTold = role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole;
-        return isTold && tell ? tell(index.data().toString()) : QStandardItemModel::data(index, role);
+        if (role == Qt::ToolTipRole && list_.tipOf) return list_.tipOf(index.data().toString());
+        return QStandardItemModel::data(index, role);
     }
 
 private:
@@ -35,6 +35,7 @@ ProjectList::ProjectList(QWidget* parent) : QComboBox(parent) {
     lineEdit()->disconnect(SIGNAL(editingFinished()), this);
     lineEdit()->installEventFilter(this);
     installEventFilter(this);
+    connect(this, &QComboBox::textHighlighted, this, &ProjectList::describe);
     connect(this, &QComboBox::activated, this, [this](int entry) {
         setEditText(opened_);  // the name is the project's once it is loaded
         chosen(entry);
@@ -49,7 +50,15 @@ void ProjectList::showPopup() {
     setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
     setEditText(text);
     opened_ = text;
+    describe(text);
     QComboBox::showPopup();
+}
+
+// The list's description, not the entries' own: those Qt asks of every entry it lays out, and draws a line
+// for one that reads "separator".
+void ProjectList::describe(const QString& name) {
+    const bool isListed = findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive) >= 0;
+    view()->setAccessibleDescription(isListed && descriptionOf ? descriptionOf(name) : QString());
 }
 
 // A wheel turned over the closed list would load another project over the one being drawn.

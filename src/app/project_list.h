@@ -13,7 +13,8 @@ public:
     std::function<void(int entry)> chosen;
     std::function<void()> entered;  // Enter in the line
     std::function<void()> left;     // the keyboard belongs to the scene again
-    // What an entry of the opened list tells who points at it, and who has it read; asked for only then.
+    // What an entry of the opened list tells who points at it, and who has the list read; asked for only
+    // then.
     std::function<QString(const QString&name)> tipOf, descriptionOf;
 
     void showPopup() override;
@@ -27,6 +28,7 @@ private:
     QString opened_;  // the text when the list was opened
 
     bool keyPressed(int key);
+    void describe(const QString& name);
 };
 
 }  // namespace zentrik
