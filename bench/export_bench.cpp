@@ -1,6 +1,6 @@
 // Pictures a second, of a scene of 960 x 400 pixels with 100 nodes that fall and swing.
 
-#include "export/film.h"
+#include "export/films/film.h"
 #include "scenes/scenes.h"
 
 #include <benchmark/benchmark.h>

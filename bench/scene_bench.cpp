@@ -1,8 +1,8 @@
 // A redraw at 1920 x 1080 pixels, and what drawing every item by its own QPainter call would cost.
 
+#include "basics/units.h"
 #include "display/scene.h"
 #include "model/store.h"
-#include "model/units.h"
 #include "scenes/scenes.h"
 
 #include <benchmark/benchmark.h>

@@ -1,8 +1,8 @@
 // The views of the window: what a pointer over a still scene costs, how fast the model runs beside its
 // paints, and the start of the program.
 
-#include "app/frm_main.h"
-#include "app/views.h"
+#include "app/views/views.h"
+#include "app/window/frm_main.h"
 #include "model/rate.h"
 #include "scenes/scenes.h"
 #include "sim/run.h"

@@ -1,5 +1,5 @@
 #pragma once
-#include "model/numbers.h"
+#include "basics/numbers.h"
 #include "project/reader.h"
 #include "project/writer.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 // Runs command lines of the companion program.
 
-#include "cli/commands.h"
+#include "cli/commands/commands.h"
 #include "temporary_folder.h"
 
 #include <gtest/gtest.h>

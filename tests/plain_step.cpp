@@ -1,6 +1,6 @@
 #include "plain_step.h"
 
-#include "model/numbers.h"
+#include "basics/numbers.h"
 #include "model/redraw.h"
 #include "model/store.h"
 

@@ -2,8 +2,8 @@
 // Drives the core without a display: a host that answers from a script and writes down what it was
 // asked, in order, as one text; and a model's records as texts.
 
+#include "host/host.h"
 #include "model/editor.h"
-#include "model/host.h"
 #include "model/store.h"
 
 #include <array>

@@ -1,17 +1,17 @@
 #include "undo_walk.h"
 
 #include "edit/mouse.h"
+#include "edit/phase_mouse.h"
 #include "effects/fireworks.h"
 #include "history/history.h"
-#include "project/library.h"
+#include "library/library.h"
 #include "random_model.h"
 #include "rig.h"
 #include "sim/run.h"
 #include "ui/command_toolbar.h"
-#include "ui/menus.h"
-#include "ui/phase_manager.h"
-#include "ui/property_toolbar.h"
 #include "ui/undo.h"
+#include "ui/menus.h"
+#include "ui/property_toolbar.h"
 
 #include <random>
 #include <string_view>

@@ -1,7 +1,7 @@
 #pragma once
 // The real window in a folder of its own, driven by real mouse and key events, offscreen.
 
-#include "app/frm_main.h"
+#include "app/window/frm_main.h"
 #include "model/store.h"
 #include "temporary_folder.h"
 

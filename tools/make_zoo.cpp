@@ -1,6 +1,6 @@
 // Writes the sample projects into a folder: make_zoo FOLDER.
 
-#include "project/write_file.h"
+#include "files/write_file.h"
 #include "project/writer.h"
 #include "zoo/zoo.h"
 

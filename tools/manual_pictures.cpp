@@ -1,10 +1,10 @@
 // Takes the pictures of the README and the manual from the real window, driven by real events.
 // Usage: zentrik_manual_pictures FOLDER
 
-#include "app/program_folder.h"
-#include "app/versions_dialog.h"
+#include "app/boxes/versions_dialog.h"
+#include "app/keeping/program_folder.h"
+#include "library/backups.h"
 #include "photographer.h"
-#include "project/backups.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 #pragma once
 // Drives the real window by real events and saves what it shows.
 
-#include "app/frm_main.h"
+#include "app/window/frm_main.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -2,8 +2,8 @@
 // with the mouse, lets the animation run, and saves what the screen shows.
 // Usage: zentrik_picture PICTURE.png [SECONDS]
 
-#include "app/frm_main.h"
 #include "app/legible.h"
+#include "app/window/frm_main.h"
 
 #include <QApplication>
 #include <QScreen>

@@ -3,10 +3,10 @@
 // Writes PICTURES/NAME.png (blanks become hyphens), the small picture of the manual, and sheets/NAME.png in
 // the present folder, which shows the smallest scene at those times and the large one at the last two.
 
+#include "basics/units.h"
 #include "display/scene.h"
+#include "library/zoo.h"
 #include "model/store.h"
-#include "model/units.h"
-#include "project/zoo.h"
 #include "scenes/visit.h"
 
 #include <QDir>

@@ -1,9 +1,9 @@
 #include "app/command_line.h"
-#include "app/frm_main.h"
+#include "app/keeping/program_folder.h"
 #include "app/legible.h"
 #include "app/program_ends.h"
-#include "app/program_folder.h"
 #include "app/running_program.h"
+#include "app/window/frm_main.h"
 
 #include <QApplication>
 #include <QTimer>

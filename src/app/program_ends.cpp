@@ -1,6 +1,6 @@
 #include "app/program_ends.h"
 
-#include "app/frm_main.h"
+#include "app/window/frm_main.h"
 
 #include <QApplication>
 #include <QSessionManager>

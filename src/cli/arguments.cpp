@@ -1,6 +1,6 @@
 #include "cli/arguments.h"
 
-#include "cli/command.h"
+#include "cli/failure.h"
 #include "cli/numbers.h"
 
 #include <QCommandLineParser>

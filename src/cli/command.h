@@ -2,19 +2,12 @@
 // A command of the program, and how it is told what to do.
 
 #include "cli/arguments.h"
+#include "cli/failure.h"
 
 #include <iosfwd>
 #include <string>
 
 namespace zentrik::cli {
-
-enum ExitStatus { fine = 0, finding = 1, wrongUse = 2 };
-
-// Ends a command; what it says goes to the error stream. Nothing half done is left behind.
-struct Failure {
-    ExitStatus status;
-    std::string text;
-};
 
 struct Streams {
     std::istream& in;

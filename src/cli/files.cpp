@@ -1,7 +1,7 @@
 #include "cli/files.h"
 
-#include "project/write_file.h"
-#include "project/zoo.h"
+#include "files/write_file.h"
+#include "library/zoo.h"
 
 #include <istream>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "cli/commands.h"
+#include "cli/commands/commands.h"
 
 #include <unistd.h>
 

@@ -1,6 +1,6 @@
 #include "cli/numbers.h"
 
-#include "cli/command.h"
+#include "cli/failure.h"
 
 #include <charconv>
 #include <cmath>

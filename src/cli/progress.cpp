@@ -1,6 +1,6 @@
 #include "cli/progress.h"
 
-#include "model/numbers.h"
+#include "basics/numbers.h"
 
 #include <ostream>
 

@@ -1,7 +1,7 @@
 #include "display/lines.h"
 
-#include "display/stamp.h"
-#include "model/numbers.h"
+#include "basics/numbers.h"
+#include "display/canvas/stamp.h"
 #include "model/store.h"
 
 #include <QLineF>

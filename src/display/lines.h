@@ -2,7 +2,7 @@
 // What lies under the nodes: the dot grid, the links, the highlight of animated links; and the rubber
 // band of draw mode.
 
-#include "display/canvas.h"
+#include "display/canvas/canvas.h"
 #include "model/editor.h"
 
 namespace zentrik {

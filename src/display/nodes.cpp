@@ -1,6 +1,6 @@
 #include "display/nodes.h"
 
-#include "display/stamp.h"
+#include "display/canvas/stamp.h"
 #include "model/shooter_aim.h"
 #include "model/store.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 // Nodes with their shooters' barrels and gravity dots, and the marks of selection and hovering.
 
-#include "display/canvas.h"
+#include "display/canvas/canvas.h"
 #include "model/editor.h"
 
 namespace zentrik {

@@ -1,7 +1,7 @@
 #include "display/overlays.h"
 
-#include "display/colours.h"
-#include "model/numbers.h"
+#include "basics/numbers.h"
+#include "display/canvas/colours.h"
 #include "model/store.h"
 
 #include <utility>

@@ -1,7 +1,7 @@
 #include "display/path.h"
 
-#include "display/canvas.h"
-#include "model/units.h"
+#include "basics/units.h"
+#include "display/canvas/canvas.h"
 
 namespace zentrik {
 

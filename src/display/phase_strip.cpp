@@ -1,8 +1,8 @@
 #include "display/phase_strip.h"
 
-#include "display/lettering.h"
-#include "display/stamp.h"
-#include "model/angles.h"
+#include "basics/angles.h"
+#include "display/canvas/lettering.h"
+#include "display/canvas/stamp.h"
 #include "model/store.h"
 
 #include <QPolygonF>

@@ -1,6 +1,6 @@
 #include "display/scene.h"
 
-#include "display/lettering.h"
+#include "display/canvas/lettering.h"
 #include "display/lines.h"
 #include "display/nodes.h"
 #include "display/overlays.h"

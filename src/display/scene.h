@@ -1,5 +1,5 @@
 #pragma once
-#include "display/canvas.h"
+#include "display/canvas/canvas.h"
 #include "display/sprites.h"
 #include "model/editor.h"
 

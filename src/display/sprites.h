@@ -1,7 +1,7 @@
 #pragma once
 // Small pictures painted on nodes.
 
-#include "display/canvas.h"
+#include "display/canvas/canvas.h"
 #include "model/editor.h"
 
 #include <QCache>

@@ -1,7 +1,7 @@
 #include "display/title.h"
 
-#include "display/face.h"
-#include "display/lettering.h"
+#include "display/canvas/face.h"
+#include "display/canvas/lettering.h"
 
 #include <QFont>
 #include <QFontMetricsF>

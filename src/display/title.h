@@ -1,7 +1,7 @@
 #pragma once
 // The project's title above the scene: one line of any writing.
 
-#include "display/canvas.h"
+#include "display/canvas/canvas.h"
 #include "model/editor.h"
 
 namespace zentrik {

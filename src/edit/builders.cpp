@@ -1,10 +1,10 @@
 #include "edit/builders.h"
 
+#include "basics/angles.h"
+#include "basics/numbers.h"
 #include "edit/command.h"
-#include "model/angles.h"
+#include "host/host.h"
 #include "model/grid.h"
-#include "model/host.h"
-#include "model/numbers.h"
 #include "model/redraw.h"
 #include "model/store.h"
 

@@ -1,7 +1,7 @@
 #include "edit/command.h"
 
+#include "host/host.h"
 #include "model/connected.h"
-#include "model/host.h"
 #include "model/readout.h"
 #include "model/store.h"
 

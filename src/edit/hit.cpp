@@ -1,6 +1,6 @@
 #include "edit/hit.h"
 
-#include "model/numbers.h"
+#include "basics/numbers.h"
 #include "model/store.h"
 
 #include <algorithm>

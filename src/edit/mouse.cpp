@@ -1,8 +1,8 @@
 #include "edit/mouse.h"
 
+#include "basics/numbers.h"
 #include "edit/hit.h"
 #include "model/grid.h"
-#include "model/numbers.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"

@@ -1,9 +1,9 @@
 #include "edit/objects.h"
 
+#include "basics/numbers.h"
 #include "edit/command.h"
 #include "edit/hit.h"
 #include "model/connected.h"
-#include "model/numbers.h"
 #include "model/redraw.h"
 #include "model/store.h"
 

@@ -1,9 +1,9 @@
 #include "edit/transforms.h"
 
+#include "basics/angles.h"
+#include "basics/numbers.h"
 #include "edit/command.h"
-#include "model/angles.h"
 #include "model/grid.h"
-#include "model/numbers.h"
 #include "model/store.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "effects/fireworks.h"
 
-#include "model/angles.h"
-#include "model/numbers.h"
+#include "basics/angles.h"
+#include "basics/numbers.h"
 #include "model/redraw.h"
 #include "model/store.h"
 

@@ -1,9 +1,9 @@
 #include "effects/shooter.h"
 
-#include "model/angles.h"
-#include "model/host.h"
-#include "model/numbers.h"
-#include "model/questions.h"
+#include "basics/angles.h"
+#include "basics/numbers.h"
+#include "host/host.h"
+#include "host/questions.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/shooter_aim.h"

@@ -1,7 +1,7 @@
 #include "export/picture.h"
 
+#include "basics/units.h"
 #include "display/scene.h"
-#include "model/units.h"
 
 #include <QBuffer>
 #include <QPageSize>

@@ -1,7 +1,7 @@
 #include "export/table.h"
 
+#include "files/write_file.h"
 #include "measure/run_table.h"
-#include "project/write_file.h"
 #include "sim/model_run.h"
 
 namespace zentrik {

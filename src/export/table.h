@@ -1,7 +1,12 @@
 #pragma once
 // The table of a run as a file, a row a step.
 
-#include "export/film.h"
+#include "export/making.h"
+#include "model/editor.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
 
 namespace zentrik {
 

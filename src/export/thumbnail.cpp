@@ -1,8 +1,8 @@
 #include "export/thumbnail.h"
 
-#include "model/numbers.h"
+#include "basics/numbers.h"
+#include "basics/units.h"
 #include "model/store.h"
-#include "model/units.h"
 
 #include <algorithm>
 

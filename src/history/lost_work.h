@@ -1,7 +1,7 @@
 #pragma once
-// What a session throws away that no file holds. It goes to History::lost, for the window to keep.
+// What the person throws away that no file holds. It goes to History::lost, for the window to keep.
 
-#include "history/history.h"
+#include "history/steps.h"
 
 namespace zentrik {
 

@@ -1,7 +1,7 @@
 #include "measure/quantities.h"
 
 #include "model/store.h"
-#include "sim/contacts.h"
+#include "sim/contacts/contacts.h"
 #include "sim/forces.h"
 
 #include <algorithm>

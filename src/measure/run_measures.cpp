@@ -1,6 +1,6 @@
 #include "measure/run_measures.h"
 
-#include "model/no_doubles.h"
+#include "basics/no_doubles.h"
 #include "model/store.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "measure/run_table.h"
 
+#include "basics/numbers.h"
 #include "measure/quantities.h"
-#include "model/numbers.h"
 #include "model/store.h"
 #include "sim/forces.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 // The whole state of the program in one record. Procedures change it, the window shows it.
 
-#include "model/chance.h"
+#include "basics/chance.h"
 #include "model/records.h"
 
 #include <array>

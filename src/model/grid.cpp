@@ -1,6 +1,6 @@
 #include "model/grid.h"
 
-#include "model/numbers.h"
+#include "basics/numbers.h"
 
 namespace zentrik {
 

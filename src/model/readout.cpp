@@ -1,6 +1,6 @@
 #include "model/readout.h"
 
-#include "model/numbers.h"
+#include "basics/numbers.h"
 #include "model/store.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "model/redraw.h"
 
-#include "model/angles.h"
+#include "basics/angles.h"
+#include "basics/numbers.h"
 #include "model/grid.h"
-#include "model/numbers.h"
 #include "model/readout.h"
 #include "model/shooter_aim.h"
 #include "model/store.h"

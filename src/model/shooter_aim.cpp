@@ -1,7 +1,7 @@
 #include "model/shooter_aim.h"
 
-#include "model/angles.h"
-#include "model/numbers.h"
+#include "basics/angles.h"
+#include "basics/numbers.h"
 #include "model/store.h"
 
 #include <cmath>

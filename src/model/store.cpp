@@ -1,6 +1,6 @@
 #include "model/store.h"
 
-#include "model/numbers.h"
+#include "basics/numbers.h"
 
 #include <algorithm>
 #include <cmath>

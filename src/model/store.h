@@ -1,8 +1,8 @@
 #pragma once
 // Creating, deleting and counting nodes and links, and the selection they affect.
 
+#include "basics/prefetch.h"
 #include "model/editor.h"
-#include "model/prefetch.h"
 
 namespace zentrik {
 

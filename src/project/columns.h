@@ -3,7 +3,7 @@
 // the records. A column's form is that of the member it stands for: a truth value, a whole number, a
 // real or a text.
 
-#include "model/no_doubles.h"
+#include "basics/no_doubles.h"
 #include "model/records.h"
 
 #include <cstdint>

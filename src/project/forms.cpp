@@ -1,6 +1,6 @@
 #include "project/forms.h"
 
-#include "model/numbers.h"
+#include "basics/numbers.h"
 #include "project/columns.h"
 
 #include <algorithm>

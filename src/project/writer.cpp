@@ -1,6 +1,6 @@
 #include "project/writer.h"
 
-#include "model/addresses.h"
+#include "basics/addresses.h"
 #include "project/columns.h"
 #include "project/forms.h"
 

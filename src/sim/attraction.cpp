@@ -1,7 +1,7 @@
 #include "sim/attraction.h"
 
 #include "model/store.h"
-#include "sim/pair.h"
+#include "sim/contacts/pair.h"
 
 #include <algorithm>
 #include <bit>

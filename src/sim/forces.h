@@ -2,7 +2,7 @@
 // The force stages of one step, in the order in which the step runs them.
 
 #include "model/editor.h"
-#include "sim/pair.h"
+#include "sim/contacts/pair.h"
 
 #include <vector>
 

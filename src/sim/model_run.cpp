@@ -1,6 +1,6 @@
 #include "sim/model_run.h"
 
-#include "model/quiet_host.h"
+#include "host/quiet_host.h"
 #include "sim/run.h"
 #include "sim/step.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 // A run of free nodes on its way through one step.
 
-#include "sim/contacts.h"
-#include "sim/pair.h"
+#include "sim/contacts/contacts.h"
+#include "sim/contacts/pair.h"
 
 #include <array>
 

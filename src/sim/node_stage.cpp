@@ -1,7 +1,7 @@
 #include "sim/node_stage.h"
 
-#include "model/numbers.h"
-#include "model/prefetch.h"
+#include "basics/numbers.h"
+#include "basics/prefetch.h"
 #include "model/store.h"
 
 #include <algorithm>

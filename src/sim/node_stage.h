@@ -3,12 +3,12 @@
 
 #include "model/editor.h"
 #include "sim/attraction.h"
-#include "sim/barriers.h"
-#include "sim/contacts.h"
+#include "sim/contacts/barriers.h"
+#include "sim/contacts/contacts.h"
+#include "sim/contacts/walls.h"
 #include "sim/forces.h"
 #include "sim/node_run.h"
-#include "sim/step.h"
-#include "sim/walls.h"
+#include "sim/step_report.h"
 
 #include <string>
 

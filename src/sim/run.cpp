@@ -1,6 +1,6 @@
 #include "sim/run.h"
 
-#include "model/numbers.h"
+#include "basics/numbers.h"
 #include "model/redraw.h"
 #include "model/store.h"
 #include "sim/step.h"

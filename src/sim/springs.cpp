@@ -1,5 +1,5 @@
-#include "model/angles.h"
-#include "model/prefetch.h"
+#include "basics/angles.h"
+#include "basics/prefetch.h"
 #include "model/store.h"
 #include "sim/forces.h"
 

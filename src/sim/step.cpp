@@ -1,7 +1,7 @@
 #include "sim/step.h"
 
-#include "model/angles.h"
-#include "model/numbers.h"
+#include "basics/angles.h"
+#include "basics/numbers.h"
 #include "model/shooter_aim.h"
 #include "model/store.h"
 #include "sim/node_stage.h"

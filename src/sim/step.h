@@ -2,21 +2,9 @@
 // The step: physics alone. What shows it stands in sim/run.h. tests/plain_step.cpp has the same step in plain
 // loops, without what makes it fast.
 
-#include "model/editor.h"
-
-#include <optional>
-#include <string>
+#include "sim/step_report.h"
 
 namespace zentrik {
-
-// What a step leaves to be shown.
-struct StepReport {
-    std::string problem;         // why the step was taken back: the node and the reason; empty if it worked
-    std::optional<float> clock;  // where it took the clock; none for a step that was not begun
-    std::optional<float> distance;  // twips between the last free node and the barrier measured last
-    std::optional<PathDot> dot;     // of the selected node's track, if that is shown
-    bool anyRemoved = false;        // the floor took a node out of the model
-};
 
 // Advances the whole model by one time step and shows nothing. A step that cannot go on (a free node of
 // mass 0, a value that is not finite, a position beyond 32 bits) puts every node back to its state before

@@ -1,18 +1,18 @@
 #include "ui/command_toolbar.h"
 
+#include "basics/no_doubles.h"
 #include "edit/hit.h"
 #include "edit/objects.h"
 #include "edit/transforms.h"
 #include "effects/shooter.h"
-#include "model/host.h"
-#include "model/no_doubles.h"
+#include "host/host.h"
+#include "library/library.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
-#include "project/library.h"
 #include "sim/run.h"
-#include "ui/online.h"
-#include "ui/options.h"
+#include "ui/commands/online.h"
+#include "ui/commands/options.h"
 
 #include <string_view>
 

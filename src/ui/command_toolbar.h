@@ -1,7 +1,7 @@
 #pragma once
 // The command toolbar as one table, one row a button, left to right.
 
-#include "ui/commands.h"
+#include "ui/commands/commands.h"
 
 #include <span>
 

@@ -1,11 +1,11 @@
 #include "ui/keys.h"
 
+#include "basics/no_doubles.h"
 #include "edit/hit.h"
-#include "model/no_doubles.h"
+#include "edit/phase_mouse.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
-#include "ui/phase_manager.h"
 
 #include <string_view>
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 // What the keyboard does beside the menus' shortcuts, as one table. The window wires it, the manual lists it.
 
-#include "ui/commands.h"
+#include "ui/commands/commands.h"
 
 #include <span>
 

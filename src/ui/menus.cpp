@@ -1,19 +1,19 @@
 #include "ui/menus.h"
 
+#include "basics/no_doubles.h"
 #include "edit/builders.h"
 #include "edit/bulk.h"
 #include "edit/compact.h"
 #include "edit/objects.h"
 #include "effects/fireworks.h"
 #include "effects/shooter.h"
-#include "model/no_doubles.h"
+#include "library/library.h"
 #include "model/store.h"
-#include "project/library.h"
 #include "sim/run.h"
-#include "ui/model_information.h"
-#include "ui/online.h"
-#include "ui/options.h"
-#include "ui/sprite_commands.h"
+#include "ui/commands/model_information.h"
+#include "ui/commands/online.h"
+#include "ui/commands/options.h"
+#include "ui/commands/sprite_commands.h"
 
 #include <string_view>
 

@@ -1,7 +1,7 @@
 #pragma once
 // The menu bar as one table, one row an entry.
 
-#include "ui/commands.h"
+#include "ui/commands/commands.h"
 
 #include <span>
 

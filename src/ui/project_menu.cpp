@@ -1,8 +1,8 @@
 #include "ui/project_menu.h"
 
-#include "model/no_doubles.h"
-#include "project/library.h"
-#include "project/manage.h"
+#include "basics/no_doubles.h"
+#include "library/library.h"
+#include "library/manage.h"
 #include "sim/run.h"
 
 #include <string_view>

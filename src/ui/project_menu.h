@@ -1,7 +1,7 @@
 #pragma once
 // The context menu of the project list as one table.
 
-#include "ui/commands.h"
+#include "ui/commands/commands.h"
 
 #include <span>
 

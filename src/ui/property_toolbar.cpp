@@ -1,14 +1,14 @@
 #include "ui/property_toolbar.h"
 
+#include "basics/no_doubles.h"
+#include "basics/numbers.h"
 #include "edit/command.h"
-#include "model/host.h"
-#include "model/no_doubles.h"
-#include "model/numbers.h"
-#include "model/questions.h"
+#include "host/host.h"
+#include "host/questions.h"
 #include "model/rate.h"
 #include "model/redraw.h"
 #include "model/store.h"
-#include "ui/property_commands.h"
+#include "ui/commands/property_commands.h"
 
 #include <algorithm>
 

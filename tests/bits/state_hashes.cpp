@@ -2,10 +2,10 @@
 // has them. It needs no Qt, so that any compiler, and any processor under an emulator, can be asked. Usage:
 // state_hashes PROGRAM_FOLDER [NAME...]
 
+#include "basics/angles.h"
+#include "basics/numbers.h"
+#include "library/zoo.h"
 #include "measure/state_hash.h"
-#include "model/angles.h"
-#include "model/numbers.h"
-#include "project/zoo.h"
 #include "scenes/visit.h"
 
 #include <algorithm>

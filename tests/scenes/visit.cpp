@@ -1,11 +1,11 @@
 #include "scenes/visit.h"
 
 #include "effects/shooter.h"
+#include "library/library.h"
 #include "model/store.h"
-#include "project/library.h"
 #include "rig.h"
+#include "settings/settings.h"
 #include "sim/run.h"
-#include "ui/settings.h"
 
 #include <cmath>
 #include <stdexcept>

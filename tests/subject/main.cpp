@@ -1,8 +1,8 @@
 // A program to be killed: zentrik_subject FOLDER draws two nodes by mouse, says so and goes on as the
 // program does. What it finds left by others it restores.
 
-#include "app/frm_main.h"
 #include "app/program_ends.h"
+#include "app/window/frm_main.h"
 
 #include <QApplication>
 #include <QtTest/QTest>

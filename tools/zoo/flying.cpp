@@ -1,6 +1,6 @@
 // Exhibits that float in space, water or air.
 
-#include "model/numbers.h"
+#include "basics/numbers.h"
 #include "model/store.h"
 #include "zoo/kit.h"
 #include "zoo/zoo.h"

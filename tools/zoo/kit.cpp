@@ -1,6 +1,6 @@
 #include "zoo/kit.h"
 
-#include "model/numbers.h"
+#include "basics/numbers.h"
 #include "model/store.h"
 #include "scenes/scenes.h"
 

@@ -1,7 +1,7 @@
 // Exhibits held together by attraction alone. A node of attraction g pulls a node of mass m at distance d
 // with an acceleration of 1e9 g / (d^2 m).
 
-#include "model/numbers.h"
+#include "basics/numbers.h"
 #include "model/store.h"
 #include "zoo/kit.h"
 #include "zoo/zoo.h"

@@ -1,0 +1,192 @@
+#include "app/window/frm_main.h"
+
+#include "app/bars/icons.h"
+#include "app/keeping/program_folder.h"
+#include "basics/units.h"
+#include "edit/mouse.h"
+#include "edit/phase_mouse.h"
+#include "effects/fireworks.h"
+#include "files/write_file.h"
+#include "library/library.h"
+#include "library/zoo.h"
+#include "model/invariants.h"
+#include "model/redraw.h"
+#include "model/store.h"
+#include "sim/run.h"
+#include "ui/commands/layout.h"
+#include "ui/commands/online.h"
+#include "ui/commands/sprite_commands.h"
+#include "ui/property_toolbar.h"
+
+#include <QFileInfo>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QWheelEvent>
+#include <cassert>
+
+namespace zentrik {
+
+namespace {
+
+QRect pixelRect(const Rect& r) {
+    const int left = pixels(r.left), top = pixels(r.top);
+    return {left, top, pixels(r.left + r.width) - left, pixels(r.top + r.height) - top};
+}
+
+}  // namespace
+
+frmMain::frmMain(const QString& folder)
+    : host_(*this),
+      panels_(*statusBar()),
+      client_(new QWidget(this)),
+      bars_(*this),
+      undo_(new UndoButtons(this)),
+      share_(new ShareButton(this)),
+      sharing_(ed_, host_, *this),
+      picS_(new SceneView(ed_, client_)),
+      picPhase_(new PhaseView(ed_, client_)),
+      Frame1_(new SpriteBrowser(client_)),
+      frmPath_(new PathWindow(ed_, this)) {
+    setObjectName("frmMain");
+    setWindowIcon(programIcon());
+    buildMenus();
+    statusBar()->setObjectName("StatusBar1");
+    buildClient();
+    connectBars();
+    connectLists();
+    fillCorner();
+    connectUndo();
+    connectSharing();
+    connectTime();
+    connectViews();
+    connectTimers();
+    connectDrops();
+    connectKeys();
+    chooseTabOrder();
+    Form_Load(folder);
+    startHistory(history_, ed_);
+    connectRecovery();
+    showRecord();
+    picS_->setFocus();
+}
+
+void frmMain::Form_Load(const QString& folder) {
+    ed_.programFolder = (folder.isEmpty() ? programFolder() : folder).toStdString();
+    for (const char* kept : {"/zoo", "/backups", "/recovery"}) sweepLeftovers(ed_.programFolder + kept);
+    ed_.chance.reseed();
+    readSprites();
+    if (!QFileInfo::exists(QString::fromStdString(ed_.programFolder) + "/zoo"))
+        panel(ed_, 5) = "The sample projects could not be copied to " + ed_.programFolder;
+    const std::string toSay = panel(ed_, 5);
+    Placement placement;
+    const std::string settingsProblem = settings_.load(ed_, placement);
+    fitBars();
+    restorePlacement(placement);
+    layOutWindow();
+    showGlobalValues(ed_);
+    showCounts(ed_);
+    panel(ed_, 3) = "Cycles: 0";
+    LoadListOfFileNames(ed_, host_, true);
+    if (!ed_.marks.mnuAutoResume) ClearAnimation(ed_);
+    DisplayScene(ed_, -1, -1);
+    redrawPhaseManager(ed_, 0);
+    if (!toSay.empty()) panel(ed_, 5) = toSay;
+    if (!settingsProblem.empty())
+        host_.messageBox(settingsProblem + "\nThe program goes on with what it could read.", "Zentrik",
+                         BoxIcon::exclamation);
+}
+
+// The folder may hold other pictures by now.
+void frmMain::readSprites() {
+    const std::vector<std::string> skipped = picS_->sprites.read(ed_.programFolder + "/sprites");
+    listSprites(ed_, picS_->sprites.names());
+    Frame1_->setPictures(picS_->sprites);
+    for (std::size_t i = 0; i < skipped.size(); ++i)
+        panel(ed_, 5) = (i == 0 ? "No usable picture: " : panel(ed_, 5) + ", ") + skipped[i];
+}
+
+void frmMain::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    // Shown at the size it was laid out for, the window keeps what its start said in status panel 5.
+    const bool known = width() * twipsPerPixel == ed_.windowWidth &&
+                       (height() - roomTaken()) * twipsPerPixel == ed_.windowHeight;
+    if (isMinimized() || known) return;
+    layOutWindow();
+    showRecord();
+}
+
+void frmMain::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        bars_.followPalette();
+        undo_->drawIcons();
+        share_->drawIcon();
+        showRecord();
+    }
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        fitBars();
+        layOutWindow();
+        showRecord();
+    }
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    // A wheel turned over the closed list would change the selected node's sprite.
+    if (event->type() == QEvent::Wheel && watched == bars_.lstSprites) return true;
+    if (event->type() == QEvent::Wheel && watched == &panels_.panel(4)) {
+        turnTime(*static_cast<QWheelEvent*>(event));
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void frmMain::showRecord() {
+    assert(brokenRule(ed_).empty());
+    if (ed_.marks.mnuDisplayBrowser && Frame1_->isHidden() && isVisible()) readSprites();
+    renewGlobalValues(ed_);
+    for (const MenuEntry& entry : marks_) entry.action->setChecked(ed_.marks.*entry.row->mark);
+    bars_.show(ed_);
+    undo_->show(history_);
+    showTitle();
+    recovery_->follow(ed_, history_);
+    panels_.show(ed_.panels);
+    showSelection();
+    showLayout();
+    showTimers();
+    if (std::exchange(ed_.sceneStale, false)) picS_->showRecord();
+    if (std::exchange(ed_.marksStale, false)) picS_->pacer.request();
+    if (std::exchange(ed_.phaseStale, false)) picPhase_->showRecord();
+    if (frmPath_->isVisible()) frmPath_->pacer.request();
+}
+
+// A name may be of any length while it is typed.
+void frmMain::showTitle() {
+    QString name = QString::fromStdString(ed_.savedText).simplified().left(100);
+    const bool unnamed = name.isEmpty() || name == noFileFound;
+    setWindowTitle((unnamed ? "Unnamed" : name.replace("[*]", "[*][*]")) + "[*] - Zentrik");
+    setWindowModified(isModified(history_, ed_));
+}
+
+void frmMain::showLayout() {
+    const auto place = [](QWidget& widget, const Rect& rect, bool visible) {
+        if (widget.geometry() != pixelRect(rect)) widget.setGeometry(pixelRect(rect));
+        if (widget.isHidden() == visible) widget.setVisible(visible);
+    };
+    place(*picS_, ed_.layout.picS, true);
+    place(*picPhase_, ed_.layout.picPhase, ed_.marks.mnuDisplayAngleManager);
+    place(*Frame1_, ed_.layout.Frame1, ed_.marks.mnuDisplayBrowser);
+    place(*Frame1_->HScroll1, ed_.layout.HScroll1, ed_.marks.mnuDisplayBrowser);
+}
+
+void frmMain::showTimers() {
+    const auto follow = [](QTimer& shown, const Timer& timer) {
+        if (shown.interval() != timer.interval) shown.setInterval(timer.interval);
+        if (timer.enabled && !shown.isActive()) shown.start();
+        if (!timer.enabled && shown.isActive()) shown.stop();
+    };
+    follow(Timer1_, ed_.Timer1);
+    follow(timerFireWorks_, ed_.timerFireWorks);
+}
+
+}  // namespace zentrik

@@ -1,0 +1,168 @@
+#include "cli/commands/commands.h"
+#include "cli/files.h"
+#include "cli/progress.h"
+#include "cli/runs/model.h"
+#include "export/films/film.h"
+#include "export/table.h"
+#include "export/thumbnail.h"
+#include "sim/model_run.h"
+
+#include <QGuiApplication>
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <memory>
+
+namespace zentrik::cli {
+
+namespace {
+
+constexpr OptionRow options[] = {
+    {"o", "out", "NAME", "The file to write: NAME.png, .svg, .pdf, .gif, .html, .mp4, .webm or .csv."},
+    {nullptr, "format", "SUFFIX", "What to write where NAME does not tell; \"folder\" makes numbered PNGs."},
+    {nullptr, "scale", "S", "Picture elements to a pixel of the window, 1 to 8; 1 as usual."},
+    {nullptr, "size", "N", "A picture of the model alone, at most N picture elements wide and high."},
+    {nullptr, "transparent", nullptr, "Leave the background out, where the format can."},
+    {nullptr, "rate", "N", "The film's pictures a second; 20 for GIF, 25 or 30 for others as usual."},
+};
+
+std::string details() {
+    return "A picture shows the model after --steps or --time, as it stands without. A film or a table is as "
+           "long as they say, 10 seconds of the model's time without, and begins with the press of the start "
+           "button.\n\n" +
+           modelDetails();
+}
+
+struct PictureRow {
+    const char* suffix;
+    PictureFormat format;
+};
+constexpr PictureRow pictures[] = {
+    {"png", PictureFormat::png}, {"svg", PictureFormat::svg}, {"pdf", PictureFormat::pdf}};
+
+std::string lowerCase(std::string text) {
+    for (char& c : text)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    return text;
+}
+
+std::string formatName(const Arguments& arguments, const std::string& file) {
+    if (const auto named = arguments.value("format")) return lowerCase(*named);
+    const std::size_t point = file.rfind('.');
+    if (point == std::string::npos || file.find('/', point) != std::string::npos)
+        throw Failure{wrongUse, "The name of " + file + " does not tell its format; --format does."};
+    return lowerCase(file.substr(point + 1));
+}
+
+const FilmFormat* filmFormat(const std::string& name) {
+    const auto formats = filmFormats();
+    const auto found = std::find_if(formats.begin(), formats.end(), [&](const FilmFormat& format) {
+        return name == (*format.suffix == '\0' ? "folder" : format.suffix);
+    });
+    return found == formats.end() ? nullptr : &*found;
+}
+
+// Fonts and pictures need one while they are used; a display they need not.
+std::unique_ptr<QGuiApplication> paintingApplication() {
+    static int count = 1;
+    static char name[] = "zentrik-cli", *names[] = {name, nullptr};
+    if (QCoreApplication::instance() != nullptr) return nullptr;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type >= QtCriticalMsg) std::fprintf(stderr, "%s\n", qPrintable(text));
+    });
+    return std::make_unique<QGuiApplication>(count, names);
+}
+
+Look lookOf(const Arguments& arguments) {
+    const std::int64_t scale = arguments.number("scale", 1).value_or(1);
+    if (scale > largestScale) throw Failure{wrongUse, "--scale goes up to 8."};
+    return {static_cast<double>(scale), arguments.has("transparent")};
+}
+
+std::int64_t lengthOf(const Editor& ed, const Arguments& arguments, std::int64_t usual) {
+    return arguments.has("steps") || arguments.has("time") ? stepsToRun(ed, arguments) : usual;
+}
+
+ExitStatus stoppedEarly(const Arguments& arguments, const std::string& why) {
+    if (why.empty()) return fine;
+    throw Failure{finding, shownName(arguments.operands.front()) + ": " + why};
+}
+
+ExitStatus exportPicture(Editor& ed, PictureFormat format, const std::string& file,
+                         const Arguments& arguments, Streams& streams) {
+    Look look = lookOf(arguments);
+    const std::int64_t steps = lengthOf(ed, arguments, 0);
+    if (steps > 0) beginRun(ed);
+    for (std::int64_t step = 0; step < steps; ++step)
+        if (!stepRun(ed)) break;
+    Subject subject(ed);
+    if (const auto side = arguments.number("size", 1))
+        look.scale = fitThumbnail(subject, static_cast<int>(std::min<std::int64_t>(*side, 1 << 15)));
+    const PictureFile made = pictureFile(subject, format, look);
+    if (!made.problem.empty()) throw Failure{finding, shownName(file) + ": " + made.problem};
+    writeBytes(file, made.bytes, streams);
+    return stoppedEarly(arguments, steps > 0 ? whyStopped(ed) : "");
+}
+
+ExitStatus exportFilm(const Editor& ed, const FilmFormat& format, const std::string& file,
+                      const Arguments& arguments, Streams& streams) {
+    if (arguments.has("size")) throw Failure{wrongUse, "--size is of use with pictures only."};
+    if (file == "-") throw Failure{wrongUse, "A film cannot go to the standard output."};
+    FilmPlan plan{lengthOf(ed, arguments, stepsIn(ed, usualFilm)), format.usualRate, lookOf(arguments)};
+    if (const auto rate = arguments.number("rate", 1)) {
+        if (*rate > format.highestRate)
+            throw Failure{wrongUse, "--rate goes up to " + std::to_string(format.highestRate) + " here."};
+        plan.rate = static_cast<int>(*rate);
+    }
+    if (plan.look.transparent && !format.transparent)
+        throw Failure{wrongUse, std::string("An ") + format.name + " cannot be transparent."};
+    const std::int64_t count = pictureCount(ed, plan);
+    FilmResult result;
+    {
+        Progress progress(streams, "pictures", count);
+        result = makeFilm(ed, format, plan, file, [&](const FilmState& state) {
+            progress.show(std::llround(state.done * static_cast<double>(count)));
+            return true;
+        });
+    }
+    if (!result.problem.empty()) throw Failure{finding, file + ": " + result.problem};
+    return stoppedEarly(arguments, result.stopped);
+}
+
+ExitStatus exportTable(Editor& ed, const std::string& file, const Arguments& arguments, Streams& streams) {
+    const std::int64_t steps = lengthOf(ed, arguments, stepsIn(ed, usualFilm));
+    TextOutput output(file, streams);
+    const std::string stopped = runTable(ed, steps, output.text, [&](std::int64_t) {
+        output.grown();
+        return true;
+    });
+    output.finish();
+    return stoppedEarly(arguments, stopped);
+}
+
+ExitStatus run(const Arguments& arguments, Streams& streams) {
+    const std::string file = arguments.value("out").value_or("");
+    if (file.empty()) throw Failure{wrongUse, "-o must say which file to write."};
+    const std::string name = formatName(arguments, file);
+    Editor ed = openModel(arguments.operands.front(), arguments, streams);
+    if (name == "csv") return exportTable(ed, file, arguments, streams);
+    const auto application = paintingApplication();
+    for (const PictureRow& row : pictures)
+        if (name == row.suffix) return exportPicture(ed, row.format, file, arguments, streams);
+    if (const FilmFormat* format = filmFormat(name)) return exportFilm(ed, *format, file, arguments, streams);
+    throw Failure{wrongUse, "There is no format \"" + name + "\"."};
+}
+
+}  // namespace
+
+const Command exportCommand{"export",
+                            "FILE",
+                            1,
+                            1,
+                            "Makes a picture, a film or a table of a project.",
+                            details,
+                            {options, lengthOptions(), modelOptions()},
+                            run};
+
+}  // namespace zentrik::cli

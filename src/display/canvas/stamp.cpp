@@ -1,0 +1,106 @@
+#include "display/canvas/stamp.h"
+
+#include <algorithm>
+
+namespace zentrik {
+
+namespace {
+
+constexpr double largestStamp = 64;      // reach in device pixels beyond which a shape is drawn directly
+constexpr double largestRadius = 16000;  // device pixels; keeps the rasteriser inside its range
+
+}  // namespace
+
+void drawShape(QPainter& painter, Shape shape, QPointF centre, double radius, int outlineWidth, QColor fill,
+               QColor outline) {
+    if (shape == Shape::circle) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(outline, outlineWidth));
+        painter.setBrush(fill);
+        painter.drawEllipse(centre, radius, radius);
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        return;
+    }
+    if (keepsShapes(painter)) {
+        painter.setPen(QPen(outline, outlineWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.setBrush(fill);
+        return painter.drawRect(QRectF(centre - QPointF(radius, radius), 2 * QSizeF(radius, radius)));
+    }
+    // Whole pixels, so that all four edges are sharp.
+    const int side = 2 * static_cast<int>(std::lround(radius)) + outlineWidth;
+    const QRect outer(static_cast<int>(std::lround(centre.x() - side / 2.0)),
+                      static_cast<int>(std::lround(centre.y() - side / 2.0)), side, side);
+    painter.fillRect(outer, outline);
+    painter.fillRect(outer.adjusted(outlineWidth, outlineWidth, -outlineWidth, -outlineWidth), fill);
+}
+
+Stamp::Stamp(const Canvas& canvas, Shape shape, double radius)
+    : canvas_(canvas),
+      shape_(shape),
+      radius_(std::clamp(canvas.pixels(radius), 0.0, largestRadius)),
+      reach_(radius_ + canvas.thinWidth / 2.0 + 0.5) {}
+
+void Stamp::paint(double x, double y, std::int32_t fill, std::int32_t outline) {
+    const QPointF centre = canvas_.place(x, y);
+    const QRect& frame = canvas_.frame;
+    if (centre.x() < -reach_ || centre.y() < -reach_ || centre.x() > frame.width() + reach_ ||
+        centre.y() > frame.height() + reach_)
+        return;
+    if (canvas_.shapes || reach_ > largestStamp) {
+        drawShape(canvas_.painter, shape_, centre, radius_, canvas_.thinWidth, colorOf(fill),
+                  colorOf(outline));
+        return;
+    }
+    if (weights_.isNull()) makeWeights();
+    const int half = weights_.width() / 2;
+    canvas_.painter.drawImage(QPoint(static_cast<int>(std::floor(centre.x())) - half,
+                                     static_cast<int>(std::floor(centre.y())) - half),
+                              picture(fill, outline));
+}
+
+void Stamp::makeWeights() {
+    const int side = 2 * static_cast<int>(std::ceil(reach_)) + canvas_.thinWidth % 2;
+    weights_ = QImage(side, side, QImage::Format_ARGB32_Premultiplied);
+    weights_.fill(Qt::transparent);
+    QPainter painter(&weights_);
+    drawShape(painter, shape_, QPointF(side / 2.0, side / 2.0), radius_, canvas_.thinWidth, QColor(255, 0, 0),
+              QColor(0, 255, 0));
+}
+
+// A colour has a few places where its picture may be kept; when others have them all, the first one yields.
+const QImage& Stamp::picture(std::int32_t fill, std::int32_t outline) {
+    constexpr std::size_t places = 4;
+    const std::uint32_t mixed =
+        (static_cast<std::uint32_t>(fill) ^ static_cast<std::uint32_t>(outline) << 4) * 0x9E3779B1U;
+    const std::size_t first = mixed >> 26;
+    static_assert(std::tuple_size_v<decltype(kept_)> == 1 << (32 - 26));
+    for (std::size_t n = 0; n < places; ++n) {
+        Coloured& kept = kept_[(first + n) % kept_.size()];
+        const bool fresh = kept.image.isNull();
+        if (!fresh && (kept.fill != fill || kept.outline != outline)) continue;
+        if (fresh) colour(kept = {fill, outline, QImage(weights_.size(), weights_.format())});
+        return kept.image;
+    }
+    Coloured& kept = kept_[first];
+    kept.fill = fill;
+    kept.outline = outline;
+    colour(kept);
+    return kept.image;
+}
+
+void Stamp::colour(Coloured& coloured) const {
+    const QRgb in = colorOf(coloured.fill).rgb(), rim = colorOf(coloured.outline).rgb();
+    const auto* from = reinterpret_cast<const QRgb*>(weights_.constBits());
+    auto* to = reinterpret_cast<QRgb*>(coloured.image.bits());
+    std::transform(from, from + weights_.width() * weights_.height(), to, [&](QRgb weight) {
+        const int fillPart = qRed(weight), rimPart = qGreen(weight), coverage = qAlpha(weight);
+        // Rounding must not lift a premultiplied part above the coverage: blending would overflow.
+        const auto mix = [&](int a, int b) {
+            return std::min((a * fillPart + b * rimPart + 127) / 255, coverage);
+        };
+        return qRgba(mix(qRed(in), qRed(rim)), mix(qGreen(in), qGreen(rim)), mix(qBlue(in), qBlue(rim)),
+                     coverage);
+    });
+}
+
+}  // namespace zentrik

@@ -1,0 +1,146 @@
+#include "export/films/page.h"
+
+#include "display/scene.h"
+#include "files/write_file.h"
+
+#include <QFile>
+#include <QStringList>
+#include <map>
+#include <optional>
+
+namespace zentrik {
+
+namespace {
+
+template <class Numbers>
+QByteArray listText(const Numbers& numbers) {
+    QByteArray text = "[";
+    for (const auto number : numbers) (text += QByteArray::number(static_cast<qint64>(number))) += ',';
+    if (text.size() > 1) text.chop(1);
+    return text + "]";
+}
+
+// Texts that hold nothing a JSON text must escape; quote: none where they are JSON already.
+QByteArray listText(const std::vector<QString>& texts, const char* quote) {
+    QByteArray text = "[";
+    for (const QString& it : texts) text += quote + it.toLatin1() + quote + ",\n";
+    if (text.size() > 1) text.chop(2);
+    return text + "]";
+}
+
+QByteArray player() {
+    QFile file(":/player.html");
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+}  // namespace
+
+PageWriter::PageWriter(std::string path, const Editor& ed, const FilmPlan& plan)
+    : path_(std::move(path)), plan_(plan), size_(sceneSize(ed)), title_(titleOf(ed)) {}
+
+std::string PageWriter::take(const Subject& subject) {
+    ShapeRecorder recorder(size_, tables_);
+    {
+        QPainter painter(&recorder);
+        drawScene(painter, subject.ed, subject.sprites,
+                  plan_.look.transparent ? Ground::clear : Ground::painted);
+    }
+    if (!goesOn(recorder.picture)) beginChapter(recorder.picture);
+    addMoves(recorder.picture);
+    return {};
+}
+
+// Whether the picture shows the chapter's shapes, and those that shared a point still do.
+bool PageWriter::goesOn(const RecordedPicture& picture) const {
+    if (chapters_.empty() || chapters_.back().shapes != picture.shapes) return false;
+    const Chapter& chapter = chapters_.back();
+    std::vector<std::optional<Spot>> seen(chapter.last.size());
+    for (std::size_t i = 0; i < picture.places.size(); ++i) {
+        std::optional<Spot>& point = seen[chapter.points[i]];
+        if (point && *point != picture.places[i]) return false;
+        point = picture.places[i];
+    }
+    return true;
+}
+
+void PageWriter::beginChapter(const RecordedPicture& picture) {
+    Chapter& chapter = chapters_.emplace_back();
+    chapter.shapes = picture.shapes;
+    std::map<Spot, std::size_t> points;
+    for (const Spot& place : picture.places)
+        chapter.points.push_back(points.try_emplace(place, points.size()).first->second);
+    chapter.last.resize(points.size());
+}
+
+void PageWriter::addMoves(const RecordedPicture& picture) {
+    Chapter& chapter = chapters_.back();
+    ++chapter.pictures;
+    std::vector<Spot> now(chapter.last.size());
+    for (std::size_t i = 0; i < picture.places.size(); ++i) now[chapter.points[i]] = picture.places[i];
+    for (std::size_t i = 0; i < now.size(); ++i) {
+        addMove(now[i].x - chapter.last[i].x);
+        addMove(now[i].y - chapter.last[i].y);
+    }
+    chapter.last = std::move(now);
+}
+
+// Numbers are written in groups of seven bits, the lowest first; signs in their lowest bit. A 0 is followed
+// by how many more there are.
+void PageWriter::addMove(std::int32_t by) {
+    if (by == 0) {
+        ++still_;
+        return;
+    }
+    endStill();
+    const auto size = static_cast<std::uint64_t>(std::abs(std::int64_t{by}));
+    addNumber(by > 0 ? 2 * size : 2 * size - 1);
+}
+
+void PageWriter::endStill() {
+    if (still_ == 0) return;
+    addNumber(0);
+    addNumber(still_ - 1);
+    still_ = 0;
+}
+
+void PageWriter::addNumber(std::uint64_t number) {
+    for (; number >= 0x80; number >>= 7) moves_ += static_cast<char>((number & 0x7F) | 0x80);
+    moves_ += static_cast<char>(number);
+}
+
+QByteArray PageWriter::film() const {
+    QByteArray chapters = "[";
+    for (const Chapter& chapter : chapters_)
+        chapters += "{\"pictures\":" + QByteArray::number(static_cast<qint64>(chapter.pictures)) +
+                    ",\"points\":" + QByteArray::number(chapter.last.size()) +
+                    ",\"shapes\":" + listText(chapter.shapes) + ",\"places\":" + listText(chapter.points) +
+                    "},\n";
+    chapters.chop(2);
+    return "{\"width\":" + QByteArray::number(size_.width()) +
+           ",\"height\":" + QByteArray::number(size_.height()) +
+           ",\"rate\":" + QByteArray::number(plan_.rate) + ",\n\"styles\":" + listText(tables_.styles, "") +
+           ",\n\"outlines\":" + listText(tables_.outlines, "\"") +
+           ",\n\"images\":" + listText(tables_.images, "\"") + ",\n\"chapters\":" + chapters +
+           "],\n\"moves\":\"" + moves_.toBase64() + "\"}";
+}
+
+// The moves grow with every picture, in four letters for three bytes; what they move seldom does.
+double PageWriter::expectedSize(double part) const {
+    static const auto playerSize = static_cast<double>(player().size());
+    double seldom = 0;
+    for (const Chapter& chapter : chapters_)
+        seldom += 4 * static_cast<double>(chapter.shapes.size() + chapter.points.size());
+    for (const auto* texts : {&tables_.styles, &tables_.outlines, &tables_.images})
+        for (const QString& text : *texts) seldom += static_cast<double>(text.size()) + 4;
+    return playerSize + seldom + static_cast<double>(moves_.size()) / part * 4 / 3;
+}
+
+std::string PageWriter::finish() {
+    endStill();
+    QByteArray page = player();
+    page.replace("@FILM@", film());
+    page.replace("@TITLE@", (title_.isEmpty() ? QString("Zentrik") : title_).toHtmlEscaped().toUtf8());
+    return writeFile(path_, {page.constData(), static_cast<std::size_t>(page.size())});
+}
+
+}  // namespace zentrik
