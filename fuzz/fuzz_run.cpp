@@ -63,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ed.marks.mnuReverseModel = size % 3 == 0;
     ed.marks.mnuUseDirectional = size % 5 == 0;
     showEverything(ed);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
     ed.buttons.start = ed.Timer1.enabled = ed.InitialVelocityPending = true;
     for (int step = 0; step < 50 && ed.Timer1.enabled; ++step) {
         Timer1_Timer(ed);

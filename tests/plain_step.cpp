@@ -240,7 +240,7 @@ void stop(Editor& ed, const std::string& problem) {
     ed.Timer1.enabled = false;
     ed.tips.start = "Start";
     panel(ed, 5) = problem + ": animation stopped!";
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void putNodesBack(Editor& ed, const std::vector<Node>& before) {
@@ -296,7 +296,7 @@ void step(Editor& ed) {
         return stop(ed, problem);
     }
     if (UsedNodes(ed) != UsedNodes(before)) showCounts(ed);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
     if (touched) ed.TimeDirection = -ed.TimeDirection;
 }
 

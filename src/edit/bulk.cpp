@@ -133,7 +133,7 @@ void finish(Editor& ed, Deselect deselect, Strip strip) {
     if (deselect == Deselect::links) ed.SelectedLink = ed.HoverLink = none;
     if (strip == Strip::redraw) redrawPhaseManager(ed, ed.AnimationTime);
     showCounts(ed);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 // value and valueText: for a row with a setting.

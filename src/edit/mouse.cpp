@@ -168,7 +168,7 @@ void picS_DblClick(Editor& ed) {
     invertAnimator(ed);
     if (!ed.SelectedNodeClicked) return;
     DeleteNode(ed);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
     redrawPhaseManager(ed, ed.AnimationTime);
     showCounts(ed);
 }

@@ -20,7 +20,7 @@ constexpr double phaseGrid = 22.5;  // degrees
 
 void redrawBoth(Editor& ed) {
     DrawPhaseManager(ed, ed.AnimationTime);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 bool within(float at, std::int32_t centre, std::int32_t radius) {

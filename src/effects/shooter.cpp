@@ -48,7 +48,7 @@ void mnuFire_Click(Editor& ed, Host&) {
     if (!isShooter(ed, ed.SelectedNode) && isShooter(ed, ed.LastShooter)) {
         ed.SelectedNode = ed.LastShooter;
         DisplayNodeData(ed, ed.SelectedNode);
-        DisplayScene(ed, -1, -1);
+        redrawScene(ed);
     }
     if (!ed.Timer1.enabled || !isShooter(ed, ed.SelectedNode)) return;
 

@@ -75,7 +75,7 @@ void takePlace(Editor& ed, Host& host, ProjectFile file) {
 void showNewModel(Editor& ed) {
     NoSelections(ed);
     redrawPhaseManager(ed, ed.AnimationTime);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 // How far an export by mail got.
@@ -193,7 +193,7 @@ void reloadProject(Editor& ed, Host& host) {
 
 void mnuSetTitle_Click(Editor& ed, Host& host) {
     ed.ProjectTitle = host.inputBox("Enter project title.", ed.ProjectTitle, ed.ProjectTitle);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void mnuEmail_Click(Editor& ed, Host& host) {

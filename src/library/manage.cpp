@@ -90,7 +90,7 @@ void showEarlierVersion(Editor& ed, Host& host, Project version) {
     showClock(ed);
     NoSelections(ed);
     redrawPhaseManager(ed, ed.AnimationTime);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
     panel(ed, 5) = "Earlier version of " + namedProject(ed) + " opened";
 }
 

@@ -29,6 +29,8 @@ void DisplayScene(Editor& ed, float PX, float PY) {
     showScene(ed, PX, PY);
 }
 
+void redrawScene(Editor& ed) { DisplayScene(ed, -1, -1); }
+
 void showScene(Editor& ed, float PX, float PY) {
     if (ed.buttons.ball) showAim(ed);
     ed.rubberBand.reset();
@@ -65,7 +67,7 @@ void redrawPhaseManager(Editor& ed, float time) {
 
 void redrawStripAndScene(Editor& ed) {
     redrawPhaseManager(ed, ed.AnimationTime);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void redrawModel(Editor& ed) {

@@ -6,10 +6,12 @@
 
 namespace zentrik {
 
-// The full redraw of the scene. PX, PY: the pointer in twips from mouse handlers, -1, -1 from every
-// other caller. Locks the trigger nodes of shooters, enables the property toolbar's groups and presses their
-// buttons, shows the clock, and marks the scene stale.
+// The full redraw of the scene. PX, PY: the pointer in twips, where a rubber band ends. Locks the trigger
+// nodes of shooters, enables the property toolbar's groups and presses their buttons, shows the clock, and
+// marks the scene stale.
 void DisplayScene(Editor& ed, float PX, float PY);
+// The same for whatever is not the mouse.
+void redrawScene(Editor& ed);
 
 // The same without a change to the model: after a step, which keeps the triggers locked by itself.
 void showScene(Editor& ed, float PX, float PY);

@@ -40,7 +40,7 @@ void stopFor(Editor& ed, const std::string& problem) {
     ed.buttons.start = false;
     StartStop(ed);
     panel(ed, 5) = problem + ": animation stopped!";
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void StartStop(Editor& ed) {
@@ -59,7 +59,7 @@ void startClicked(Editor& ed, Host&) {
     if (!ed.Timer1.enabled) SaveState(ed);
     ed.InitialVelocityPending = true;
     StartStop(ed);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void singleClicked(Editor& ed, Host&) {
@@ -73,7 +73,7 @@ void repositionClicked(Editor& ed, Host&) {
     RestoreState(ed);
     ed.AnimationTime = 0;
     showCounts(ed);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void mnuSetZero_Click(Editor& ed, Host&) {

@@ -33,7 +33,7 @@ void refreshClicked(Editor& ed, Host& host) {
 }
 
 void redrawWhileStopped(Editor& ed, Host&) {
-    if (!ed.Timer1.enabled) DisplayScene(ed, -1, -1);
+    if (!ed.Timer1.enabled) redrawScene(ed);
 }
 
 void deleteClicked(Editor& ed, Host& host) {
@@ -50,7 +50,7 @@ void deleteClicked(Editor& ed, Host& host) {
 template <void (*change)(Editor&)>
 void andRedraw(Editor& ed, Host&) {
     change(ed);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 // Stepping is selecting: without the read-out the lock and shooter buttons would still stand for the
@@ -58,24 +58,24 @@ void andRedraw(Editor& ed, Host&) {
 void nextNodeClicked(Editor& ed, Host&) {
     NextNode(ed);
     if (selectedNode(ed) != nullptr) DisplayNodeData(ed, ed.SelectedNode);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void nextLinkClicked(Editor& ed, Host&) {
     NextLink(ed);
     if (selectedLink(ed) != nullptr) DisplayLinkData(ed, ed.SelectedLink);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 template <int columns, int rows>
 void moveBy(Editor& ed, Host&) {
     moveProject(ed, columns, rows);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void barrierClicked(Editor& ed, Host& host) {
     ConvertObjectToBarrier(ed, host);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 constexpr CommandRow button(const char* key, const char* tip, const char* icon, Command command) {

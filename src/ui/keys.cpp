@@ -18,14 +18,14 @@ template <void (*step)(Editor&)>
 void stepNode(Editor& ed, Host&) {
     step(ed);
     if (selectedNode(ed) != nullptr) DisplayNodeData(ed, ed.SelectedNode);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 template <void (*step)(Editor&)>
 void stepLink(Editor& ed, Host&) {
     step(ed);
     if (selectedLink(ed) != nullptr) DisplayLinkData(ed, ed.SelectedLink);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 template <int steps>

@@ -174,7 +174,7 @@ void choosePreset(Editor& ed, Host&, const PropertyRow& row, const std::string& 
     const auto tip = row.presetTip != nullptr ? row.presetTip : row.tip;
     ed.tips.*tip = (row.presetLabel != nullptr ? row.presetLabel : row.label) + row.access->text(ed);
     if (row.redrawStrip) redrawPhaseManager(ed, ed.AnimationTime);
-    if (!ed.buttons.start) DisplayScene(ed, -1, -1);
+    if (!ed.buttons.start) redrawScene(ed);
 }
 
 void pressProperty(Editor& ed, Host& host, const PropertyRow& row) {

@@ -25,7 +25,7 @@ void showModel(Editor& ed, const std::string& text) {
     showGlobalValues(ed);
     showCounts(ed);
     redrawPhaseManager(ed, ed.AnimationTime);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
     panel(ed, 5) = text;
 }
 

@@ -58,10 +58,10 @@ TEST_F(Shooter, LooksForItsTriggerUntilItHasALink) {
     Link freed = defaultLink(ed, 1, 3), hanging = defaultLink(ed, 1, 9), loop = defaultLink(ed, 3, 3);
     freed.Used = false;
     for (const Link& link : {freed, hanging, loop}) appendLink(ed, link);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
     EXPECT_EQ(nodeAt(ed, 1).Trigger, 0);
     scenes::addLinks(ed, {{2, 1}, {1, 3}});
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
     EXPECT_EQ(nodeAt(ed, 1).Trigger, 2);
     EXPECT_TRUE(nodeAt(ed, 2).Locked);
     const std::vector<std::int32_t> triggers = triggerNodes(ed);

@@ -25,7 +25,7 @@ Editor shown() {
     linkAt(ed, scenes::addLink(ed, 1, 2)).Animator = true;
     ed.phaseWidth = 12000;
     ed.marks.mnuDisplayAngleManager = true;
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
     DrawPhaseManager(ed, 0);
     ed.sceneStale = ed.phaseStale = false;
     return ed;
@@ -99,7 +99,7 @@ TEST_F(PointingWindow, TheSceneShowsTheRecordWhateverIsKeptOfIt) {
         scenes::addLink(ed, 1, 2);
         ed.buttons.numbers = ed.marks.mnuDisplayTitle = true;
         ed.ProjectTitle = "Title";
-        DisplayScene(ed, -1, -1);
+        redrawScene(ed);
     });
     EXPECT_EQ(unlikeRecord(), 0);
     const QImage without = view();

@@ -80,7 +80,7 @@ TEST(CommandToolbar, NewStopsAndMessageShowsInstructionsUntilTheNextRedraw) {
     desk.press("message");
     EXPECT_TRUE(desk.ed.instructionsShown);
     EXPECT_EQ(desk.host.transcript.substr(0, 6), "fetch:");
-    DisplayScene(desk.ed, -1, -1);
+    redrawScene(desk.ed);
     EXPECT_FALSE(desk.ed.instructionsShown);
 }
 

@@ -170,7 +170,7 @@ protected:
         ed.marks.mnuApplyChanges = scope_ != Scope::everything;
         if (scope_ == Scope::missingObject) ed.SelectedNode = ed.SelectedLink = none;
         showCounts(ed);
-        DisplayScene(ed, -1, -1);
+        redrawScene(ed);
         ed.phaseStale = ed.sceneStale = false;
         const Editor before = ed;
         ScriptedHost host;

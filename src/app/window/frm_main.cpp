@@ -89,7 +89,7 @@ void frmMain::Form_Load(const QString& folder) {
     panel(ed_, 3) = "Cycles: 0";
     LoadListOfFileNames(ed_, host_, true);
     if (!ed_.marks.mnuAutoResume) ClearAnimation(ed_);
-    DisplayScene(ed_, -1, -1);
+    redrawScene(ed_);
     redrawPhaseManager(ed_, 0);
     if (!toSay.empty()) panel(ed_, 5) = toSay;
     if (!settingsProblem.empty())

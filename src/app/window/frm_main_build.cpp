@@ -108,7 +108,7 @@ void frmMain::connectLists() {
     connect(bars_.lstSprites, &QComboBox::activated, this, [this](int entry) {
         perform("Sprite", [&](Editor& ed, Host&) {
             lstSprites_Click(ed, entry);
-            DisplayScene(ed, -1, -1);
+            redrawScene(ed);
         });
     });
     Frame1_->pictureClicked = [this](int index) {
@@ -210,7 +210,7 @@ void frmMain::connectViews() {
         "Phase turned", picPhase_MouseDown, picPhase_MouseMove,
         [](Editor& ed, int, float, float) { picPhase_MouseUp(ed); }, picPhase_DblClick);
     picS_->mouse.leave = [this] {
-        if (ed_.rubberBand) follow([](Editor& ed, Host&) { DisplayScene(ed, -1, -1); });
+        if (ed_.rubberBand) follow([](Editor& ed, Host&) { redrawScene(ed); });
     };
     frmPath_->clicked = [this] { follow([](Editor& ed, Host&) { clearPath(ed); }); };
     frmPath_->closed = [this] { follow([](Editor& ed, Host&) { ed.marks.mnuDisplayPath = false; }); };

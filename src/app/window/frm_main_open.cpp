@@ -70,7 +70,7 @@ void frmMain::takeDrop(const QUrl& url, QPoint at) {
         if (name.empty()) return;
         readSprites();
         if (!giveSprite(ed, node, name)) panel(ed, 5) = "No usable picture: " + path;
-        DisplayScene(ed, -1, -1);
+        redrawScene(ed);
     });
 }
 

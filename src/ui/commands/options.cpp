@@ -35,14 +35,14 @@ void mnuResetGlobal_Click(Editor& ed, Host&) {
     ed.TimeInterval = 20;
     setRate(ed, 20);
     ed.DeltaAngle = 1;
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void mnuGridSize_Click(Editor& ed, Host& host) {
     const auto answer = askNumber(host, "Enter grid size.", "Grid Size", realText(ed.GridSize));
     const std::int32_t size = toInt(answer.value_or(0));
     if (size >= smallestGrid) ed.GridSize = static_cast<float>(size);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void setNodeRadius(Editor& ed, std::int32_t radius) {
@@ -58,7 +58,7 @@ void mnuSetRadius_Click(Editor& ed, Host& host) {
         refuse(ed, host, "The node radius takes " + std::to_string(smallestRadius) + " twips or more!");
     else if (answer)
         setNodeRadius(ed, radius);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void mnuDefaultK_Click(Editor& ed, Host& host) {
@@ -73,7 +73,7 @@ void mnuLineColor_Click(Editor& ed, Host& host) { askColor(ed, host, &Editor::Li
 void mnuNodeColor_Click(Editor& ed, Host& host) { askColor(ed, host, &Editor::NodeColor); }
 void mnuBackgroundColor_Click(Editor& ed, Host& host) { askColor(ed, host, &Editor::BackColor); }
 
-void redrawScene(Editor& ed, Host&) { DisplayScene(ed, -1, -1); }
+void redrawScene(Editor& ed, Host&) { redrawScene(ed); }
 
 void redrawDrawings(Editor& ed, Host&) { redrawStripAndScene(ed); }
 

@@ -23,7 +23,7 @@ void lockedClicked(Editor& ed, Host&) {
     node.Locked = ed.buttons.locked;
     if (!node.Locked) bringToRest(node);
     tell(ed, "Node ", ed.SelectedNode, node.Locked ? " locked!" : " unlocked!");
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void shooterClicked(Editor& ed, Host&) {
@@ -40,7 +40,7 @@ void shooterClicked(Editor& ed, Host&) {
         bringToRest(node);
         tell(ed, "Node ", ed.SelectedNode, " is now a standard node!");
     }
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void colorClicked(Editor& ed, Host& host) {
@@ -49,7 +49,7 @@ void colorClicked(Editor& ed, Host& host) {
         node->color = chosen;
         ed.SelectedNode = none;  // so that the new colour shows
     }
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 void animatorClicked(Editor& ed, Host&) {
@@ -57,7 +57,7 @@ void animatorClicked(Editor& ed, Host&) {
     link.Animator = ed.buttons.animator;
     panel(ed, 5) = std::string("Animator: ") + booleanText(ed.buttons.animator) + "   (" +
                    booleanText(link.Animator) + ")";
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
     redrawPhaseManager(ed, ed.AnimationTime);
 }
 
@@ -65,7 +65,7 @@ void linkBarrierClicked(Editor& ed, Host&) {
     Link& link = linkAt(ed, ed.SelectedLink);
     link.Barrier = ed.buttons.barrier;
     tell(ed, "Link ", ed.SelectedLink, link.Barrier ? " is a barrier!" : " is not a barrier!");
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 }  // namespace zentrik

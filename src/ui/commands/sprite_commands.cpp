@@ -33,7 +33,7 @@ void lstSprites_Click(Editor& ed, std::int32_t entry) {
 
 void imgSprite_Click(Editor& ed, std::int32_t Index) {
     if (ed.SelectedNode != none) lstSprites_Click(ed, Index);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 bool giveSprite(Editor& ed, std::int32_t node, const std::string& name) {
@@ -51,7 +51,7 @@ void mnuRandomNodes_Click(Editor& ed, Host&) {
     for (std::int32_t i = 1; i <= lastNode(ed); ++i)
         giveSprite(ed, nodeAt(ed, i),
                    static_cast<std::int32_t>(static_cast<double>(pictures) * ed.chance.next()) + 1);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
 }
 
 }  // namespace zentrik

@@ -26,7 +26,7 @@ void travelBy(Editor& ed, History& history, Timeline& timeline, int steps) {
     showCounts(ed);
     panel(ed, 3) = "Cycles: " + std::to_string(ed.Cycles);
     redrawPhaseManager(ed, ed.AnimationTime);
-    DisplayScene(ed, -1, -1);
+    redrawScene(ed);
     panel(ed, 5) = "Step " + std::to_string(timeline.at) + " of " + std::to_string(timeline.run.last);
 }
 
