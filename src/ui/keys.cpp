@@ -7,6 +7,7 @@
 #include "model/redraw.h"
 #include "model/store.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -45,6 +46,9 @@ constexpr KeyRow own(const char* keys, const char* effect, KeyArea area, KeyAct 
                      const char* control = nullptr) {
     return {keys, effect, area, act, control};
 }
+constexpr KeyRow go(const char* keys, const char* effect, KeyAct act, int steps) {
+    return {.keys = keys, .effect = effect, .area = KeyArea::window, .act = act, .steps = steps};
+}
 constexpr KeyRow run(const char* keys, const char* effect, KeyArea area, const char* what, Command command,
                      const char* control = nullptr) {
     return {keys, effect, area, KeyAct::command, control, command, what};
@@ -65,8 +69,14 @@ constexpr KeyRow rows[] = {
     own("Ctrl+V", "pastes project text at the pointer, or in the middle of the scene", window, KeyAct::paste),
     own("Ctrl+Shift+C", "copies the scene as a picture", window, KeyAct::copyPicture),
     own("F1", "shows this manual", window, KeyAct::help),
-    own("F6", "goes to the next part of the window", window, KeyAct::nextPart),
-    own("Shift+F6", "goes to the part before", window, KeyAct::previousPart),
+    own("Alt+Backspace", "takes the last change back", window, KeyAct::undo),
+    own("Shift+Alt+Backspace", "brings it again", window, KeyAct::redo),
+    go("Ctrl+Left", "goes a step back in the run while the animation stands", KeyAct::travel, -1),
+    go("Ctrl+Right", "goes a step on", KeyAct::travel, 1),
+    go("Ctrl+Shift+Left", "goes a hundred steps back", KeyAct::travel, -100),
+    go("Ctrl+Shift+Right", "goes a hundred steps on", KeyAct::travel, 100),
+    go("F6", "goes to the next part of the window", KeyAct::goToPart, 1),
+    go("Shift+F6", "goes to the part before", KeyAct::goToPart, -1),
     own("Ctrl+Q", "closes the program", window, KeyAct::quit),
     own("Alt+Down Menu", "opens the values of a button of the property toolbar; Escape closes them", window, KeyAct::presets),
     own("Left Right Up Down", "move a pointer over the scene, from grid line to grid line while snap is pressed; with Shift ten times as far", scene, KeyAct::pointer),
@@ -91,5 +101,10 @@ static_assert(!anyShared(rows,
 }  // namespace
 
 std::span<const KeyRow> keyRows() { return rows; }
+
+const char* keyFor(KeyAct act) {
+    return std::find_if(std::begin(rows), std::end(rows), [act](const KeyRow& row) { return row.act == act; })
+        ->keys;
+}
 
 }  // namespace zentrik

@@ -18,8 +18,10 @@ enum class KeyAct {
     openList,  // of projects
     quit,
     help,
-    nextPart,  // of the window
-    previousPart,
+    goToPart,  // the next part of the window, or the one before
+    undo,
+    redo,
+    travel,  // through the run
     copy,
     paste,
     copyPicture,
@@ -35,8 +37,11 @@ struct KeyRow {
     const char* control = nullptr;
     Command command = nullptr;  // of KeyAct::command
     const char* what = "";      // it is called when it can be undone
+    int steps = 0;              // of KeyAct::travel and goToPart; back if negative
 };
 
 std::span<const KeyRow> keyRows();
+// The first key that does this.
+const char* keyFor(KeyAct act);
 
 }  // namespace zentrik

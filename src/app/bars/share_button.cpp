@@ -2,6 +2,7 @@
 
 #include "app/bars/icons.h"
 #include "basics/no_doubles.h"
+#include "ui/keys.h"
 
 #include <QApplication>
 #include <string_view>
@@ -17,9 +18,8 @@ struct ShareRow {
     const char* tip;
 };
 
-// The key of the first is one of the window's.
 constexpr ShareRow rows[] = {
-    {Share::copyPicture, "shareCopy", "&Copy Picture\tCtrl+Shift+C", "Copies the scene as a picture"},
+    {Share::copyPicture, "shareCopy", "&Copy Picture", "Copies the scene as a picture"},
     {Share::savePicture, "sharePicture", "&Save Picture...", "Saves the scene as PNG, SVG or PDF"},
     {Share::recordAnimation, "shareFilm", "&Record Animation...",
      "Makes a film of the run that begins here: a GIF, a page for browsers, a video or numbered pictures"},
@@ -44,6 +44,8 @@ ShareButton::ShareButton(QWidget* parent) : QToolButton(parent), menu_(this) {
         QAction* action = menu_.addAction(row.caption);
         action->setObjectName(row.name);
         action->setStatusTip(row.tip);
+        if (row.what == Share::copyPicture)
+            action->setText(QString("%1\t%2").arg(row.caption, keyFor(KeyAct::copyPicture)));
         connect(action, &QAction::triggered, this, [this, what = row.what] { chosen(what); });
     }
     connect(this, &QToolButton::clicked, this,

@@ -1,17 +1,15 @@
 #include "app/bars/undo_buttons.h"
 
 #include "app/bars/icons.h"
+#include "ui/keys.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
-#include <QShortcut>
+#include <QKeySequence>
 
 namespace zentrik {
 
 namespace {
-
-// The platform's other keys for undo and redo; Ctrl+Z sets the clock.
-const QKeySequence undoKeys("Alt+Backspace"), redoKeys("Shift+Alt+Backspace");
 
 QToolButton* makeButton(const char* name, QWidget& parent) {
     auto* button = new QToolButton(&parent);
@@ -24,9 +22,9 @@ QToolButton* makeButton(const char* name, QWidget& parent) {
 }
 
 // what: the step a click would take; empty for none.
-void tell(QToolButton& button, const QString& name, const QString& what, const QKeySequence& keys) {
+void tell(QToolButton& button, const QString& name, const QString& what, KeyAct act) {
     const QString label = what.isEmpty() ? name : name + ": " + what;
-    const QString tip = label + " (" + keys.toString() + ")";
+    const QString tip = label + " (" + QKeySequence(keyFor(act)).toString() + ")";
     if (button.toolTip() == tip) return;
     button.setToolTip(tip);
     button.setAccessibleName(label);
@@ -46,20 +44,15 @@ UndoButtons::UndoButtons(QWidget* parent)
     row->setSpacing(0);
     row->addWidget(undoButton_);
     row->addWidget(redoButton_);
-    const auto connectTo = [this](QToolButton* button, const QKeySequence& keys,
-                                  std::function<void()>& call) {
-        connect(button, &QToolButton::clicked, this, [&call] { call(); });
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, [&call] { call(); });
-    };
-    connectTo(undoButton_, undoKeys, undo);
-    connectTo(redoButton_, redoKeys, redo);
+    connect(undoButton_, &QToolButton::clicked, this, [this] { undo(); });
+    connect(redoButton_, &QToolButton::clicked, this, [this] { redo(); });
     drawIcons();
 }
 
 void UndoButtons::show(const History& history) {
     const bool going = history.going != History::Going::nothing;
-    tell(*undoButton_, "Undo", going ? "What goes on now" : newestOf(history.done), undoKeys);
-    tell(*redoButton_, "Redo", newestOf(history.undone), redoKeys);
+    tell(*undoButton_, "Undo", going ? "What goes on now" : newestOf(history.done), KeyAct::undo);
+    tell(*redoButton_, "Redo", newestOf(history.undone), KeyAct::redo);
 }
 
 void UndoButtons::drawIcons() {

@@ -2,32 +2,34 @@
 
 #include "app/bars/icons.h"
 #include "app/keeping/program_folder.h"
+#include "app/views/spoken.h"
 #include "basics/units.h"
-#include "edit/mouse.h"
-#include "edit/phase_mouse.h"
-#include "effects/fireworks.h"
 #include "files/write_file.h"
 #include "library/library.h"
 #include "library/zoo.h"
 #include "model/invariants.h"
 #include "model/redraw.h"
 #include "model/store.h"
-#include "sim/run.h"
 #include "ui/commands/layout.h"
-#include "ui/commands/online.h"
 #include "ui/commands/sprite_commands.h"
 #include "ui/property_toolbar.h"
 
+#include <QComboBox>
 #include <QFileInfo>
 #include <QScrollBar>
 #include <QStatusBar>
-#include <QToolBar>
+#include <QStatusTipEvent>
 #include <QWheelEvent>
+#include <algorithm>
 #include <cassert>
+#include <utility>
 
 namespace zentrik {
 
 namespace {
+
+// Bars are this high where their font allows, so that the client area begins where the layout counts on it.
+constexpr int menuBarHeight = 24;  // pixels
 
 QRect pixelRect(const Rect& r) {
     const int left = pixels(r.left), top = pixels(r.top);
@@ -37,36 +39,44 @@ QRect pixelRect(const Rect& r) {
 }  // namespace
 
 frmMain::frmMain(const QString& folder)
-    : host_(*this),
+    : events_(*this),
+      ed_(events_.ed),
+      menus_(*menuBar()),
       panels_(*statusBar()),
+      wheel_(panels_.panel(4)),
       client_(new QWidget(this)),
       bars_(*this),
       undo_(new UndoButtons(this)),
       share_(new ShareButton(this)),
-      sharing_(ed_, host_, *this),
+      sharing_(ed_, events_.host, *this),
       picS_(new SceneView(ed_, client_)),
       picPhase_(new PhaseView(ed_, client_)),
       Frame1_(new SpriteBrowser(client_)),
-      frmPath_(new PathWindow(ed_, this)) {
+      frmPath_(new PathWindow(ed_, this)),
+      parts_{bars_, *picS_, *Frame1_, *picPhase_},
+      place_(*this),
+      drops_(*this, events_, *picS_),
+      keys_(*this, events_, sharing_, parts_) {
     setObjectName("frmMain");
     setWindowIcon(programIcon());
-    buildMenus();
     statusBar()->setObjectName("StatusBar1");
-    buildClient();
+    buildAreas();
+    fillCorner();
     connectBars();
     connectLists();
-    fillCorner();
-    connectUndo();
-    connectSharing();
-    connectTime();
+    connectProjectList();
     connectViews();
+    connectHost();
     connectTimers();
-    connectDrops();
-    connectKeys();
-    chooseTabOrder();
+    connectOutside();
+    parts_.chooseTabOrder();
     Form_Load(folder);
-    startHistory(history_, ed_);
-    connectRecovery();
+    startHistory(events_.history, ed_);
+    recovery_ = new RecoveryKeeper(ed_.programFolder, this);
+    recovery_->failed = [this](const std::string& problem) {
+        panel(ed_, 5) = "What is not saved could not be kept safe: " + problem;
+        showRecord();
+    };
     showRecord();
     picS_->setFocus();
 }
@@ -82,19 +92,19 @@ void frmMain::Form_Load(const QString& folder) {
     Placement placement;
     const std::string settingsProblem = settings_.load(ed_, placement);
     fitBars();
-    restorePlacement(placement);
+    place_.restore(placement, ed_.windowMaximized);
     layOutWindow();
     showGlobalValues(ed_);
     showCounts(ed_);
     panel(ed_, 3) = "Cycles: 0";
-    LoadListOfFileNames(ed_, host_, true);
+    LoadListOfFileNames(ed_, events_.host, true);
     if (!ed_.marks.mnuAutoResume) ClearAnimation(ed_);
     redrawScene(ed_);
     redrawPhaseManager(ed_, 0);
     if (!toSay.empty()) panel(ed_, 5) = toSay;
     if (!settingsProblem.empty())
-        host_.messageBox(settingsProblem + "\nThe program goes on with what it could read.", "Zentrik",
-                         BoxIcon::exclamation);
+        events_.host.messageBox(settingsProblem + "\nThe program goes on with what it could read.", "Zentrik",
+                                BoxIcon::exclamation);
 }
 
 // The folder may hold other pictures by now.
@@ -134,24 +144,49 @@ void frmMain::changeEvent(QEvent* event) {
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     // A wheel turned over the closed list would change the selected node's sprite.
     if (event->type() == QEvent::Wheel && watched == bars_.lstSprites) return true;
-    if (event->type() == QEvent::Wheel && watched == &panels_.panel(4)) {
-        turnTime(*static_cast<QWheelEvent*>(event));
-        return true;
-    }
     return QMainWindow::eventFilter(watched, event);
+}
+
+// A button's status tip takes status panel 5 while the pointer is over the button.
+bool frmMain::event(QEvent* event) {
+    if (event->type() != QEvent::StatusTip) return QMainWindow::event(event);
+    const QString tip = static_cast<QStatusTipEvent*>(event)->tip();
+    panels_.panel(5).show(tip.isEmpty() ? QString::fromStdString(panel(ed_, 5)) : tip);
+    return true;
+}
+
+void frmMain::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    place_.followScreen();
+}
+
+// Menu and status bar take the room that their font needs.
+void frmMain::fitBars() {
+    menuBar()->setFixedHeight(std::max(menuBarHeight, menuBar()->sizeHint().height()));
+    panels_.fit();
+}
+
+// What the bars take of the height that the layout leaves them room in, beyond their design, pixels.
+int frmMain::roomTaken() const {
+    return menuBar()->height() - menuBarHeight + statusBar()->height() - StatusPanels::designHeight;
+}
+
+void frmMain::layOutWindow() {
+    bars_.fit(width());
+    Form_Resize(ed_, width() * twipsPerPixel, (height() - roomTaken()) * twipsPerPixel);
 }
 
 void frmMain::showRecord() {
     assert(brokenRule(ed_).empty());
     if (ed_.marks.mnuDisplayBrowser && Frame1_->isHidden() && isVisible()) readSprites();
     renewGlobalValues(ed_);
-    for (const MenuEntry& entry : marks_) entry.action->setChecked(ed_.marks.*entry.row->mark);
+    menus_.show(ed_);
     bars_.show(ed_);
-    undo_->show(history_);
+    undo_->show(events_.history);
     showTitle();
-    recovery_->follow(ed_, history_);
+    recovery_->follow(ed_, events_.history);
     panels_.show(ed_.panels);
-    showSelection();
+    describeSelection(*picS_, *picPhase_, ed_);
     showLayout();
     showTimers();
     if (std::exchange(ed_.sceneStale, false)) picS_->showRecord();
@@ -165,7 +200,7 @@ void frmMain::showTitle() {
     QString name = QString::fromStdString(ed_.savedText).simplified().left(100);
     const bool unnamed = name.isEmpty() || name == noFileFound;
     setWindowTitle((unnamed ? "Unnamed" : name.replace("[*]", "[*][*]")) + "[*] - Zentrik");
-    setWindowModified(isModified(history_, ed_));
+    setWindowModified(isModified(events_.history, ed_));
 }
 
 void frmMain::showLayout() {

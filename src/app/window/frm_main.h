@@ -1,21 +1,18 @@
 #pragma once
-#include "app/bars/sprite_browser.h"
+#include "app/bars/share_button.h"
 #include "app/bars/status_panels.h"
-#include "app/bars/toolbars.h"
 #include "app/bars/undo_buttons.h"
-#include "app/boxes/desktop_host.h"
 #include "app/keeping/recovery_keeper.h"
 #include "app/keeping/settings_store.h"
 #include "app/sharing/sharing.h"
 #include "app/views/path_window.h"
-#include "app/views/views.h"
-#include "history/history.h"
-#include "history/timeline.h"
-#include "model/editor.h"
-#include "model/pointing.h"
-#include "ui/commands/time_travel.h"
-#include "ui/keys.h"
-#include "ui/menus.h"
+#include "app/window/drops.h"
+#include "app/window/events.h"
+#include "app/window/menu_bar.h"
+#include "app/window/time_wheel.h"
+#include "app/window/window_keys.h"
+#include "app/window/window_parts.h"
+#include "app/window/window_place.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -29,13 +26,11 @@ public:
     explicit frmMain(const QString& folder = {});
 
     const Editor& editor() const { return ed_; }
-    const History& history() const { return history_; }
-    // Runs a procedure as an event of the window does: not while a box is open, as a step that can be
-    // undone, which is called `what`, and followed by showing the record.
+    const History& history() const { return events_.history; }
+    // Runs a procedure as an event of the window, see Events.
     template <class Procedure>
     void perform(const std::string& what, Procedure procedure) {
-        run(Event::command, what, procedure);
-        leaveList();
+        events_.perform(what, procedure);
     }
 
     // Makes files the model, one after the other; once an open box is answered.
@@ -59,21 +54,14 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    struct MenuEntry {
-        const MenuRow* row;
-        QAction* action;
-    };
-
-    Editor ed_;
-    History history_;
-    Timeline timeline_;
-    DesktopHost host_;
+    Events events_;
+    Editor& ed_;
     UserSettings settings_;
     RecoveryKeeper* recovery_ = nullptr;
     bool ended_ = false;
-    int wheelTurn_ = 0;  // over the clock, eighths of a degree
-    std::vector<MenuEntry> marks_;
+    MenuBar menus_;
     StatusPanels panels_;
+    TimeWheel wheel_;
     QTimer Timer1_, timerFireWorks_;
     QWidget* const client_;
     Toolbars bars_;
@@ -84,73 +72,27 @@ private:
     PhaseView* const picPhase_;
     SpriteBrowser* const Frame1_;
     PathWindow* const frmPath_;
-    QWindow* followed_ = nullptr;  // whose screen bounds the window's size
+    const WindowParts parts_;
+    WindowPlace place_;
+    Drops drops_;
+    const WindowKeys keys_;
 
-    void buildMenus();
-    void buildClient();
+    void buildAreas();
+    void fillCorner();
     void connectBars();
     void connectLists();
-    void fillCorner();
-    void connectUndo();
-    void connectSharing();
-    void connectTime();
+    void connectProjectList();
     void connectViews();
+    void connectHost();
     void connectTimers();
-    void connectRecovery();
-    void connectDrops();
-    void connectKeys();
-    void chooseTabOrder();
+    void connectOutside();
 
     void Form_Load(const QString& folder);
     void readSprites();
-    void takeDrop(const QUrl& url, QPoint at);
-    void refuseDrop(const std::string& why);
     bool storeWork(Host& host);
-    void restorePlacement(const Placement& placement);
-    void followScreen();
-    void placePathWindow(bool visible);
     void fitBars();
     int roomTaken() const;
     void layOutWindow();
-    void goThroughTime(int steps);
-    void turnTime(const QWheelEvent& event);
-    void pressKey(const KeyRow& row);
-    void runKey(const KeyRow& row);
-    void goToPart(int step);
-    void showSelection();
-    template <class Procedure>
-    void run(Event event, const std::string& what, Procedure procedure) {
-        follow([&](Editor& ed, Host& host) {
-            beginEvent(history_, ed, event);
-            noteBegin(timeline_, history_);
-            procedure(ed, host);
-            endEvent(history_, ed, event, what);
-            followEvent(timeline_, ed, history_, event);
-        });
-    }
-    // Runs what changes nothing that undo knows.
-    template <class Procedure>
-    void follow(Procedure procedure) {
-        if (host_.isAsking()) return;
-        procedure(ed_, host_);
-        picS_->recordChanged();
-        picPhase_->recordChanged();
-        showRecord();
-    }
-    // Runs what the pointer does that drags nothing.
-    template <class Procedure>
-    void point(Procedure procedure) {
-        if (host_.isAsking()) return;
-        const Pointing pointing(ed_);
-        procedure(ed_, host_);
-        pointing.end(ed_, picS_->isCurrent(), picPhase_->isCurrent());
-        showRecord();
-    }
-
-    // After a command the keys are the scene's again.
-    void leaveList() {
-        if (bars_.lstSaved->hasFocus()) picS_->setFocus();
-    }
 
     void showRecord();
     void showTitle();
