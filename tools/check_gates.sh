@@ -21,11 +21,14 @@ stopped "a procedure that nobody calls" "$1/tools/check_unused.sh" "$scratch"
 printf '#pragma once\nstruct Planted {\n    int neverReadByAnybody() const { return 1; }\n};\n' >"$header"
 stopped "a member that nobody calls" "$1/tools/check_unused.sh" "$scratch"
 
-lines=$(seq 80 | sed 's/.*/    ++i;/')
+lines=$(seq 31 | sed 's/.*/    ++i;/')
 printf 'void planted(int i) {\n%s\n}\n' "$lines" >"$source"
 stopped "a long function" "$1/tools/check_lengths.sh" "$scratch"
 printf 'struct Planted {\n    void planted(int i) {\n%s\n    }\n};\n' "$(echo "$lines" | sed 's/^/    /')" >"$source"
 stopped "a long member" "$1/tools/check_lengths.sh" "$scratch"
+
+printf 'int planted(int i,\n            int j) {\n%s\n    return i + j;\n}\n' "$lines" >"$source"
+stopped "a long function whose head takes two lines" "$1/tools/check_lengths.sh" "$scratch"
 
 echo '#include "ui/menus.h"' >"$source"
 stopped "an include upwards" "$1/tools/check_includes.sh" "$scratch/src"

@@ -43,6 +43,7 @@ void drawCreature(Photographer& camera) {
 }
 
 // The walker of the manual's first chapter, built as it says there.
+// Long: a tour, picture by picture.
 void takeFirstWalker(Photographer& camera) {
     camera.resize(960, 334);
     camera.press("new");

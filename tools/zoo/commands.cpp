@@ -58,6 +58,7 @@ Editor windmills() {
 
 // One kite, duplicated; each copy is moved on with the selected object alone. What a kite weighs less than
 // air stands in the gravity; a hand on the ground tugs at its string.
+// Long: a drawing, stroke by stroke.
 Editor kites() {
     Editor ed = project("Kites in the wind",
                         {.gravity = -0.15F, .viscosity = 0.02F, .deltaAngle = 1.7F, .wind = 1.5F});

@@ -53,6 +53,7 @@ Editor acrobats() {
     return ed;
 }
 
+// Long: a drawing, stroke by stroke.
 Editor bridge() {
     Editor ed =
         project("A rope bridge in the rush hour", {.gravity = 0.3F, .viscosity = 0.01F, .deltaAngle = 2.5F});
