@@ -1,6 +1,7 @@
 #include "history/timeline.h"
 
 #include "sim/run.h"
+#include "sim/step.h"
 
 #include <algorithm>
 #include <iterator>
@@ -123,10 +124,17 @@ void pinPresent(Timeline& timeline, const Editor& ed) {
     timeline.edited = false;
 }
 
-void step(const RecordedRun& run, Editor& ed, std::int64_t number) {
+// make: makes the step of this number.
+template <class Make>
+void step(const RecordedRun& run, Editor& ed, std::int64_t number, Make make) {
     ed.chance.tie(run.seed + static_cast<std::uint64_t>(number) * spread);
-    Timer1_Timer(ed);
+    make(ed);
     ed.chance.loosen();
+}
+
+void stepUnseen(Editor& ed) {
+    countCycle(ed);
+    advance(ed);
 }
 
 void takeTo(const RecordedRun& run, const Moment& moment, Editor& ed) {
@@ -145,7 +153,7 @@ Editor replayTo(Timeline& timeline, std::int64_t target) {
     takeTo(timeline.run, from, replay);
     for (std::int64_t number = from.step; number < target; ++number) {
         if (number == target - runway) keep(timeline, momentOf(timeline.run, replay, number, false));
-        step(timeline.run, replay, number);
+        step(timeline.run, replay, number, stepUnseen);
     }
     return replay;
 }
@@ -167,7 +175,7 @@ void tick(Timeline& timeline, Editor& ed) {
     else if (isStart || timeline.edited || stepInputsOf(ed) != momentBefore(run, timeline.at)->inputs)
         pinPresent(timeline, ed);
     dropWhatCameAfter(timeline);
-    step(run, ed, timeline.at);
+    step(run, ed, timeline.at, Timer1_Timer);
     run.last = ++timeline.at;
     timeline.running = ed.Timer1.enabled;
     if (timeline.at % stride == 0) keep(timeline, momentOf(run, ed, timeline.at, false));

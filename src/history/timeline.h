@@ -22,9 +22,8 @@ namespace zentrik {
 inline auto stepInputsOf(auto& ed) {
     auto& m = ed.marks;
     return std::tie(m.mnuWalls, m.mnuCeiling, m.mnuIgnoreBarriers, m.mnuReverseModel, m.mnuUseDirectional,
-                    m.mnuPersistentFireworks, ed.timerFireWorks.enabled, m.mnuRandom,
-                    m.mnuDisplayAngleManager, ed.buttons.slow, ed.buttons.animation, ed.buttons.ball,
-                    ed.NodeRadius, ed.sceneWidth, ed.sceneHeight, ed.phaseWidth);
+                    m.mnuPersistentFireworks, ed.timerFireWorks.enabled, m.mnuRandom, ed.buttons.slow,
+                    ed.buttons.animation, ed.buttons.ball, ed.NodeRadius, ed.sceneWidth, ed.sceneHeight);
 }
 template <class... T>
 std::tuple<T...> valuesOf(const std::tuple<T&...>& references) {

@@ -10,7 +10,7 @@ namespace zentrik {
 class Host;
 
 void Timer1_Timer(Editor& ed);
-// Every tenth step of a model in random colours draws them anew.
+// Counts a tick; at every tenth the step draws random colours anew.
 void countCycle(Editor& ed);
 // One step and what is seen of it: clock, counts, path, phase strip and scene. Gives why it was taken back,
 // if it was; the scene is then left to the caller.
