@@ -33,7 +33,8 @@ bool belongsToDrag(const QKeyEvent& event) {
 // Where the selection is, else in the middle.
 PointF KeyPointer::start() const {
     if (const Node* node = selected(ed_)) return {static_cast<float>(node->X), static_cast<float>(node->Y)};
-    return {static_cast<float>(ed_.sceneWidth / 2), static_cast<float>(ed_.sceneHeight / 2)};
+    const std::int32_t x = ed_.sceneWidth / 2, y = ed_.sceneHeight / 2;
+    return {static_cast<float>(x), static_cast<float>(y)};
 }
 
 PointF KeyPointer::moved(PointF from, int key, bool far) const {
