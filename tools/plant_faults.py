@@ -4,8 +4,9 @@
 usage: tools/plant_faults.py COUNT [SEED [FOLDER...]]     COUNT in each folder of src: plant_faults.py 25 1 ui display
        tools/plant_faults.py --again LOG                  those of a log that were missed, in the sources of now
 
-A fault is a turned comparison, sign or constant, or a statement left out, at a random place below src. Those
-that do not compile do not count. What was missed is printed with its place, to be looked at: some faults no
+A fault is a turned comparison, sign or constant, or a statement or a row of a table left out, at a random place
+below src, headers included, of which there are at most two in a folder, since they take minutes to build. Those
+that do not compile do not count. The tests of the same folder run first. What was missed is printed with its place, to be looked at: some faults no
 person could notice. A test that fails must fail twice to count. The copy is build/planted, the log beside it
 planted-SEED.log; a run that was ended goes on where its log ends. Nothing else is touched.
 """
@@ -21,6 +22,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 COPY = pathlib.Path(os.environ.get("PLANTED", ROOT / "build" / "planted"))
 TESTS_TAKE = 240  # seconds at most, of the clock or of the processor; a planted fault may never end
 QUICK = 100  # milliseconds: tests that take less are run first
+HEADERS = 2  # faults in headers of a folder, at most
 STEPPING = ("Step.", "Zoo/Sample.Plays")  # take long, and run nothing but the step
 STEPS = ("model", "sim", "effects", "measure")
 
@@ -48,6 +50,8 @@ def places(text):
                             found.append((kind, at + m.start(), at + m.end(), m.expand(turned)))
             if re.match(r"\s+[A-Za-z_][\w.:>\-]*(\(.*\)| (=|\+=|-=) [^;]*);\s*$", code):
                 found.append(("statement", at, at + len(code.rstrip("\n")), ""))
+            if re.match(r"\s+(\{\S|\w+\(\").*[)}],$", code):
+                found.append(("row", at, at + len(code.rstrip("\n")), ""))
         at += len(line)
     return found
 
@@ -75,7 +79,7 @@ def run(command, limit):
 
 
 def build(limit):
-    return run(["cmake", "--build", "--preset", "release", "--target", "zentrik_tests"], limit)[0] == 0
+    return run(["cmake", "--build", "build/release", "--target", "zentrik_tests"], limit)[0] == 0
 
 
 def test(names):
@@ -103,7 +107,8 @@ def prepare():
     COPY.mkdir(parents=True, exist_ok=True)
     files = subprocess.run(["git", "archive", "HEAD"], cwd=ROOT, check=True, stdout=subprocess.PIPE).stdout
     subprocess.run(["tar", "x", "-C", COPY], input=files, check=True)
-    run(["cmake", "--preset", "release"], 300)
+    run(["cmake", "--preset", "release", "-DZENTRIK_BENCH=OFF", "-DCMAKE_CXX_FLAGS_RELEASE=-O1 -DNDEBUG",
+         "-DCMAKE_DISABLE_PRECOMPILE_HEADERS=OFF"], 300)
     if not build(3600):
         sys.exit("The copy does not build.")
     printed = run(["build/release/zentrik_tests"], 600)[1]
@@ -113,6 +118,12 @@ def prepare():
     return [[n for n, ms in passed if int(ms) < QUICK], [n for n, ms in passed if int(ms) >= QUICK]]
 
 
+def testsOf(folder):
+    """The names of the suites that stand in the folder of tests that mirrors a folder."""
+    texts = "".join(p.read_text() for p in (COPY / "tests" / folder).glob("*.cpp"))
+    return set(re.findall(r"^TEST(?:_F|_P)?\((\w+)", texts, re.M))
+
+
 def plant(path, text, place, lots):
     """The name of the test that catches the fault, "" for none; None if it does not compile."""
     _, start, end, turned = place
@@ -120,8 +131,12 @@ def plant(path, text, place, lots):
     try:
         if not build(900):
             return None
-        stepped = path.parent.name in STEPS
-        return catcher(lots[0]) or catcher([n for n in lots[1] if stepped or not n.startswith(STEPPING)])
+        folder = path.relative_to(COPY / "src").parts[0]
+        near = testsOf(folder)
+        isNear = lambda name: any(suite in near for suite in re.split(r"[./]", name))
+        far = [n for n in lots[1] if folder in STEPS or not n.startswith(STEPPING)]
+        nearest = [n for n in lots[0] + far if isNear(n)]
+        return catcher(nearest) or catcher([n for n in lots[0] if not isNear(n)]) or catcher([n for n in far if not isNear(n)])
     finally:
         path.write_text(text)
 
@@ -134,10 +149,11 @@ def verdict(path, text, place, lots):
 
 def tried(folder, seed):
     """The places of a folder in the order in which they are tried."""
-    texts = {p: p.read_text() for p in sorted((COPY / "src" / folder).glob("*.cpp"))}
+    texts = {p: p.read_text() for suffix in ("cpp", "h") for p in sorted((COPY / "src" / folder).rglob("*." + suffix))}
     every = [(p, texts[p], place) for p in texts for place in places(texts[p])]
     random.Random(f"{seed} {folder}").shuffle(every)
-    return every
+    headers = [it for it in every if it[0].suffix == ".h"]
+    return [it for it in every if it[0].suffix == ".cpp" or it in headers[:HEADERS]]
 
 
 def folderOf(line):
