@@ -4,7 +4,7 @@
 set -eu
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
-for folder in src tests bench tools; do cp -r "$1/$folder" "$scratch"; done
+for folder in src tests bench tools scenes; do cp -r "$1/$folder" "$scratch"; done
 header=$scratch/src/model/planted.h source=$scratch/src/model/planted.cpp
 status=0
 

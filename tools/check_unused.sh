@@ -5,7 +5,7 @@
 set -eu
 cd "$1"
 # shellcheck disable=SC2016 # awk's own
-find src tests bench tools -name '*.h' -o -name '*.cpp' | sort | xargs awk '
+find src tests bench tools scenes -name '*.h' -o -name '*.cpp' | sort | xargs awk '
     { sub(/\/\/.*/, ""); gsub(/"([^"\\]|\\.)*"/, "\"\"") }
     # A declaration or definition: a type or a class, then the name, then the parenthesis.
     function declared(text,    name) {
