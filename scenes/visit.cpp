@@ -1,10 +1,10 @@
 #include "scenes/visit.h"
 
 #include "effects/shooter.h"
+#include "host/quiet_host.h"
 #include "library/library.h"
 #include "model/store.h"
-#include "rig.h"
-#include "settings/settings.h"
+#include "settings/first_run.h"
 #include "sim/run.h"
 
 #include <cmath>
@@ -14,17 +14,12 @@ namespace zentrik::scenes {
 
 namespace {
 
-struct EmptyStore : SettingsStore {
-    std::optional<std::string> read(const std::string&) override { return {}; }
-    void write(const std::string&, const std::string&) override {}
-};
-
 bool asksFor(const Editor& ed, const char* option) {
     return ed.ProjectTitle.find(option) != std::string::npos;
 }
 
 void fireFirstShooter(Editor& ed) {
-    ScriptedHost host;
+    QuietHost host;
     for (std::int32_t i = 1; i <= lastNode(ed); ++i) {
         if (!nodeAt(ed, i).Used || nodeAt(ed, i).Trigger == none) continue;
         ed.SelectedNode = i;
@@ -36,17 +31,14 @@ void fireFirstShooter(Editor& ed) {
 
 Editor openSample(const std::string& programFolder, const std::string& name, Size scene,
                   const std::vector<std::string>& spriteNames) {
-    Editor ed;
-    EmptyStore store;
-    Placement placement;
-    ScriptedHost host;
-    getSettings(ed, placement, store);
+    QuietHost host;
+    Editor ed = firstRun();
     ed.sceneWidth = scene.width;
     ed.sceneHeight = scene.height;
     ed.programFolder = programFolder;
     ed.spriteNames = spriteNames;
     OpenFile(ed, host, name);
-    if (!host.transcript.empty()) throw std::runtime_error(host.transcript);
+    if (UsedNodes(ed) == 0) throw std::runtime_error(name + " cannot be opened");
     if (asksFor(ed, "Ignore Barriers")) ed.marks.mnuIgnoreBarriers = false;
     if (asksFor(ed, "Display Sprites")) ed.buttons.sprite = true;
     if (asksFor(ed, "Show Links")) ed.buttons.line = false;
@@ -54,7 +46,7 @@ Editor openSample(const std::string& programFolder, const std::string& name, Siz
 }
 
 void start(Editor& ed) {
-    ScriptedHost host;
+    QuietHost host;
     ed.buttons.start = true;
     startClicked(ed, host);
 }
