@@ -8,9 +8,9 @@
 #include "scenes/scenes.h"
 #include "sim/run.h"
 #include "ui/command_toolbar.h"
-#include "ui/undo.h"
 #include "ui/menus.h"
 #include "ui/property_toolbar.h"
+#include "ui/undo.h"
 #include "undo_walk.h"
 
 #include <gtest/gtest.h>
