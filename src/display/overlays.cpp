@@ -58,7 +58,7 @@ void PrintSimpleData(TextPage& page, const Editor& ed) {
     page.put(readoutLeft, " " + realText(ed.Gravity) + blanks(8) + fixedText(ed.Friction, 1) + blanks(8) +
                               fixedText(ed.Viscosity, 1) + blanks(9) + realText(ed.LeftWind) + blanks(10) +
                               fixedText(ed.Bounce, 1) + blanks(8) + realText(ed.TimeInterval) + blanks(8) +
-                              std::to_string(ed.Timer1.interval) + blanks(8) + realText(ed.DeltaAngle));
+                              std::to_string(ed.timerPeriod) + blanks(8) + realText(ed.DeltaAngle));
     if (nodeExists(ed, ed.SelectedNode)) {
         const Node& node = nodeAt(ed, ed.SelectedNode);
         page.put(readoutNode, realText(node.Mass) + blanks(9) + realText(node.Gravity) + blanks(10) +

@@ -1,9 +1,7 @@
 #include "history/history.h"
 
 #include "history/lost_work.h"
-#include "model/store.h"
 
-#include <algorithm>
 #include <cassert>
 #include <utility>
 
@@ -66,8 +64,7 @@ void reopen(History& history, Going going) {
 std::string gestureName(const Contents& before, const Editor& ed, const std::string& otherwise) {
     if (ed.Nodes.size() > before.Nodes.size()) return "Node " + std::to_string(lastNode(ed)) + " added";
     if (ed.Links.size() > before.Links.size()) return "Link " + std::to_string(lastLink(ed)) + " added";
-    const auto used = [](const Node& node) { return node.Used; };
-    if (UsedNodes(ed) < std::count_if(before.Nodes.begin(), before.Nodes.end(), used)) return "Node removed";
+    if (UsedNodes(ed) < UsedNodes(before)) return "Node removed";
     return otherwise;
 }
 
@@ -127,7 +124,7 @@ void endGesture(History& history, const Editor& ed, const std::string& what) {
 
 void startHistory(History& history, const Editor& ed) {
     history = History{};
-    copyContents(history.shown, ed);
+    history.shown = ed;
     history.context = contextOf(ed);
     history.filed[ed.savedText] = history.state;
     history.filedCount = ed.filedCount;
@@ -188,7 +185,7 @@ void closeStep(History& history, const Editor& ed) {
 namespace {
 
 void showState(History& history, Editor& ed, const Context& context, std::uint64_t state) {
-    copyContents(ed, history.shown);
+    static_cast<Contents&>(ed) = history.shown;
     ed.SelectedNode = context.SelectedNode;
     ed.SelectedLink = context.SelectedLink;
     ed.SelectedAnimatorLink = context.SelectedAnimatorLink;

@@ -2,8 +2,8 @@
 // The record of steps that can be undone and redone.
 
 #include "history/difference.h"
+#include "model/store.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -24,13 +24,7 @@ struct Context {
 struct Size {
     std::ptrdiff_t nodes = 0, links = 0;
 };
-// Of an Editor as of Contents.
-template <class T>
-Size sizeOf(const T& it) {
-    const auto used = [](const auto& record) { return record.Used; };
-    return {std::count_if(it.Nodes.begin(), it.Nodes.end(), used),
-            std::count_if(it.Links.begin(), it.Links.end(), used)};
-}
+inline Size sizeOf(const Contents& it) { return {UsedNodes(it), UsedLinks(it)}; }
 
 struct State {
     std::uint64_t number = 0;  // see History::state

@@ -12,23 +12,16 @@ namespace zentrik {
 
 namespace {
 
-void applyGlobal(Editor& ed, Host& host, const GlobalSettings& global) {
-    ed.Gravity = global.Gravity;
-    ed.Friction = global.Friction;
-    ed.Viscosity = global.Viscosity;
-    ed.LeftWind = global.LeftWind;
-    ed.Bounce = global.Bounce;
-    ed.TimeInterval = global.TimeInterval;
+void applyGlobal(Editor& ed, Host& host, GlobalSettings global) {
     // A period the timer cannot take leaves its period unchanged, as everywhere.
-    setRate(ed, global.timerPeriod);
-    ed.DeltaAngle = global.DeltaAngle;
+    if (!isPeriod(global.timerPeriod)) global.timerPeriod = ed.timerPeriod;
+    static_cast<ProjectSettings&>(ed) = global;
     if (ed.marks.mnuAutoWindowSize) {
         const double width = global.sceneWidth, height = global.sceneHeight;
         const bool wider = ed.sceneWidth < width, higher = ed.sceneHeight < height;
         if (wider || higher)
             host.resizeWindow(wider ? toInt(width + 100) : -1, higher ? toInt(height + 2000) : -1);
     }
-    ed.AnimationTime = global.AnimationTime;
 }
 
 }  // namespace

@@ -88,8 +88,8 @@ void DeleteNode(Editor& ed) {
     ed.HoverNode = none;
 }
 
-std::int32_t UsedNodes(const Editor& ed) { return countUsed(ed.Nodes); }
-std::int32_t UsedLinks(const Editor& ed) { return countUsed(ed.Links); }
+std::int32_t UsedNodes(const Contents& contents) { return countUsed(contents.Nodes); }
+std::int32_t UsedLinks(const Contents& contents) { return countUsed(contents.Links); }
 
 void NoSelections(Editor& ed) {
     ed.HoverNode = none;

@@ -76,8 +76,8 @@ void CreateLink(Editor& ed);
 void DeleteLink(Editor& ed);
 void DeleteNode(Editor& ed);
 
-std::int32_t UsedNodes(const Editor& ed);
-std::int32_t UsedLinks(const Editor& ed);
+std::int32_t UsedNodes(const Contents& contents);
+std::int32_t UsedLinks(const Contents& contents);
 
 void NoSelections(Editor& ed);
 // Empties the model and the path window; the clock and the cycle counter go on. Draws nothing.

@@ -4,7 +4,7 @@
 // real or a text.
 
 #include "basics/no_doubles.h"
-#include "model/records.h"
+#include "model/contents.h"
 
 #include <cstdint>
 #include <string>
@@ -18,9 +18,12 @@ inline constexpr std::string_view fieldSeparator = " : ";
 inline constexpr std::string_view lineEnd = "\r\n";
 
 template <class Record>
+using Member = std::variant<bool Record::*, std::int32_t Record::*, float Record::*, std::string Record::*>;
+
+template <class Record>
 struct Column {
     std::string_view name;
-    std::variant<bool Record::*, std::int32_t Record::*, float Record::*, std::string Record::*> member;
+    Member<Record> member;
     std::string_view afterName = fieldSeparator;  // in the comment line
 };
 
@@ -28,14 +31,9 @@ struct Column {
 inline constexpr std::string_view formProblems[] = {"neither True nor False", "not a whole number",
                                                     "not a number", "not a text"};
 
-// What the global line holds beside the model.
-struct GlobalSettings {
-    float Gravity = 0, Friction = 0, Viscosity = 0, LeftWind = 0, Bounce = 0;
-    float TimeInterval = 0;
-    std::int32_t timerPeriod = 0;  // milliseconds
-    float DeltaAngle = 0;
+// What the global line holds: the settings, and the size of the scene that they were made for.
+struct GlobalSettings : ProjectSettings {
     float sceneWidth = 0, sceneHeight = 0;  // twips
-    float AnimationTime = 0;
 };
 
 // The first field of every line, its slot number or "Global Settings", has no column.

@@ -5,27 +5,14 @@
 #include "model/rate.h"
 #include "project/forms.h"
 #include "settings/first_run.h"
+#include "settings/setting_rows.h"
 #include "ui/commands/options.h"
 
 #include <string_view>
-#include <variant>
 
 namespace zentrik {
 
 namespace {
-
-// Stands for the animation timer's period, which a project may refuse.
-struct TimerPeriod {
-    bool operator==(const TimerPeriod&) const = default;
-};
-
-using Slot = std::variant<float Placement::*, bool Marks::*, bool Buttons::*, float Editor::*,
-                          std::int32_t Editor::*, std::string Editor::*, TimerPeriod>;
-
-struct SettingRow {
-    const char* key;
-    Slot slot;
-};
 
 // clang-format off
 constexpr SettingRow rows[] = {
@@ -52,21 +39,21 @@ constexpr SettingRow rows[] = {
     {"ApplyChanges", &Marks::mnuApplyChanges},
     {"DisplayManager", &Marks::mnuDisplayAngleManager},
     {"AutoWindow", &Marks::mnuAutoWindowSize},
-    {"NodeRadius", &Editor::NodeRadius},
+    {"NodeRadius", &Editor::NodeRadius, [](const Editor& ed) { return ed.NodeRadius >= smallestRadius; }},
     {"DefaultLinkK", &Editor::DefaultLinkK},
     {"DefaultLinkForce", &Editor::DefaultLinkForce},
     {"StructureParm", &Editor::StructureParm},
-    {"Friction", &Editor::Friction},
-    {"Viscosity", &Editor::Viscosity},
-    {"LeftWind", &Editor::LeftWind},
-    {"TimeInterval", &Editor::TimeInterval},
-    {"Gravity", &Editor::Gravity},
-    {"Bounce", &Editor::Bounce},
-    {"Speed", TimerPeriod{}},
-    {"DeltaAngle", &Editor::DeltaAngle},
+    filed("Friction"),
+    filed("Viscosity"),
+    filed("LeftWind"),
+    filed("TimeInterval"),
+    filed("Gravity"),
+    filed("Bounce"),
+    {"Speed", filed("timer period").slot, [](const Editor& ed) { return isPeriod(ed.timerPeriod); }},
+    filed("DeltaAngle"),
     {"LinkColor", &Editor::LinkColor},
     {"NodeColor", &Editor::NodeColor},
-    {"GridSize", &Editor::GridSize},
+    {"GridSize", &Editor::GridSize, [](const Editor& ed) { return ed.GridSize > 49; }},
     {"GridRadius", &Editor::GridRadius},
     {"ShooterDirection", &Editor::ShooterDirection},
     {"ShooterVelocity", &Editor::ShooterVelocity},
@@ -85,8 +72,7 @@ constexpr SettingRow rows[] = {
     {"Sprite", &Buttons::sprite},
 };
 // clang-format on
-static_assert(std::size(rows) == 54 &&
-              !anyShared(rows, [](const SettingRow& row) { return std::string_view(row.key); }) &&
+static_assert(!anyShared(rows, [](const SettingRow& row) { return row.key; }) &&
               !anyShared(rows, [](const SettingRow& row) { return row.slot; }));
 
 // Stand beside the table: whether the window comes back maximised, and where pictures are saved.
@@ -105,7 +91,6 @@ struct Place {
     auto& operator()(float Editor::*m) const { return ed.*m; }
     auto& operator()(std::int32_t Editor::*m) const { return ed.*m; }
     auto& operator()(std::string Editor::*m) const { return ed.*m; }
-    auto& operator()(TimerPeriod) const { return ed.Timer1.interval; }
 };
 
 bool convert(const SettingRow& row, const std::string& text, Editor& ed, Placement& placement) {
@@ -121,16 +106,6 @@ void takeFirst(const SettingRow& row, Editor& ed, Placement& placement) {
     std::visit([&](auto slot) { place(slot) = from(slot); }, row.slot);
 }
 
-bool isAcceptable(const SettingRow& row, const Editor& ed) {
-    if (std::holds_alternative<TimerPeriod>(row.slot)) return isPeriod(ed.Timer1.interval);
-    if (const auto* real = std::get_if<float Editor::*>(&row.slot); real && *real == &Editor::GridSize)
-        return ed.GridSize > 49;
-    if (const auto* whole = std::get_if<std::int32_t Editor::*>(&row.slot);
-        whole && *whole == &Editor::NodeRadius)
-        return ed.NodeRadius >= smallestRadius;
-    return true;
-}
-
 std::string textOf(const SettingRow& row, const Editor& ed, const Placement& placement) {
     if (const auto* button = std::get_if<bool Buttons::*>(&row.slot)) return ed.buttons.**button ? "1" : "0";
     if (const auto* text = std::get_if<std::string Editor::*>(&row.slot)) return ed.**text;
@@ -142,10 +117,12 @@ std::string textOf(const SettingRow& row, const Editor& ed, const Placement& pla
 
 }  // namespace
 
+std::span<const SettingRow> settingRows() { return rows; }
+
 void getSettings(Editor& ed, Placement& placement, SettingsStore& store) {
     for (const SettingRow& row : rows) {
-        const std::optional<std::string> text = store.read(row.key);
-        if (!text || !convert(row, *text, ed, placement) || !isAcceptable(row, ed))
+        const std::optional<std::string> text = store.read(std::string(row.key));
+        if (!text || !convert(row, *text, ed, placement) || (row.accepts && !row.accepts(ed)))
             takeFirst(row, ed, placement);
     }
     ed.windowMaximized = store.read(maximizedKey) == "True";
@@ -158,7 +135,7 @@ void saveSettings(const Editor& ed, const std::optional<Placement>& placement, S
     for (const SettingRow& row : rows) {
         const bool ofWindow = std::holds_alternative<float Placement::*>(row.slot);
         if (ofWindow && !placement) continue;
-        store.write(row.key, textOf(row, ed, placement.value_or(Placement{})));
+        store.write(std::string(row.key), textOf(row, ed, placement.value_or(Placement{})));
     }
     store.write(maximizedKey, booleanText(ed.windowMaximized));
     if (!ed.shareFolder.empty()) store.write(shareFolderKey, ed.shareFolder);
