@@ -139,7 +139,7 @@ void drawAnimatedLinks(const Canvas& canvas, const Editor& ed) {
 }
 
 void drawRubberBand(const Canvas& canvas, const Editor& ed) {
-    const Node* from = nodeExists(ed, ed.SelectedNode) ? &nodeAt(ed, ed.SelectedNode) : nullptr;
+    const Node* from = selectedNode(ed);
     if (!ed.rubberBand || !from) return;
     LineRuns lines(canvas, 1);
     lines.pen(ed.LinkColor, 1);

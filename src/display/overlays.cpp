@@ -59,23 +59,18 @@ void PrintSimpleData(TextPage& page, const Editor& ed) {
                               fixedText(ed.Viscosity, 1) + blanks(9) + realText(ed.LeftWind) + blanks(10) +
                               fixedText(ed.Bounce, 1) + blanks(8) + realText(ed.TimeInterval) + blanks(8) +
                               std::to_string(ed.timerPeriod) + blanks(8) + realText(ed.DeltaAngle));
-    if (nodeExists(ed, ed.SelectedNode)) {
-        const Node& node = nodeAt(ed, ed.SelectedNode);
-        page.put(readoutNode, realText(node.Mass) + blanks(9) + realText(node.Gravity) + blanks(10) +
-                                  realText(node.Rotate) + blanks(9) + realText(node.Vxo) + blanks(10) +
-                                  realText(node.Vyo));
-    }
-    if (linkExists(ed, ed.SelectedLink)) {
-        const Link& link = linkAt(ed, ed.SelectedLink);
+    if (const Node* node = selectedNode(ed))
+        page.put(readoutNode, realText(node->Mass) + blanks(9) + realText(node->Gravity) + blanks(10) +
+                                  realText(node->Rotate) + blanks(9) + realText(node->Vxo) + blanks(10) +
+                                  realText(node->Vyo));
+    if (const Link* link = selectedLink(ed))
         page.line(readoutLink,
-                  realText(link.k) + blanks(10) + whole(link.Angle) + blanks(6) + realText(link.Force));
-    }
+                  realText(link->k) + blanks(10) + whole(link->Angle) + blanks(6) + realText(link->Force));
 }
 
 namespace {
 
-void printSelectedNode(TextPage& page, const Editor& ed) {
-    const Node& node = nodeAt(ed, ed.SelectedNode);
+void printSelectedNode(TextPage& page, const Editor& ed, const Node& node) {
     page.emptyLine();
     page.line(left, "--- Selected Node ---");
     page.line(left, "Node " + std::to_string(ed.SelectedNode));
@@ -88,8 +83,7 @@ void printSelectedNode(TextPage& page, const Editor& ed) {
     page.line(left, "Vy:  " + whole(node.Vy));
 }
 
-void printSelectedLink(TextPage& page, const Editor& ed) {
-    const Link& link = linkAt(ed, ed.SelectedLink);
+void printSelectedLink(TextPage& page, const Editor& ed, const Link& link) {
     page.emptyLine();
     page.line(left, "--- Selected Link ---");
     page.line(left, "Link " + std::to_string(ed.SelectedLink));
@@ -183,8 +177,8 @@ void PrintEntireProject(TextPage& page, const Editor& ed) {
 void PrintDataOnScreen(TextPage& page, const Editor& ed) {
     page.color = black;
     page.y = 400;
-    if (nodeExists(ed, ed.SelectedNode)) printSelectedNode(page, ed);
-    if (linkExists(ed, ed.SelectedLink)) printSelectedLink(page, ed);
+    if (const Node* node = selectedNode(ed)) printSelectedNode(page, ed, *node);
+    if (const Link* link = selectedLink(ed)) printSelectedLink(page, ed, *link);
     page.emptyLine();
     page.line(left, "Used Nodes: " + std::to_string(UsedNodes(ed)) + "/" + std::to_string(lastNode(ed)));
     page.line(left, "Used Links:   " + std::to_string(UsedLinks(ed)) + "/" + std::to_string(lastLink(ed)));

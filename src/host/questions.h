@@ -1,10 +1,15 @@
 #pragma once
+#include "host/host.h"
+
 #include <optional>
 #include <string>
 
 namespace zentrik {
 
-class Host;
+// A message under the program's name.
+inline void tell(Host& host, const std::string& text, BoxIcon icon = BoxIcon::exclamation) {
+    host.messageBox(text, "Zentrik", icon);
+}
 
 // Asks for a number; a text that begins with none counts as 0. Nothing where the answer is empty.
 std::optional<double> askNumber(Host& host, const std::string& prompt, const std::string& title,

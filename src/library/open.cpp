@@ -2,9 +2,12 @@
 
 #include "basics/numbers.h"
 #include "host/host.h"
+#include "host/questions.h"
 #include "library/zoo.h"
 #include "model/rate.h"
 #include "model/readout.h"
+#include "model/redraw.h"
+#include "model/store.h"
 
 #include <utility>
 
@@ -38,7 +41,7 @@ ProjectFile readProject(const std::filesystem::path& path, const std::string& sh
 }
 
 void tellProblem(Host& host, const ProjectFile& file) {
-    host.messageBox(file.problem, "Zentrik", file.foreign ? BoxIcon::plain : BoxIcon::exclamation);
+    tell(host, file.problem, file.foreign ? BoxIcon::plain : BoxIcon::exclamation);
 }
 
 // The window is resized while the arrays are empty, so that laying it out touches no loaded record.
@@ -50,6 +53,12 @@ void handOver(Editor& ed, Host& host, Project project) {
     for (Node& node : project.Nodes) node.SpriteIndex = spriteEntryOf(ed, node.Sprite);
     ed.Nodes = std::move(project.Nodes);
     ed.Links = std::move(project.Links);
+}
+
+void becomeModel(Editor& ed, Host& host, Project project) {
+    ClearAnimation(ed);
+    handOver(ed, host, std::move(project));
+    redrawModel(ed);
 }
 
 }  // namespace zentrik

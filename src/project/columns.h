@@ -25,6 +25,7 @@ struct Column {
     std::string_view name;
     Member<Record> member;
     std::string_view afterName = fieldSeparator;  // in the comment line
+    bool newer = false;  // older files end before it: what the record has by itself stands for it
 };
 
 // What is wrong with a field, in the order of the variant above.
@@ -101,6 +102,14 @@ inline constexpr Column<Node> nodeColumns[] = {
     {"Res8", &Node::Res8, ""},
 };
 inline constexpr std::string_view nodeCommentStart = "; i ; ";
+
+template <class Record, std::size_t count>
+constexpr bool newerAreLast(const Column<Record> (&columns)[count]) {
+    for (std::size_t i = 1; i < count; ++i)
+        if (columns[i - 1].newer && !columns[i].newer) return false;
+    return true;
+}
+static_assert(newerAreLast(globalColumns) && newerAreLast(linkColumns) && newerAreLast(nodeColumns));
 
 constexpr auto columnName = [](const auto& column) { return std::string_view(column.name); };
 static_assert(!anyShared(globalColumns, columnName) && !anyShared(linkColumns, columnName) &&

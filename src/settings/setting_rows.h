@@ -4,7 +4,6 @@
 
 #include "model/editor.h"
 #include "project/columns.h"
-#include "settings/settings.h"
 
 #include <span>
 #include <string>
@@ -12,6 +11,11 @@
 #include <variant>
 
 namespace zentrik {
+
+// The main window's place and size, twips.
+struct Placement {
+    float left = 1200, top = 1200, width = 13500, height = 5000;
+};
 
 using SettingSlot = std::variant<float Placement::*, bool Marks::*, bool Buttons::*, float Editor::*,
                                  std::int32_t Editor::*, std::string Editor::*>;

@@ -1,8 +1,6 @@
 #include "settings/settings.h"
 
-#include "basics/no_doubles.h"
 #include "basics/numbers.h"
-#include "model/rate.h"
 #include "project/forms.h"
 #include "settings/first_run.h"
 #include "settings/setting_rows.h"
@@ -13,67 +11,6 @@
 namespace zentrik {
 
 namespace {
-
-// clang-format off
-constexpr SettingRow rows[] = {
-    {"MainLeft", &Placement::left},
-    {"MainTop", &Placement::top},
-    {"MainWidth", &Placement::width},
-    {"MainHeight", &Placement::height},
-    {"UseDirectional", &Marks::mnuUseDirectional},
-    {"IgnoreBarriers", &Marks::mnuIgnoreBarriers},
-    {"ReverseModel", &Marks::mnuReverseModel},
-    {"Persistent", &Marks::mnuPersistentFireworks},
-    {"CannonBall", &Marks::mnuCannonBallFocus},
-    {"Walls", &Marks::mnuWalls},
-    {"Ceiling", &Marks::mnuCeiling},
-    {"Fireworks", &Marks::mnuDisplayFireWorks},
-    {"UseRandom", &Marks::mnuUseRandom},
-    {"Random", &Marks::mnuRandom},
-    {"AutoResume", &Marks::mnuAutoResume},
-    {"DisplayTitle", &Marks::mnuDisplayTitle},
-    {"AllowZero", &Marks::mnuAllowZero},
-    {"AllowGrid", &Marks::mnuAllowGrid},
-    {"AllowSprites", &Marks::mnuAllowSprites},
-    {"DisplayBrowser", &Marks::mnuDisplayBrowser},
-    {"ApplyChanges", &Marks::mnuApplyChanges},
-    {"DisplayManager", &Marks::mnuDisplayAngleManager},
-    {"AutoWindow", &Marks::mnuAutoWindowSize},
-    {"NodeRadius", &Editor::NodeRadius, [](const Editor& ed) { return ed.NodeRadius >= smallestRadius; }},
-    {"DefaultLinkK", &Editor::DefaultLinkK},
-    {"DefaultLinkForce", &Editor::DefaultLinkForce},
-    {"StructureParm", &Editor::StructureParm},
-    filed("Friction"),
-    filed("Viscosity"),
-    filed("LeftWind"),
-    filed("TimeInterval"),
-    filed("Gravity"),
-    filed("Bounce"),
-    {"Speed", filed("timer period").slot, [](const Editor& ed) { return isPeriod(ed.timerPeriod); }},
-    filed("DeltaAngle"),
-    {"LinkColor", &Editor::LinkColor},
-    {"NodeColor", &Editor::NodeColor},
-    {"GridSize", &Editor::GridSize, [](const Editor& ed) { return ed.GridSize > 49; }},
-    {"GridRadius", &Editor::GridRadius},
-    {"ShooterDirection", &Editor::ShooterDirection},
-    {"ShooterVelocity", &Editor::ShooterVelocity},
-    {"BackColor", &Editor::BackColor},
-    {"Line", &Buttons::line},
-    {"Ball", &Buttons::ball},
-    {"Slow", &Buttons::slow},
-    {"Draw", &Buttons::draw},
-    {"Same", &Buttons::same},
-    {"Animation", &Buttons::animation},
-    {"DisplayData", &Buttons::data},
-    {"SnapToGrid", &Buttons::snap},
-    {"DisplayGrid", &Buttons::grid},
-    {"PrintNumbers", &Buttons::numbers},
-    {"SimpleNumbers", &Buttons::simple},
-    {"Sprite", &Buttons::sprite},
-};
-// clang-format on
-static_assert(!anyShared(rows, [](const SettingRow& row) { return row.key; }) &&
-              !anyShared(rows, [](const SettingRow& row) { return row.slot; }));
 
 // Stand beside the table: whether the window comes back maximised, and where pictures are saved.
 constexpr const char* maximizedKey = "Maximized";
@@ -117,10 +54,8 @@ std::string textOf(const SettingRow& row, const Editor& ed, const Placement& pla
 
 }  // namespace
 
-std::span<const SettingRow> settingRows() { return rows; }
-
 void getSettings(Editor& ed, Placement& placement, SettingsStore& store) {
-    for (const SettingRow& row : rows) {
+    for (const SettingRow& row : settingRows()) {
         const std::optional<std::string> text = store.read(std::string(row.key));
         if (!text || !convert(row, *text, ed, placement) || (row.accepts && !row.accepts(ed)))
             takeFirst(row, ed, placement);
@@ -132,7 +67,7 @@ void getSettings(Editor& ed, Placement& placement, SettingsStore& store) {
 }
 
 void saveSettings(const Editor& ed, const std::optional<Placement>& placement, SettingsStore& store) {
-    for (const SettingRow& row : rows) {
+    for (const SettingRow& row : settingRows()) {
         const bool ofWindow = std::holds_alternative<float Placement::*>(row.slot);
         if (ofWindow && !placement) continue;
         store.write(std::string(row.key), textOf(row, ed, placement.value_or(Placement{})));

@@ -1,5 +1,6 @@
 #include "app/keeping/recovery_keeper.h"
 
+#include "files/path.h"
 #include "files/write_file.h"
 #include "history/lost_work.h"
 #include "library/backups.h"

@@ -1,3 +1,4 @@
+#include "basics/text.h"
 #include "cli/commands/commands.h"
 #include "cli/files.h"
 #include "cli/progress.h"
@@ -39,12 +40,6 @@ struct PictureRow {
 };
 constexpr PictureRow pictures[] = {
     {"png", PictureFormat::png}, {"svg", PictureFormat::svg}, {"pdf", PictureFormat::pdf}};
-
-std::string lowerCase(std::string text) {
-    for (char& c : text)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return text;
-}
 
 std::string formatName(const Arguments& arguments, const std::string& file) {
     if (const auto named = arguments.value("format")) return lowerCase(*named);
@@ -97,8 +92,10 @@ ExitStatus exportPicture(Editor& ed, PictureFormat format, const std::string& fi
     for (std::int64_t step = 0; step < steps; ++step)
         if (!stepRun(ed)) break;
     Subject subject(ed);
-    if (const auto side = arguments.number("size", 1))
-        look.scale = fitThumbnail(subject, static_cast<int>(std::min<std::int64_t>(*side, 1 << 15)));
+    if (const auto number = arguments.number("size", 1)) {
+        const int side = static_cast<int>(std::min<std::int64_t>(*number, 1 << 15));
+        look.scale = fitThumbnail(subject, {side, side});
+    }
     const PictureFile made = pictureFile(subject, format, look);
     if (!made.problem.empty()) throw Failure{finding, shownName(file) + ": " + made.problem};
     writeBytes(file, made.bytes, streams);

@@ -5,11 +5,11 @@
 #include "export/films/numbered.h"
 #include "export/films/page.h"
 #include "export/films/video.h"
+#include "files/path.h"
 
 #include <QFileInfo>
 #include <cerrno>
 #include <string_view>
-#include <system_error>
 
 namespace zentrik {
 
@@ -32,7 +32,6 @@ static_assert(!anyShared(formats, [](const FilmFormat& format) { return std::str
 // A film may take minutes: what can be known before is said before.
 std::string folderProblem(const std::string& path) {
     const QFileInfo folder(QFileInfo(QString::fromStdString(path)).absolutePath());
-    const auto inWords = [](int error) { return std::generic_category().message(error) + "."; };
     if (!folder.isDir()) return inWords(ENOENT);
     return folder.isWritable() ? "" : inWords(EACCES);
 }
