@@ -3,6 +3,7 @@
 #include "basics/angles.h"
 #include "display/canvas/lettering.h"
 #include "display/canvas/stamp.h"
+#include "model/phase_axis.h"
 #include "model/store.h"
 
 #include <QPolygonF>
@@ -59,7 +60,7 @@ void drawDiscs(const Canvas& canvas, const Editor& ed) {
 void drawSineCurve(const Canvas& canvas, const Editor& ed, double unit) {
     QPolygonF points;
     for (int d = 0; d <= 360; ++d) {
-        const double x = 0.8 * ed.phaseWidth / 360 * (360 - d) + unit;
+        const double x = phaseAxisLength * ed.phaseWidth / 360 * (360 - d) + unit;
         const double y = (1 - std::sin(curveTurn / 360 * d + ed.phaseShift)) * (ed.phaseHeight - 60) / 2;
         points.append({canvas.pixels(x), canvas.pixels(y)});
     }
@@ -77,7 +78,7 @@ void drawSineCurve(const Canvas& canvas, const Editor& ed, double unit) {
 
 void drawPhaseStrip(QPainter& painter, const Editor& ed) {
     const Canvas canvas(painter, ed.phaseWidth, ed.phaseHeight);
-    const double unit = 0.1 * ed.phaseWidth;
+    const double unit = phaseAxisLeft * ed.phaseWidth;
     painter.fillRect(canvas.frame, colorOf(paper));
     drawAxis(canvas, unit);
     drawDiscs(canvas, ed);

@@ -113,13 +113,11 @@ ExitStatus info(const Arguments& arguments, Streams& streams) {
 
 }  // namespace
 
-const Command infoCommand{"info",
-                          "FILE...",
-                          1,
-                          anyNumber,
-                          "Tells what projects hold: title, clock, counts, extent in twips, settings.",
-                          nullptr,
-                          {options},
-                          info};
+const Command infoCommand{
+    .name = "info",
+    .operands = "FILE...",
+    .summary = "Tells what projects hold: title, clock, counts, extent in twips, settings.",
+    .options = {options},
+    .run = info};
 
 }  // namespace zentrik::cli
