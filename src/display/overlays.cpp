@@ -29,7 +29,7 @@ TextPage::TextPage(const Editor& ed, double lineHeight)
 void TextPage::put(double x, std::string text) {
     // No letter is wider than a line is high.
     const double widest = lineHeight_ * static_cast<double>(text.size());
-    if (lineShows() && x < width_ && x + widest > 0) runs.push_back({x, y, color, std::move(text)});
+    if (lineShows() && x < width_ && x + widest > 0) runs.push_back({x, y, colour, std::move(text)});
 }
 
 void TextPage::line(double x, std::string text) {
@@ -39,20 +39,20 @@ void TextPage::line(double x, std::string text) {
 
 void PrintNumbers(TextPage& page, const Editor& ed) {
     forEachNode(ed, [&](std::int32_t i, const Node& node) {
-        page.color = blue;
+        page.colour = blue;
         page.y = node.Y + 100.0;
         if (page.lineShows()) page.put(node.X - 100.0, spaced(i));
     });
     forEachLink(ed, [&](std::int32_t j, const Link& link) {
         const PointF middle = linkMidpoint(ed, link);
-        page.color = red;
+        page.colour = red;
         page.y = middle.y + 75.0;
         if (page.lineShows()) page.put(middle.x - 100.0, spaced(j));
     });
 }
 
 void PrintSimpleData(TextPage& page, const Editor& ed) {
-    page.color = black;
+    page.colour = black;
     page.y = 50;
     // The values stand under the letters g f v w B t r c of a project file.
     page.put(readoutLeft, " " + realText(ed.Gravity) + blanks(8) + fixedText(ed.Friction, 1) + blanks(8) +
@@ -175,7 +175,7 @@ void PrintEntireProject(TextPage& page, const Editor& ed) {
 }  // namespace
 
 void PrintDataOnScreen(TextPage& page, const Editor& ed) {
-    page.color = black;
+    page.colour = black;
     page.y = 400;
     if (const Node* node = selectedNode(ed)) printSelectedNode(page, ed, *node);
     if (const Link* link = selectedLink(ed)) printSelectedLink(page, ed, *link);

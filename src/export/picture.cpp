@@ -99,7 +99,7 @@ QImage sceneImage(const Subject& subject, const Look& look) {
     image.setDotsPerMeterX(density);
     image.setDotsPerMeterY(density);
     // To the edge, where a part of a pixel is left over.
-    image.fill(look.transparent ? Qt::transparent : colorOf(subject.ed.BackColor));
+    image.fill(look.transparent ? Qt::transparent : colourOf(subject.ed.BackColor));
     QPainter painter(&image);
     drawScene(painter, subject.ed, subject.sprites, groundOf(look));
     return image;

@@ -1,5 +1,6 @@
 #pragma once
-// The record of steps that can be undone and redone.
+// The steps that can be undone and redone. One is a change of the model; what the animation makes is a step
+// of the run (history/timeline.h).
 
 #include "history/difference.h"
 #include "model/store.h"

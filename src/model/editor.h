@@ -57,7 +57,7 @@ struct PointF {
 
 struct PathDot {
     std::int32_t x = 0, y = 0;  // twips of the path window, half the scene's
-    std::int32_t color = 0;
+    std::int32_t colour = 0;
 };
 
 struct Rect {
