@@ -18,7 +18,7 @@ Editor hundredNodes() {
     Editor ed;
     ed.sceneWidth = 14400;
     ed.sceneHeight = 6000;
-    ed.Timer1.interval = 20;
+    ed.timerPeriod = 20;
     scenes::addLattice(ed, 20, 5, 600, 1200, 600);
     return ed;
 }

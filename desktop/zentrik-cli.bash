@@ -11,7 +11,8 @@ _zentrik_cli() {
             return
             ;;
         --format)
-            mapfile -t COMPREPLY < <(compgen -W "png svg pdf gif html mp4 webm csv folder" -- "$word")
+            mapfile -t COMPREPLY < <(compgen -W "$("$program" export --help 2>/dev/null |
+                sed -n 's/^SUFFIX is one of: \(.*\)\./\1/p' | tr -d ,)" -- "$word")
             return
             ;;
         --measure)

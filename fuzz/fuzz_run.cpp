@@ -34,7 +34,7 @@ void showEverything(Editor& ed) {
     ed.sceneWidth = std::clamp(ed.sceneWidth, 1500, 6000);
     ed.sceneHeight = std::clamp(ed.sceneHeight, 1500, 4500);
     ed.phaseWidth = ed.sceneWidth;
-    ed.Timer1.interval = std::max(ed.Timer1.interval, 1);  // the library refuses others
+    ed.timerPeriod = std::max(ed.timerPeriod, 1);  // the library refuses others
     if (lastNode(ed) > 0) ed.SelectedNode = ed.HoverNode = 1;
     if (lastLink(ed) > 0) ed.SelectedLink = ed.HoverLink = ed.SelectedAnimatorLink = 1;
 }

@@ -16,17 +16,9 @@ inline Editor editorWith(Project project) {
     ed.Nodes = std::move(project.Nodes);
     ed.Links = std::move(project.Links);
     if (const auto& global = project.global) {
-        ed.Gravity = global->Gravity;
-        ed.Friction = global->Friction;
-        ed.Viscosity = global->Viscosity;
-        ed.LeftWind = global->LeftWind;
-        ed.Bounce = global->Bounce;
-        ed.TimeInterval = global->TimeInterval;
-        ed.Timer1.interval = global->timerPeriod;
-        ed.DeltaAngle = global->DeltaAngle;
+        static_cast<ProjectSettings&>(ed) = *global;
         ed.sceneWidth = toInt(global->sceneWidth);
         ed.sceneHeight = toInt(global->sceneHeight);
-        ed.AnimationTime = global->AnimationTime;
     }
     return ed;
 }

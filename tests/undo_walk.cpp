@@ -9,9 +9,9 @@
 #include "rig.h"
 #include "sim/run.h"
 #include "ui/command_toolbar.h"
-#include "ui/undo.h"
 #include "ui/menus.h"
 #include "ui/property_toolbar.h"
+#include "ui/undo.h"
 
 #include <random>
 #include <string_view>
@@ -51,7 +51,7 @@ public:
         closeStep(history_, ed_);
         while (!history_.undone.empty()) stepForth(history_, ed_);
         // Traces that no step has seen belong to no state.
-        copyContents(ed_, history_.shown);
+        static_cast<Contents&>(ed_) = history_.shown;
         const std::string last = imageOf(ed_);
         while (!history_.done.empty()) stepBack(history_, ed_);
         if (imageOf(ed_) != first) return "undoing everything does not give the first model";
@@ -159,8 +159,9 @@ std::string imageOf(const Editor& ed) {
     std::string image;
     for (const Node& node : ed.Nodes) appendAll(image, meaningOf(node)), appendAll(image, tracesOf(node));
     for (const Link& link : ed.Links) appendAll(image, meaningOf(link)), appendAll(image, tracesOf(link));
-    appendAll(image, globalsOf(ed));
-    return image;
+    appendAll(image, std::tie(ed.ProjectTitle, ed.TimeDirection));
+    const ProjectSettings& settings = ed;
+    return image.append(reinterpret_cast<const char*>(&settings), sizeof settings);
 }
 
 std::string undoWalk(std::uint32_t seed, int events, const std::string& programFolder) {

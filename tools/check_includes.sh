@@ -18,7 +18,7 @@ MODEL                       basics host model
 sim/contacts      none      MODEL
 sim               none      MODEL sim/contacts
 effects           none      MODEL
-files             none
+files             none      basics
 project           none      MODEL
 library           none      MODEL sim files project
 display/canvas    painting  MODEL

@@ -48,7 +48,7 @@ std::vector<QImage> play(Editor ed, const SpritePictures& sprites, Extremes& ext
     scenes::start(ed);
     int ticks = 0;
     for (const double time : times) {
-        const double perTick = ed.Timer1.interval / 1000.0;
+        const double perTick = ed.timerPeriod / 1000.0;
         for (; ticks * perTick < time && ed.Timer1.enabled; ++ticks) {
             scenes::tickSample(ed);
             if (ticks % 20 == 0) extremes.add(ed);

@@ -20,10 +20,10 @@ inline constexpr std::size_t anyNumber = static_cast<std::size_t>(-1);
 
 struct Command {
     const char* name;
-    const char* operands;      // as the usage line shows them
-    std::size_t fewest, most;  // of them
-    const char* summary;       // one sentence
-    std::string (*details)();  // what else its help says; may be null
+    const char* operands;                // as the usage line shows them
+    std::size_t most = anyNumber;        // of them; one at least
+    const char* summary;                 // one sentence
+    std::string (*details)() = nullptr;  // what else its help says
     OptionGroups options;
     ExitStatus (*run)(const Arguments& arguments, Streams& streams);
 };

@@ -1,5 +1,6 @@
 #include "cli/files.h"
 
+#include "files/read_file.h"
 #include "files/write_file.h"
 #include "library/zoo.h"
 
@@ -32,7 +33,7 @@ std::string readBytes(const std::string& file, Streams& streams) {
 }
 
 std::string readAnyBytes(const std::string& file, Streams& streams) {
-    return file == "-" ? allOf(streams.in) : bytesOf(readWholeFile(file), file);
+    return file == "-" ? allOf(streams.in) : bytesOf(readFile(file), file);
 }
 
 void writeBytes(const std::string& file, std::string_view bytes, Streams& streams) {

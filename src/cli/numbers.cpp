@@ -1,25 +1,11 @@
 #include "cli/numbers.h"
 
+#include "basics/text.h"
 #include "cli/failure.h"
 
-#include <charconv>
 #include <cmath>
-#include <system_error>
 
 namespace zentrik::cli {
-
-namespace {
-
-template <class Number>
-std::optional<Number> readAll(std::string_view text) {
-    Number value = 0;
-    const char* end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, value);
-    if (result.ec != std::errc{} || result.ptr != end) return {};
-    return value;
-}
-
-}  // namespace
 
 std::optional<double> readNumber(std::string_view text) {
     const auto value = readAll<double>(text);

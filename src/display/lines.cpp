@@ -47,10 +47,10 @@ public:
     LineRuns& operator=(const LineRuns&) = delete;
 
     // Colour and width (device-independent pixels) of the lines to come.
-    void pen(std::int32_t color, int width) {
-        if (color == color_ && width == width_) return;
+    void pen(std::int32_t colour, int width) {
+        if (colour == colour_ && width == width_) return;
         flush();
-        color_ = color;
+        colour_ = colour;
         width_ = width;
     }
     void add(const Node& from, double x, double y) {
@@ -63,7 +63,7 @@ private:
     void flush() {
         if (lines_.isEmpty()) return;
         const int width = canvas_.lineWidth(width_);
-        QPen pen(colorOf(color_), width);
+        QPen pen(colourOf(colour_), width);
         pen.setCapStyle(width_ > 1 ? Qt::SquareCap : Qt::FlatCap);
         canvas_.painter.setPen(pen);
         canvas_.painter.setRenderHint(QPainter::Antialiasing, width == 1 || smoothWide_);
@@ -80,7 +80,7 @@ private:
     const bool smoothWide_;
     QRectF room_;
     QList<QLineF> lines_;
-    std::int32_t color_ = black;
+    std::int32_t colour_ = black;
     int width_ = 1;
 };
 
@@ -139,7 +139,7 @@ void drawAnimatedLinks(const Canvas& canvas, const Editor& ed) {
 }
 
 void drawRubberBand(const Canvas& canvas, const Editor& ed) {
-    const Node* from = nodeExists(ed, ed.SelectedNode) ? &nodeAt(ed, ed.SelectedNode) : nullptr;
+    const Node* from = selectedNode(ed);
     if (!ed.rubberBand || !from) return;
     LineRuns lines(canvas, 1);
     lines.pen(ed.LinkColor, 1);

@@ -52,10 +52,9 @@ void drawNodes(const Canvas& canvas, const Editor& ed) {
 
 void drawMarks(const Canvas& canvas, const Editor& ed) {
     NodeStamps stamps(canvas, ed.NodeRadius);
-    if (nodeExists(ed, ed.SelectedNode)) {
-        const Node& node = nodeAt(ed, ed.SelectedNode);
-        (node.Locked ? stamps.square : stamps.circle).paint(node.X, node.Y, red, black);
-        stamps.gravityDot(node);
+    if (const Node* node = selectedNode(ed)) {
+        (node->Locked ? stamps.square : stamps.circle).paint(node->X, node->Y, red, black);
+        stamps.gravityDot(*node);
     }
     if (nodeExists(ed, ed.HoverNode)) {
         const Node& node = nodeAt(ed, ed.HoverNode);

@@ -29,7 +29,7 @@ TextPage::TextPage(const Editor& ed, double lineHeight)
 void TextPage::put(double x, std::string text) {
     // No letter is wider than a line is high.
     const double widest = lineHeight_ * static_cast<double>(text.size());
-    if (lineShows() && x < width_ && x + widest > 0) runs.push_back({x, y, color, std::move(text)});
+    if (lineShows() && x < width_ && x + widest > 0) runs.push_back({x, y, colour, std::move(text)});
 }
 
 void TextPage::line(double x, std::string text) {
@@ -39,43 +39,38 @@ void TextPage::line(double x, std::string text) {
 
 void PrintNumbers(TextPage& page, const Editor& ed) {
     forEachNode(ed, [&](std::int32_t i, const Node& node) {
-        page.color = blue;
+        page.colour = blue;
         page.y = node.Y + 100.0;
         if (page.lineShows()) page.put(node.X - 100.0, spaced(i));
     });
     forEachLink(ed, [&](std::int32_t j, const Link& link) {
         const PointF middle = linkMidpoint(ed, link);
-        page.color = red;
+        page.colour = red;
         page.y = middle.y + 75.0;
         if (page.lineShows()) page.put(middle.x - 100.0, spaced(j));
     });
 }
 
 void PrintSimpleData(TextPage& page, const Editor& ed) {
-    page.color = black;
+    page.colour = black;
     page.y = 50;
     // The values stand under the letters g f v w B t r c of a project file.
     page.put(readoutLeft, " " + realText(ed.Gravity) + blanks(8) + fixedText(ed.Friction, 1) + blanks(8) +
                               fixedText(ed.Viscosity, 1) + blanks(9) + realText(ed.LeftWind) + blanks(10) +
                               fixedText(ed.Bounce, 1) + blanks(8) + realText(ed.TimeInterval) + blanks(8) +
-                              std::to_string(ed.Timer1.interval) + blanks(8) + realText(ed.DeltaAngle));
-    if (nodeExists(ed, ed.SelectedNode)) {
-        const Node& node = nodeAt(ed, ed.SelectedNode);
-        page.put(readoutNode, realText(node.Mass) + blanks(9) + realText(node.Gravity) + blanks(10) +
-                                  realText(node.Rotate) + blanks(9) + realText(node.Vxo) + blanks(10) +
-                                  realText(node.Vyo));
-    }
-    if (linkExists(ed, ed.SelectedLink)) {
-        const Link& link = linkAt(ed, ed.SelectedLink);
+                              std::to_string(ed.timerPeriod) + blanks(8) + realText(ed.DeltaAngle));
+    if (const Node* node = selectedNode(ed))
+        page.put(readoutNode, realText(node->Mass) + blanks(9) + realText(node->Gravity) + blanks(10) +
+                                  realText(node->Rotate) + blanks(9) + realText(node->Vxo) + blanks(10) +
+                                  realText(node->Vyo));
+    if (const Link* link = selectedLink(ed))
         page.line(readoutLink,
-                  realText(link.k) + blanks(10) + whole(link.Angle) + blanks(6) + realText(link.Force));
-    }
+                  realText(link->k) + blanks(10) + whole(link->Angle) + blanks(6) + realText(link->Force));
 }
 
 namespace {
 
-void printSelectedNode(TextPage& page, const Editor& ed) {
-    const Node& node = nodeAt(ed, ed.SelectedNode);
+void printSelectedNode(TextPage& page, const Editor& ed, const Node& node) {
     page.emptyLine();
     page.line(left, "--- Selected Node ---");
     page.line(left, "Node " + std::to_string(ed.SelectedNode));
@@ -88,8 +83,7 @@ void printSelectedNode(TextPage& page, const Editor& ed) {
     page.line(left, "Vy:  " + whole(node.Vy));
 }
 
-void printSelectedLink(TextPage& page, const Editor& ed) {
-    const Link& link = linkAt(ed, ed.SelectedLink);
+void printSelectedLink(TextPage& page, const Editor& ed, const Link& link) {
     page.emptyLine();
     page.line(left, "--- Selected Link ---");
     page.line(left, "Link " + std::to_string(ed.SelectedLink));
@@ -181,10 +175,10 @@ void PrintEntireProject(TextPage& page, const Editor& ed) {
 }  // namespace
 
 void PrintDataOnScreen(TextPage& page, const Editor& ed) {
-    page.color = black;
+    page.colour = black;
     page.y = 400;
-    if (nodeExists(ed, ed.SelectedNode)) printSelectedNode(page, ed);
-    if (linkExists(ed, ed.SelectedLink)) printSelectedLink(page, ed);
+    if (const Node* node = selectedNode(ed)) printSelectedNode(page, ed, *node);
+    if (const Link* link = selectedLink(ed)) printSelectedLink(page, ed, *link);
     page.emptyLine();
     page.line(left, "Used Nodes: " + std::to_string(UsedNodes(ed)) + "/" + std::to_string(lastNode(ed)));
     page.line(left, "Used Links:   " + std::to_string(UsedLinks(ed)) + "/" + std::to_string(lastLink(ed)));

@@ -11,7 +11,7 @@ namespace zentrik {
 
 struct TextRun {
     double x = 0, y = 0;  // top-left corner, twips of the scene
-    std::int32_t color = 0;
+    std::int32_t colour = 0;
     std::string text;  // ASCII
 
     bool operator==(const TextRun&) const = default;
@@ -24,8 +24,8 @@ public:
     TextPage(const Editor& ed, double lineHeight);
 
     std::vector<TextRun> runs;
-    std::int32_t color = 0;  // of what is printed next
-    double y = 0;            // top of the cursor's line
+    std::int32_t colour = 0;  // of what is printed next
+    double y = 0;             // top of the cursor's line
 
     // Prints at x in the cursor's line, and stays in it.
     void put(double x, std::string text);

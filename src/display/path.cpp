@@ -17,7 +17,7 @@ void drawPath(QPainter& painter, const std::vector<PathDot>& dots, std::size_t f
         const double x = std::floor(dots[i].x * ratio / twipsPerPixel + 0.5);
         const double y = std::floor(dots[i].y * ratio / twipsPerPixel + 0.5);
         if (x < 0 || y < 0 || x > reach.width() || y > reach.height()) continue;
-        painter.fillRect(static_cast<int>(x), static_cast<int>(y), side, side, colorOf(dots[i].color));
+        painter.fillRect(static_cast<int>(x), static_cast<int>(y), side, side, colourOf(dots[i].colour));
     }
     painter.restore();
 }

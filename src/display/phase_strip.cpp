@@ -3,6 +3,7 @@
 #include "basics/angles.h"
 #include "display/canvas/lettering.h"
 #include "display/canvas/stamp.h"
+#include "model/phase_axis.h"
 #include "model/store.h"
 
 #include <QPolygonF>
@@ -15,11 +16,11 @@ namespace {
 constexpr std::int32_t paper = 0xFBF8F6, axisInk = 0x6B5A4F, gridInk = 0xD9CFC8, labelInk = 0x4A3B32;
 constexpr double discRadius = 60;  // twips
 
-void verticalLine(const Canvas& canvas, double x, double top, int width, std::int32_t color) {
+void verticalLine(const Canvas& canvas, double x, double top, int width, std::int32_t colour) {
     const int thick = canvas.lineWidth(width);
     const int middle = static_cast<int>(std::floor(canvas.place(x, 0).x()));
     const int from = static_cast<int>(std::lround(canvas.pixels(top)));
-    canvas.painter.fillRect(middle - thick / 2, from, thick, canvas.frame.height() - from, colorOf(color));
+    canvas.painter.fillRect(middle - thick / 2, from, thick, canvas.frame.height() - from, colourOf(colour));
 }
 
 void drawAxis(const Canvas& canvas, double unit) {
@@ -59,16 +60,16 @@ void drawDiscs(const Canvas& canvas, const Editor& ed) {
 void drawSineCurve(const Canvas& canvas, const Editor& ed, double unit) {
     QPolygonF points;
     for (int d = 0; d <= 360; ++d) {
-        const double x = 0.8 * ed.phaseWidth / 360 * (360 - d) + unit;
+        const double x = phaseAxisLength * ed.phaseWidth / 360 * (360 - d) + unit;
         const double y = (1 - std::sin(curveTurn / 360 * d + ed.phaseShift)) * (ed.phaseHeight - 60) / 2;
         points.append({canvas.pixels(x), canvas.pixels(y)});
     }
-    QColor faint = colorOf(red);
+    QColor faint = colourOf(red);
     faint.setAlpha(90);
     canvas.painter.setRenderHint(QPainter::Antialiasing);
     canvas.painter.setPen(QPen(faint, canvas.ratio));
     canvas.painter.drawPolyline(points);
-    canvas.painter.setPen(QPen(colorOf(red), 1.75 * canvas.ratio, Qt::SolidLine, Qt::RoundCap));
+    canvas.painter.setPen(QPen(colourOf(red), 1.75 * canvas.ratio, Qt::SolidLine, Qt::RoundCap));
     canvas.painter.drawPoints(points);
     canvas.painter.setRenderHint(QPainter::Antialiasing, false);
 }
@@ -77,8 +78,8 @@ void drawSineCurve(const Canvas& canvas, const Editor& ed, double unit) {
 
 void drawPhaseStrip(QPainter& painter, const Editor& ed) {
     const Canvas canvas(painter, ed.phaseWidth, ed.phaseHeight);
-    const double unit = 0.1 * ed.phaseWidth;
-    painter.fillRect(canvas.frame, colorOf(paper));
+    const double unit = phaseAxisLeft * ed.phaseWidth;
+    painter.fillRect(canvas.frame, colourOf(paper));
     drawAxis(canvas, unit);
     drawDiscs(canvas, ed);
     drawSineCurve(canvas, ed, unit);

@@ -12,7 +12,7 @@ namespace {
 
 void drawPage(const Canvas& canvas, const TextPage& page, std::int32_t paper) {
     for (const TextRun& run : page.runs)
-        lettering(canvas.ratio, run.color, paper)
+        lettering(canvas.ratio, run.colour, paper)
             .print(canvas.painter, {canvas.pixels(run.x), canvas.pixels(run.y)}, run.text);
 }
 
@@ -23,7 +23,7 @@ bool spritesShown(const Editor& ed) {
 }  // namespace
 
 void drawUnderMarks(const Canvas& canvas, const Editor& ed, Ground ground) {
-    if (ground == Ground::painted) canvas.painter.fillRect(canvas.frame, colorOf(ed.BackColor));
+    if (ground == Ground::painted) canvas.painter.fillRect(canvas.frame, colourOf(ed.BackColor));
     if (ed.sceneBlank) return;
     if (!ed.drawnRunning || ed.marks.mnuAllowGrid) DisplayGrid(canvas, ed);
     if (ed.buttons.line) drawLinks(canvas, ed);
@@ -42,7 +42,7 @@ void drawOverMarks(const Canvas& canvas, const Editor& ed, const SpritePictures&
     const double lineHeight = sceneLineHeight();
     const TextPage overlays = overlayPage(ed, lineHeight);
     drawPage(canvas, overlays, ed.BackColor);
-    if (ed.marks.mnuDisplayTitle) drawTitle(canvas, ed, overlays.color);
+    if (ed.marks.mnuDisplayTitle) drawTitle(canvas, ed, overlays.colour);
     if (spritesShown(ed)) ShowImages(canvas, ed, sprites);
     if (ed.instructionsShown) drawPage(canvas, instructionsPage(ed, lineHeight), ed.BackColor);
 }

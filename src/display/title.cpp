@@ -93,13 +93,13 @@ void drawTitle(const Canvas& canvas, const Editor& ed, std::int32_t inkColor) {
     const QString text = QString::fromStdString(ed.ProjectTitle).left(longest);
     const int size = scenePixels(canvas.ratio, 16);
     const Title& title = keptTitle(text, size, canvas.shapes);
-    const QColor ink = colorOf(legibleInk(inkColor, ed.BackColor));
+    const QColor ink = colourOf(legibleInk(inkColor, ed.BackColor));
 
     QPainter& painter = canvas.painter;
     painter.save();
     painter.translate(std::round((canvas.pixels(ed.sceneWidth) - title.width) / 2),
                       std::round(canvas.pixels(250) + std::ceil(Face::ascent * size)));
-    strokeHalo(painter, title.outline, size, colorOf(ed.BackColor));
+    strokeHalo(painter, title.outline, size, colourOf(ed.BackColor));
     // Shapes read alike whatever fonts there are where they are shown.
     fillLetters(painter, canvas.shapes ? title.outline : title.ownLetters, ink);
     if (!canvas.shapes && !title.foreign.empty()) {

@@ -3,6 +3,7 @@
 #include "basics/numbers.h"
 #include "edit/hit.h"
 #include "edit/mouse.h"
+#include "model/phase_axis.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
@@ -54,8 +55,8 @@ bool OverPhase(Editor& ed, float X, float Y, std::int32_t& iOver) {
 }
 
 float SnapToPhaseGrid(const Editor& ed, float X) {
-    const double axis = 0.8 * ed.phaseWidth;
-    const double offset = X - 0.1 * ed.phaseWidth;
+    const double axis = phaseAxisLength * ed.phaseWidth;
+    const double offset = X - phaseAxisLeft * ed.phaseWidth;
     double angle = axis > 0 ? offset / axis * 360 : 0;
     constexpr double step = phaseGrid;
     const double cell = step / 360 * axis;

@@ -23,11 +23,19 @@ constexpr int largestScene = 1 << 20;
 Ground groundOf(const Look& look) { return look.transparent ? Ground::clear : Ground::painted; }
 
 // A sprite that stands among shapes is to be sharp when they are enlarged.
-constexpr double spritesAmongShapes = 4;
+void sharpenSprites(Subject& subject) { subject.sprites.setRatio(4); }
 
 std::string bytesOf(const QBuffer& buffer) { return buffer.data().toStdString(); }
 
-std::string svgBytes(Subject& subject, const Look& look) {
+PictureFile pngFile(Subject& subject, const Look& look) {
+    subject.sprites.setRatio(look.scale);
+    std::string bytes = pngBytes(sceneImage(subject, look));
+    if (bytes.empty()) return {"", "So large a picture cannot be made."};
+    return {std::move(bytes), ""};
+}
+
+PictureFile svgFile(Subject& subject, const Look& look) {
+    sharpenSprites(subject);
     QBuffer buffer;
     QSvgGenerator file;
     const QSize size = sceneSize(subject.ed);
@@ -39,10 +47,11 @@ std::string svgBytes(Subject& subject, const Look& look) {
     QPainter painter(&file);
     drawScene(painter, subject.ed, subject.sprites, groundOf(look));
     painter.end();
-    return bytesOf(buffer);
+    return {bytesOf(buffer), ""};
 }
 
-std::string pdfBytes(Subject& subject, const Look& look) {
+PictureFile pdfFile(Subject& subject, const Look& look) {
+    sharpenSprites(subject);
     constexpr double points = 72.0 / 96;  // a pixel
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -56,10 +65,18 @@ std::string pdfBytes(Subject& subject, const Look& look) {
     painter.scale(look.scale, look.scale);
     drawScene(painter, subject.ed, subject.sprites, groundOf(look));
     painter.end();
-    return bytesOf(buffer);
+    return {bytesOf(buffer), ""};
 }
 
+constexpr PictureFormatRow formats[] = {
+    {.name = "PNG, a bitmap", .suffix = "png", .make = pngFile},
+    {.name = "SVG, a drawing", .suffix = "svg", .make = svgFile},
+    {.name = "PDF, a drawing", .suffix = "pdf", .make = pdfFile},
+};
+
 }  // namespace
+
+std::span<const PictureFormatRow> pictureFormats() { return formats; }
 
 QString titleOf(const Editor& ed) {
     QString title = QString::fromStdString(ed.ProjectTitle).left(1000);
@@ -82,7 +99,7 @@ QImage sceneImage(const Subject& subject, const Look& look) {
     image.setDotsPerMeterX(density);
     image.setDotsPerMeterY(density);
     // To the edge, where a part of a pixel is left over.
-    image.fill(look.transparent ? Qt::transparent : colorOf(subject.ed.BackColor));
+    image.fill(look.transparent ? Qt::transparent : colourOf(subject.ed.BackColor));
     QPainter painter(&image);
     drawScene(painter, subject.ed, subject.sprites, groundOf(look));
     return image;
@@ -95,12 +112,7 @@ std::string pngBytes(const QImage& image) {
 }
 
 PictureFile pictureFile(Subject& subject, PictureFormat format, const Look& look) {
-    subject.sprites.setRatio(format == PictureFormat::png ? look.scale : spritesAmongShapes);
-    if (format == PictureFormat::svg) return {svgBytes(subject, look), ""};
-    if (format == PictureFormat::pdf) return {pdfBytes(subject, look), ""};
-    std::string bytes = pngBytes(sceneImage(subject, look));
-    if (bytes.empty()) return {"", "So large a picture cannot be made."};
-    return {std::move(bytes), ""};
+    return formats[static_cast<std::size_t>(format)].make(subject, look);
 }
 
 }  // namespace zentrik

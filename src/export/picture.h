@@ -4,6 +4,7 @@
 #include "export/subject.h"
 
 #include <QImage>
+#include <span>
 #include <string>
 
 namespace zentrik {
@@ -23,12 +24,18 @@ QString titleOf(const Editor& ed);
 // Null where it would be larger than 32767 pixels a side, or than memory holds.
 QImage sceneImage(const Subject& subject, const Look& look);
 
-enum class PictureFormat { png, svg, pdf };
-
 struct PictureFile {
     std::string bytes;
     std::string problem;  // in words; empty when there is none
 };
+
+struct PictureFormatRow {
+    const char* name;  // as a person chooses it
+    const char* suffix;
+    PictureFile (*make)(Subject& subject, const Look& look);
+};
+enum class PictureFormat { png, svg, pdf };  // in the order of the rows
+std::span<const PictureFormatRow> pictureFormats();
 
 PictureFile pictureFile(Subject& subject, PictureFormat format, const Look& look);
 

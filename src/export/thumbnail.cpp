@@ -2,6 +2,7 @@
 
 #include "basics/numbers.h"
 #include "basics/units.h"
+#include "model/extent.h"
 #include "model/store.h"
 
 #include <algorithm>
@@ -10,13 +11,6 @@ namespace zentrik {
 
 namespace {
 
-struct Extent {
-    double low = 1e12, high = -1e12;
-
-    void add(double value) { low = std::min(low, value), high = std::max(high, value); }
-    double size() const { return std::max(high - low, 0.0); }
-};
-
 void hideTexts(Editor& ed) {
     ed.buttons.grid = ed.buttons.numbers = ed.buttons.data = ed.buttons.simple = false;
     ed.marks.mnuDisplayTitle = ed.instructionsShown = false;
@@ -24,21 +18,29 @@ void hideTexts(Editor& ed) {
 
 }  // namespace
 
-double fitThumbnail(Subject& subject, int side) {
+double fitThumbnail(Subject& subject, QSize most) {
     constexpr double mostEnlarged = 2;
     Editor& ed = subject.ed;
     hideTexts(ed);
-    Extent across, down;
-    forEachNode(ed, [&](std::int32_t, const Node& node) { across.add(node.X), down.add(node.Y); });
+    const Extent extent = extentOf(ed.Nodes);
     const double margin = 2.0 * ed.NodeRadius + twipsPerPixel;  // barrels and pens reach beyond the places
     forEachNode(ed, [&](std::int32_t, Node& node) {
-        node.X = toInt(node.X - across.low + margin);
-        node.Y = toInt(node.Y - down.low + margin);
+        node.X = toInt(static_cast<double>(node.X) - extent.left + margin);
+        node.Y = toInt(static_cast<double>(node.Y) - extent.top + margin);
     });
-    ed.sceneWidth = toInt(across.size() + 2 * margin);
-    ed.sceneHeight = toInt(down.size() + 2 * margin);
+    ed.sceneWidth = toInt(extent.width() + 2 * margin);
+    ed.sceneHeight = toInt(extent.height() + 2 * margin);
     const QSize size = sceneSize(ed);
-    return std::min(mostEnlarged, static_cast<double>(side) / std::max(size.width(), size.height()));
+    const auto fit = [](int room, int needed) { return static_cast<double>(room) / needed; };
+    return std::min({mostEnlarged, fit(most.width(), size.width()), fit(most.height(), size.height())});
+}
+
+QImage thumbnail(Subject& subject, QSize most, double ratio) {
+    const double scale = fitThumbnail(subject, most) * ratio;
+    subject.sprites.setRatio(scale);
+    QImage image = sceneImage(subject, {scale});
+    image.setDevicePixelRatio(ratio);
+    return image;
 }
 
 }  // namespace zentrik

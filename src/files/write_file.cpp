@@ -1,5 +1,6 @@
 #include "files/write_file.h"
 
+#include "files/path.h"
 #include "files/write_target.h"
 
 #include <fcntl.h>
@@ -21,7 +22,7 @@ namespace {
 constexpr std::string_view leftoverSuffix = ".zentrik-part";
 constexpr std::chrono::hours leftoverAge{1};  // no save takes that long
 
-std::string lastError() { return std::generic_category().message(errno) + "."; }
+std::string lastError() { return inWords(errno); }
 
 // A file being written beside the one it is to replace; removed unless it has taken its place.
 class FileAside {

@@ -1,6 +1,7 @@
 #include "history/difference.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstring>
 #include <limits>
@@ -106,6 +107,21 @@ void takeFields(Taker& in, Way way, const Fields& fields) {
     });
 }
 
+// The settings, of which only the words are known here.
+using Words = std::array<Number, sizeof(ProjectSettings) / sizeof(Number)>;
+static_assert(std::is_trivially_copyable_v<ProjectSettings> && alignof(ProjectSettings) == alignof(Number));
+
+Words wordsOf(const ProjectSettings& settings) { return std::bit_cast<Words>(settings); }
+
+// What belongs to no record.
+template <class From, class SomeWords>
+auto globalsOf(From& contents, SomeWords& words) {
+    const auto withWords = [&](auto&... word) {
+        return std::tie(contents.ProjectTitle, contents.TimeDirection, word...);
+    };
+    return std::apply(withWords, words);
+}
+
 // A quick look that spares most records the comparison of their fields. Padding may differ where no field
 // does.
 template <class Record>
@@ -147,11 +163,12 @@ void takeRecords(Taker& in, Way way, std::vector<Record>& records) {
 
 }  // namespace
 
-std::optional<Difference> differenceBetween(const Contents& from, const Editor& to) {
+std::optional<Difference> differenceBetween(const Contents& from, const Contents& to) {
     Difference out;
     const bool nodes = putRecords(out, from.Nodes, to.Nodes);
     const bool links = putRecords(out, from.Links, to.Links);
-    const bool globals = putFields(out, 0, globalsOf(from), globalsOf(to)) != 0;
+    const Words former = wordsOf(from), later = wordsOf(to);
+    const bool globals = putFields(out, 0, globalsOf(from, former), globalsOf(to, later)) != 0;
     if (!nodes && !links && !globals) return std::nullopt;
     if (!globals) put(out, endOfRecords);
     out.shrink_to_fit();
@@ -162,7 +179,10 @@ void apply(const Difference& difference, Way way, Contents& contents) {
     Taker in(difference);
     takeRecords(in, way, contents.Nodes);
     takeRecords(in, way, contents.Links);
-    if (in.taken<Number>() != endOfRecords) takeFields(in, way, globalsOf(contents));
+    if (in.taken<Number>() == endOfRecords) return;
+    Words words = wordsOf(contents);
+    takeFields(in, way, globalsOf(contents, words));
+    static_cast<ProjectSettings&>(contents) = std::bit_cast<ProjectSettings>(words);
 }
 
 }  // namespace zentrik

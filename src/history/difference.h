@@ -3,7 +3,7 @@
 // which of its fields changed, and their former and new values, bit for bit. Records beyond the end of
 // an array count as empty ones.
 
-#include "history/contents.h"
+#include "model/contents.h"
 
 #include <optional>
 #include <string>
@@ -14,7 +14,7 @@ using Difference = std::string;
 
 // None when nothing differs but traces (see meaningOf and tracesOf); those alone are nobody's change.
 // O(nodes + links).
-std::optional<Difference> differenceBetween(const Contents& from, const Editor& to);
+std::optional<Difference> differenceBetween(const Contents& from, const Contents& to);
 
 // Makes the state a difference led from into the one it led to, or the other way round.
 enum class Way { back, forth };

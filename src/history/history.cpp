@@ -1,9 +1,7 @@
 #include "history/history.h"
 
 #include "history/lost_work.h"
-#include "model/store.h"
 
-#include <algorithm>
 #include <cassert>
 #include <utility>
 
@@ -35,7 +33,7 @@ void forgetTheOldest(History& history) {
 }
 
 // Makes whatever changed since the newest step a step. False when nothing did.
-bool record(History& history, const Editor& ed, const std::string& what, bool isRun = false) {
+bool keepChange(History& history, const Editor& ed, const std::string& what, bool isRun = false) {
     std::optional<Difference> difference = differenceBetween(history.shown, ed);
     if (!difference) return false;
     assert(!what.empty());  // the undo button shows it
@@ -66,8 +64,7 @@ void reopen(History& history, Going going) {
 std::string gestureName(const Contents& before, const Editor& ed, const std::string& otherwise) {
     if (ed.Nodes.size() > before.Nodes.size()) return "Node " + std::to_string(lastNode(ed)) + " added";
     if (ed.Links.size() > before.Links.size()) return "Link " + std::to_string(lastLink(ed)) + " added";
-    const auto used = [](const Node& node) { return node.Used; };
-    if (UsedNodes(ed) < std::count_if(before.Nodes.begin(), before.Nodes.end(), used)) return "Node removed";
+    if (UsedNodes(ed) < UsedNodes(before)) return "Node removed";
     return otherwise;
 }
 
@@ -117,7 +114,7 @@ void endGesture(History& history, const Editor& ed, const std::string& what) {
     if (history.going == Going::drag && held) return;
     history.going = Going::nothing;
     if (!held) {
-        record(history, ed, gestureName(history.shown, ed, what));
+        keepChange(history, ed, gestureName(history.shown, ed, what));
     } else if (differenceBetween(history.shown, ed)) {
         history.going = Going::drag;  // one step, at its release
     }
@@ -127,7 +124,7 @@ void endGesture(History& history, const Editor& ed, const std::string& what) {
 
 void startHistory(History& history, const Editor& ed) {
     history = History{};
-    copyContents(history.shown, ed);
+    history.shown = ed;
     history.context = contextOf(ed);
     history.filed[ed.savedText] = history.state;
     history.filedCount = ed.filedCount;
@@ -160,7 +157,7 @@ void endEvent(History& history, const Editor& ed, Event event, const std::string
     if (event == Event::mouse)
         endGesture(history, ed, what);
     else
-        record(history, ed, commandName(history, ed, what));
+        keepChange(history, ed, commandName(history, ed, what));
 
     const bool filed = std::exchange(history.filedCount, ed.filedCount) != ed.filedCount;
     if (filed) history.filed[ed.savedText] = history.state;
@@ -180,43 +177,33 @@ void closeStep(History& history, const Editor& ed) {
     const Going going = std::exchange(history.going, Going::nothing);
     if (going == Going::nothing) return;
     if (going == Going::drag)
-        record(history, ed, gestureName(history.shown, ed, "Node moved"));
+        keepChange(history, ed, gestureName(history.shown, ed, "Node moved"));
     else
-        record(history, ed, going == Going::run ? runName : travelName, true);
+        keepChange(history, ed, going == Going::run ? runName : travelName, true);
 }
 
 namespace {
 
-void showState(History& history, Editor& ed, const Context& context, std::uint64_t state) {
-    copyContents(ed, history.shown);
-    ed.SelectedNode = context.SelectedNode;
-    ed.SelectedLink = context.SelectedLink;
-    ed.SelectedAnimatorLink = context.SelectedAnimatorLink;
+// Takes the model over the step that is next on this way.
+void move(History& history, Editor& ed, std::deque<Step>& from, std::deque<Step>& to, Way way) {
+    if (from.empty()) return;
+    const Step& step = to.emplace_back(std::move(from.back()));
+    from.pop_back();
+    apply(step.difference, way, history.shown);
+    static_cast<Contents&>(ed) = history.shown;
+    history.context = way == Way::back ? step.before : step.after;
+    history.state = way == Way::back ? step.from : step.to;
+    ed.SelectedNode = history.context.SelectedNode;
+    ed.SelectedLink = history.context.SelectedLink;
+    ed.SelectedAnimatorLink = history.context.SelectedAnimatorLink;
     ed.HoverNode = ed.HoverLink = none;
-    ed.savedText = context.savedText;
-    history.context = context;
-    history.state = state;
+    ed.savedText = history.context.savedText;
 }
 
 }  // namespace
 
-void stepBack(History& history, Editor& ed) {
-    if (history.done.empty()) return;
-    Step step = std::move(history.done.back());
-    history.done.pop_back();
-    apply(step.difference, Way::back, history.shown);
-    showState(history, ed, step.before, step.from);
-    history.undone.push_back(std::move(step));
-}
-
-void stepForth(History& history, Editor& ed) {
-    if (history.undone.empty()) return;
-    Step step = std::move(history.undone.back());
-    history.undone.pop_back();
-    apply(step.difference, Way::forth, history.shown);
-    showState(history, ed, step.after, step.to);
-    history.done.push_back(std::move(step));
-}
+void stepBack(History& history, Editor& ed) { move(history, ed, history.done, history.undone, Way::back); }
+void stepForth(History& history, Editor& ed) { move(history, ed, history.undone, history.done, Way::forth); }
 
 bool isModified(const History& history, const Editor& ed) {
     if (history.going != Going::nothing) return true;

@@ -1,9 +1,10 @@
 #pragma once
-// The record of steps that can be undone and redone.
+// The steps that can be undone and redone. One is a change of the model; what the animation makes is a step
+// of the run (history/timeline.h).
 
 #include "history/difference.h"
+#include "model/store.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -24,13 +25,7 @@ struct Context {
 struct Size {
     std::ptrdiff_t nodes = 0, links = 0;
 };
-// Of an Editor as of Contents.
-template <class T>
-Size sizeOf(const T& it) {
-    const auto used = [](const auto& record) { return record.Used; };
-    return {std::count_if(it.Nodes.begin(), it.Nodes.end(), used),
-            std::count_if(it.Links.begin(), it.Links.end(), used)};
-}
+inline Size sizeOf(const Contents& it) { return {UsedNodes(it), UsedLinks(it)}; }
 
 struct State {
     std::uint64_t number = 0;  // see History::state

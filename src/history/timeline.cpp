@@ -106,12 +106,10 @@ void dropWhatCameAfter(Timeline& timeline) {
 }
 
 void begin(Timeline& timeline, Editor& ed) {
-    Contents first;
-    copyContents(first, ed);
     timeline.at = 0;
     timeline.edited = false;
     timeline.run = {};
-    timeline.run.first = std::make_shared<const Contents>(std::move(first));
+    timeline.run.first = std::make_shared<const Contents>(ed);
     timeline.run.seed = ed.chance.seedSource();
     timeline.run.places[timeline.state] = 0;
     keep(timeline, momentOf(timeline.run, ed, 0, true));
@@ -138,9 +136,9 @@ void stepUnseen(Editor& ed) {
 }
 
 void takeTo(const RecordedRun& run, const Moment& moment, Editor& ed) {
-    Contents contents = *run.first;
+    Contents& contents = ed;
+    contents = *run.first;
     if (moment.difference) apply(*moment.difference, Way::forth, contents);
-    copyContents(ed, contents);
     stepInputsOf(ed) = moment.inputs;
     ed.InitialVelocityPending = moment.InitialVelocityPending;
     ed.Cycles = moment.Cycles;
@@ -160,9 +158,7 @@ Editor replayTo(Timeline& timeline, std::int64_t target) {
 
 // Whether the run passes through the model as it stands.
 bool isPassed(Timeline& timeline, const Editor& ed) {
-    Contents passed;
-    copyContents(passed, replayTo(timeline, timeline.at));
-    return !differenceBetween(passed, ed);
+    return !differenceBetween(replayTo(timeline, timeline.at), ed);
 }
 
 }  // namespace
@@ -211,7 +207,7 @@ void travel(Timeline& timeline, Editor& ed, std::int64_t steps) {
     timeline.edited = false;
     timeline.at = std::clamp(timeline.at + steps, run.moments.front().step, run.last);
     const Editor replay = replayTo(timeline, timeline.at);
-    copyContents(ed, replay);
+    static_cast<Contents&>(ed) = replay;
     ed.InitialVelocityPending = replay.InitialVelocityPending;
     ed.Cycles = replay.Cycles;
 }

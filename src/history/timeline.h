@@ -8,6 +8,7 @@
 // into it, it is there again.
 
 #include "history/difference.h"
+#include "model/editor.h"
 
 #include <cstdint>
 #include <map>

@@ -1,5 +1,6 @@
 #include "library/backups.h"
 
+#include "files/read_file.h"
 #include "files/time_stamp.h"
 #include "files/write_file.h"
 #include "files/write_target.h"
@@ -73,7 +74,7 @@ bool sameContents(const fs::path& a, const fs::path& b) {
 // Where the disk knows no second names, a copy.
 std::string putVersion(const fs::path& file, const fs::path& version) {
     if (::link(file.c_str(), version.c_str()) == 0) return {};
-    const FileBytes whole = readWholeFile(file);
+    const FileBytes whole = readFile(file);
     if (!whole.problem.empty()) return whole.problem;
     if (std::string problem = writeFile(version.string(), whole.bytes); !problem.empty()) return problem;
     std::error_code error;

@@ -1,9 +1,12 @@
 #include "library/library.h"
 
 #include "basics/addresses.h"
+#include "basics/text.h"
+#include "files/path.h"
 #include "files/write_file.h"
 #include "files/write_target.h"
 #include "host/host.h"
+#include "host/questions.h"
 #include "library/backups.h"
 #include "library/open.h"
 #include "library/percent.h"
@@ -22,10 +25,6 @@ namespace zentrik {
 namespace fs = std::filesystem;
 
 namespace {
-
-void tell(Host& host, const std::string& text, BoxIcon icon = BoxIcon::exclamation) {
-    host.messageBox(text, "Zentrik", icon);
-}
 
 std::string fileText(const std::string& name) { return "zoo/" + name + ".bot"; }
 
@@ -64,18 +63,13 @@ ProjectFile readNamed(const Editor& ed, const std::string& name) {
 
 // What is no project at all leaves an empty scene.
 void takePlace(Editor& ed, Host& host, ProjectFile file) {
+    if (file.project) {
+        ++ed.filedCount;
+        return becomeModel(ed, host, *std::move(file.project));
+    }
     ClearAnimation(ed);
-    if (file.project)
-        handOver(ed, host, std::move(*file.project)), ++ed.filedCount;
-    else
-        tellProblem(host, file);
-    showCounts(ed);
-}
-
-void showNewModel(Editor& ed) {
-    NoSelections(ed);
-    redrawPhaseManager(ed, ed.AnimationTime);
-    redrawScene(ed);
+    tellProblem(host, file);
+    redrawModel(ed);
 }
 
 // How far an export by mail got.
@@ -95,12 +89,12 @@ Mail exportMail(Editor& ed, Host& host) {
 
 // Blanks around a name are hardly seen, but make another file.
 void saySaved(Editor& ed, Host& host, const std::string& name, bool isNew) {
-    const std::string core = withoutOuterBlanks(name);
+    const std::string core(trimmed(name, " "));
     panel(ed, 5) = core == name ? "Project " + name + " saved!"
                                 : "Project \"" + name + "\" saved, with the blanks around its name!";
     if (!isNew) return;
     for (const std::string& other : ed.savedNames)
-        if (other != name && withoutOuterBlanks(other) == core)
+        if (other != name && trimmed(other, " ") == core)
             return tell(host, "The project was saved as \"" + name + "\".\n\"" + other +
                                   "\", which differs in blanks only, is another project.");
 }
@@ -138,19 +132,18 @@ void LoadListOfFileNames(Editor& ed, Host& host, bool UseResume) {
 void lstSaved_Click(Editor& ed, Host& host, std::int32_t entry) {
     if (entry < 0 || !std::cmp_less(entry, ed.savedNames.size())) {
         ClearAnimation(ed);
-        return showNewModel(ed);
+        return redrawStripAndScene(ed);
     }
     const std::string name = ed.savedNames[static_cast<std::size_t>(entry)];
     ProjectFile file = readNamed(ed, name);
     if (!file.project && !file.foreign) return tellProblem(host, file);
     ed.savedText = name;
     takePlace(ed, host, std::move(file));
-    showNewModel(ed);
 }
 
 void lstSaved_Enter(Editor& ed, Host& host) {
     const std::string typed = ed.savedText;
-    const std::string name = withoutOuterBlanks(typed);
+    const std::string name(trimmed(typed, " "));
     const bool saved = SaveFile(ed, host, name);
     if (saved) ++ed.filedCount;
     if (saved && name != typed)
@@ -164,7 +157,7 @@ void saveProject(Editor& ed, Host& host) {
 }
 
 bool sampleDiffers(const Editor& ed, Host& host) {
-    const std::string name = withoutOuterBlanks(ed.savedText);
+    const std::string name(trimmed(ed.savedText, " "));
     if (!nameProblem(name).empty()) return false;
     const std::string shipped = host.shippedProject(name);
     return !shipped.empty() && readProjectFile(projectPath(ed.programFolder, name)).bytes != shipped;
@@ -172,7 +165,7 @@ bool sampleDiffers(const Editor& ed, Host& host) {
 
 void restoreSample(Editor& ed, Host& host) {
     if (!sampleDiffers(ed, host)) return;
-    const std::string name = withoutOuterBlanks(ed.savedText);
+    const std::string name(trimmed(ed.savedText, " "));
     const Stored stored = storeProject(ed, host, name, host.shippedProject(name));
     if (!stored.problem.empty()) tell(host, stored.problem);
     if (!stored.done) return;
@@ -187,8 +180,6 @@ void reloadProject(Editor& ed, Host& host) {
     ProjectFile file = readNamed(ed, ed.savedText);
     if (!file.project && !file.foreign) return tellProblem(host, file);
     takePlace(ed, host, std::move(file));
-    showClock(ed);
-    showNewModel(ed);
 }
 
 void mnuSetTitle_Click(Editor& ed, Host& host) {

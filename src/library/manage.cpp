@@ -1,7 +1,10 @@
 #include "library/manage.h"
 
+#include "basics/text.h"
+#include "files/path.h"
 #include "files/write_file.h"
 #include "host/host.h"
+#include "host/questions.h"
 #include "library/backups.h"
 #include "library/percent.h"
 #include "library/zoo.h"
@@ -22,23 +25,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* title = "Zentrik";
-
-void tell(Host& host, const std::string& text) { host.messageBox(text, title, BoxIcon::exclamation); }
-
 std::string quoted(const std::string& name) { return "\"" + name + "\""; }
-
-bool isThere(const fs::path& path) {
-    std::error_code error;
-    return fs::symlink_status(path, error).type() != fs::file_type::not_found;
-}
 
 // The project that the list's text stands for: Enter saves without the blanks around what was typed.
 std::string namedProject(const Editor& ed) {
     const std::string& text = ed.savedText;
     const bool asItStands = nameProblem(text).empty() && (isThere(projectPath(ed.programFolder, text)) ||
                                                           !formerVersions(ed.programFolder, text).empty());
-    return asItStands ? text : withoutOuterBlanks(text);
+    return asItStands ? text : std::string(trimmed(text, " "));
 }
 
 // The same when its file is there; otherwise a message box tells and there is no text.
@@ -57,8 +51,7 @@ std::string moveProject(const Editor& ed, const std::string& from, const std::st
     int failed = ::renameat2(AT_FDCWD, source.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE);
     if (failed != 0 && errno == EINVAL) failed = std::rename(source.c_str(), target.c_str());
     if (failed != 0 && errno == EEXIST) return taken;
-    if (failed != 0)
-        return quoted(from) + " could not be renamed.\n" + std::generic_category().message(errno) + ".";
+    if (failed != 0) return quoted(from) + " could not be renamed.\n" + inWords(errno);
     return syncFolder(zooFolder(ed.programFolder).string());
 }
 
@@ -84,20 +77,15 @@ std::optional<Project> chooseEarlierVersion(Editor& ed, Host& host) {
 }
 
 void showEarlierVersion(Editor& ed, Host& host, Project version) {
-    ClearAnimation(ed);
-    handOver(ed, host, std::move(version));
-    showCounts(ed);
-    showClock(ed);
-    NoSelections(ed);
-    redrawPhaseManager(ed, ed.AnimationTime);
-    redrawScene(ed);
+    becomeModel(ed, host, std::move(version));
     panel(ed, 5) = "Earlier version of " + namedProject(ed) + " opened";
 }
 
 void renameProject(Editor& ed, Host& host) {
     const std::string name = presentProject(ed, host);
     if (name.empty()) return;
-    const std::string answer = withoutOuterBlanks(host.inputBox("New name of the project.", "Rename", name));
+    const std::string typed = host.inputBox("New name of the project.", "Rename", name);
+    const std::string answer(trimmed(typed, " "));
     if (answer.empty() || answer == name) return;
     if (const std::string problem = nameProblem(answer); !problem.empty()) return tell(host, problem);
     if (const std::string problem = moveProject(ed, name, answer); !problem.empty()) tell(host, problem);

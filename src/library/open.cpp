@@ -2,9 +2,12 @@
 
 #include "basics/numbers.h"
 #include "host/host.h"
+#include "host/questions.h"
 #include "library/zoo.h"
 #include "model/rate.h"
 #include "model/readout.h"
+#include "model/redraw.h"
+#include "model/store.h"
 
 #include <utility>
 
@@ -12,23 +15,16 @@ namespace zentrik {
 
 namespace {
 
-void applyGlobal(Editor& ed, Host& host, const GlobalSettings& global) {
-    ed.Gravity = global.Gravity;
-    ed.Friction = global.Friction;
-    ed.Viscosity = global.Viscosity;
-    ed.LeftWind = global.LeftWind;
-    ed.Bounce = global.Bounce;
-    ed.TimeInterval = global.TimeInterval;
+void applyGlobal(Editor& ed, Host& host, GlobalSettings global) {
     // A period the timer cannot take leaves its period unchanged, as everywhere.
-    setRate(ed, global.timerPeriod);
-    ed.DeltaAngle = global.DeltaAngle;
+    if (!isPeriod(global.timerPeriod)) global.timerPeriod = ed.timerPeriod;
+    static_cast<ProjectSettings&>(ed) = global;
     if (ed.marks.mnuAutoWindowSize) {
         const double width = global.sceneWidth, height = global.sceneHeight;
         const bool wider = ed.sceneWidth < width, higher = ed.sceneHeight < height;
         if (wider || higher)
             host.resizeWindow(wider ? toInt(width + 100) : -1, higher ? toInt(height + 2000) : -1);
     }
-    ed.AnimationTime = global.AnimationTime;
 }
 
 }  // namespace
@@ -45,7 +41,7 @@ ProjectFile readProject(const std::filesystem::path& path, const std::string& sh
 }
 
 void tellProblem(Host& host, const ProjectFile& file) {
-    host.messageBox(file.problem, "Zentrik", file.foreign ? BoxIcon::plain : BoxIcon::exclamation);
+    tell(host, file.problem, file.foreign ? BoxIcon::plain : BoxIcon::exclamation);
 }
 
 // The window is resized while the arrays are empty, so that laying it out touches no loaded record.
@@ -57,6 +53,12 @@ void handOver(Editor& ed, Host& host, Project project) {
     for (Node& node : project.Nodes) node.SpriteIndex = spriteEntryOf(ed, node.Sprite);
     ed.Nodes = std::move(project.Nodes);
     ed.Links = std::move(project.Links);
+}
+
+void becomeModel(Editor& ed, Host& host, Project project) {
+    ClearAnimation(ed);
+    handOver(ed, host, std::move(project));
+    redrawModel(ed);
 }
 
 }  // namespace zentrik

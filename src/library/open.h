@@ -23,7 +23,10 @@ ProjectFile readProject(const std::filesystem::path& path, const std::string& sh
 
 void tellProblem(Host& host, const ProjectFile& file);
 
-// Puts a project in place of the model: title, global settings, records; and asks for a larger window if
+// Makes a project the model, with nothing selected, and shows it.
+void becomeModel(Editor& ed, Host& host, Project project);
+
+// The first part of it alone: title, global settings, records; and asks for a larger window if
 // it should have one.
 void handOver(Editor& ed, Host& host, Project project);
 

@@ -1,7 +1,9 @@
 #include "library/open_file.h"
 
+#include "files/path.h"
+#include "files/read_file.h"
 #include "files/write_file.h"
-#include "host/host.h"
+#include "host/questions.h"
 #include "library/library.h"
 #include "library/open.h"
 #include "library/zoo.h"
@@ -18,10 +20,6 @@ namespace zentrik {
 namespace fs = std::filesystem;
 
 namespace {
-
-void tell(Host& host, const std::string& text) { host.messageBox(text, "Zentrik", BoxIcon::exclamation); }
-
-fs::path pathOf(const std::string& utf8) { return fs::path(std::u8string(utf8.begin(), utf8.end())); }
 
 std::string baseName(const fs::path& path) {
     const std::string whole = pathText(path.filename());
@@ -51,16 +49,14 @@ void openFile(Editor& ed, Host& host, const std::string& path) {
     ProjectFile file = readProject(from, path);
     if (!file.project) return tellProblem(host, file);
     stopAnimation(ed);
-    ClearAnimation(ed);
-    handOver(ed, host, *std::move(file.project));
+    becomeModel(ed, host, *std::move(file.project));
     ed.savedText = nameProblem(name).empty() ? name : "project";
-    redrawModel(ed);
     panel(ed, 5) = "Saving puts it into the library as " + ed.savedText + "; opened from " + path;
 }
 
 std::string copyPicture(const Editor& ed, Host& host, const std::string& path) {
     const fs::path from = pathOf(path), sprites = pathOf(ed.programFolder) / "sprites";
-    const FileBytes picture = readWholeFile(from);
+    const FileBytes picture = readFile(from);
     if (!picture.problem.empty()) {
         tell(host, path + " could not be read.\n" + picture.problem);
         return {};
@@ -71,7 +67,7 @@ std::string copyPicture(const Editor& ed, Host& host, const std::string& path) {
     for (int copy = 1;; ++copy) {
         const std::string name = stem + (copy == 1 ? "" : " " + std::to_string(copy)) + extension;
         const fs::path target = sprites / pathOf(name);
-        const FileBytes present = readWholeFile(target);
+        const FileBytes present = readFile(target);
         if (present.problem.empty() && present.bytes == picture.bytes) return name;
         if (fs::exists(fs::symlink_status(target, error))) continue;
         const std::string problem = writeFile(pathText(target), picture.bytes);

@@ -2,8 +2,6 @@
 
 #include "library/open.h"
 #include "library/zoo.h"
-#include "model/redraw.h"
-#include "model/store.h"
 #include "project/forms.h"
 #include "project/writer.h"
 
@@ -38,10 +36,8 @@ std::optional<RecoveryCopy> readRecoveryCopy(const std::filesystem::path& path) 
 }
 
 void restore(Editor& ed, Host& host, RecoveryCopy copy) {
-    ClearAnimation(ed);
-    handOver(ed, host, std::move(copy.project));
+    becomeModel(ed, host, std::move(copy.project));
     ed.savedText = std::move(copy.name);
-    redrawModel(ed);
     panel(ed, 5) = "Project " + ed.savedText + " recovered!";
 }
 

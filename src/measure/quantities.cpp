@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace zentrik {
 
@@ -58,17 +57,6 @@ double gravityEnergy(const Editor& ed) {
     const auto floor = static_cast<double>(boundsOf(ed).floor);
     forEachFreeNode(ed, [&](const Node& node) { sum += node.Mass * g * (floor - node.Y); });
     return sum;
-}
-
-Extent extentOf(const Editor& ed) {
-    Extent extent;
-    bool first = true;
-    forEachNode(ed, [&](std::int32_t, const Node& node) {
-        if (std::exchange(first, false)) extent = {node.X, node.Y, node.X, node.Y};
-        extent.left = std::min(extent.left, node.X), extent.right = std::max(extent.right, node.X);
-        extent.top = std::min(extent.top, node.Y), extent.bottom = std::max(extent.bottom, node.Y);
-    });
-    return extent;
 }
 
 double greatestSpeed(const Editor& ed) {

@@ -22,12 +22,6 @@ double springEnergy(const Editor& ed);
 // come to rest on the floor. What nodes attract each other with is not in it.
 double gravityEnergy(const Editor& ed);
 
-// The rectangle around all used nodes' centres; all 0 where there is none.
-struct Extent {
-    std::int32_t left = 0, top = 0, right = 0, bottom = 0;
-};
-Extent extentOf(const Editor& ed);
-
 // Of the fastest free node, twips a time unit.
 double greatestSpeed(const Editor& ed);
 

@@ -1,6 +1,7 @@
 #include "measure/run_measures.h"
 
 #include "basics/no_doubles.h"
+#include "model/extent.h"
 #include "model/store.h"
 
 #include <algorithm>
@@ -35,13 +36,9 @@ constexpr Measure table[] = {
     {"y", "twips", "where the centre of mass is at the end, downwards", false,
      [](const RunWatch&, const Editor& ed) { return centreOfMass(ed).y; }},
     {"width", "twips", "extent of all nodes at the end, across", false,
-     [](const RunWatch&, const Editor& ed) {
-         return static_cast<double>(extentOf(ed).right) - extentOf(ed).left;
-     }},
+     [](const RunWatch&, const Editor& ed) { return extentOf(ed.Nodes).width(); }},
     {"tallness", "twips", "extent of all nodes at the end, upwards", false,
-     [](const RunWatch&, const Editor& ed) {
-         return static_cast<double>(extentOf(ed).bottom) - extentOf(ed).top;
-     }},
+     [](const RunWatch&, const Editor& ed) { return extentOf(ed.Nodes).height(); }},
     {"steps", "", "steps made; fewer than asked for where the model could not go on", false,
      [](const RunWatch& w, const Editor&) { return static_cast<double>(w.steps); }},
 };

@@ -2,7 +2,7 @@
 // The whole state of the program in one record. Procedures change it, the window shows it.
 
 #include "basics/chance.h"
-#include "model/records.h"
+#include "model/contents.h"
 
 #include <array>
 #include <cstdint>
@@ -46,8 +46,8 @@ struct Tips {
 
 struct Timer {
     bool enabled = false;
-    std::int32_t interval = 0;  // milliseconds
 };
+inline constexpr std::int32_t fireworksPeriod = 500;  // milliseconds
 
 struct PointF {
     float x = 0, y = 0;  // twips
@@ -57,7 +57,7 @@ struct PointF {
 
 struct PathDot {
     std::int32_t x = 0, y = 0;  // twips of the path window, half the scene's
-    std::int32_t color = 0;
+    std::int32_t colour = 0;
 };
 
 struct Rect {
@@ -69,16 +69,12 @@ struct Layout {
     Rect picS, picPhase, Frame1, HScroll1;
 };
 
-struct Editor {
-    // The model and the snapshot that "Reset To Last Start" restores.
-    std::vector<Node> Nodes = std::vector<Node>(1), SavedNodes = std::vector<Node>(1);
-    std::vector<Link> Links = std::vector<Link>(1), SavedLinks = std::vector<Link>(1);
-    std::string ProjectTitle;
+struct Editor : Contents {
+    // The snapshot that "Reset To Last Start" restores.
+    std::vector<Node> SavedNodes = std::vector<Node>(1);
+    std::vector<Link> SavedLinks = std::vector<Link>(1);
 
-    // Global settings.
-    float Gravity = 1, Friction = 0.2F, Viscosity = 0, LeftWind = 0, Bounce = 0.5F;
-    float TimeInterval = 20;                       // step in thousandths of a time unit
-    float DeltaAngle = 0.1F;                       // animator speed, radians per time unit
+    // Global settings that no project carries.
     std::int32_t NodeRadius = 60, HitRadius = 90;  // twips
     float DefaultLinkK = 5, DefaultLinkForce = 0.2F;
     float GridSize = 250, GridRadius = 15;  // twips
@@ -88,11 +84,9 @@ struct Editor {
     std::string StructureParm = "20:1000";  // nodes:radius
 
     // Run state.
-    float AnimationTime = 0;
-    std::int32_t TimeDirection = 1;
     std::int32_t Cycles = 0, LastShooter = 0, FireworksTicks = 0;
     bool SingleStep = false, InitialVelocityPending = false;
-    Timer Timer1{false, 20}, timerFireWorks{false, 500};
+    Timer Timer1, timerFireWorks;  // of the animation, and of the fireworks
     Chance chance;
 
     // Selection and mouse editing; -1 means none.

@@ -33,7 +33,7 @@ std::string brokenRule(const Editor& ed) {
         if (!validSelection(selection)) return "a selection is " + std::to_string(selection);
     if (ed.spriteNames.empty() || ed.spriteNames[0] != noSprite)
         return "the sprite list lacks its first entry";
-    if (ed.Timer1.interval < 1 || ed.timerFireWorks.interval < 1) return "a timer has no period";
+    if (ed.timerPeriod < 1) return "the timer has no period";
     return brokenNode(ed);
 }
 

@@ -13,7 +13,7 @@ inline bool isPeriod(std::int32_t milliseconds) {
 // Changes the animation timer's period; refuses one it does not accept and leaves the old one.
 inline bool setRate(Editor& ed, std::int32_t milliseconds) {
     if (!isPeriod(milliseconds)) return false;
-    ed.Timer1.interval = milliseconds;
+    ed.timerPeriod = milliseconds;
     return true;
 }
 

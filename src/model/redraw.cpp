@@ -3,6 +3,7 @@
 #include "basics/angles.h"
 #include "basics/numbers.h"
 #include "model/grid.h"
+#include "model/phase_axis.h"
 #include "model/readout.h"
 #include "model/shooter_aim.h"
 #include "model/store.h"
@@ -52,9 +53,9 @@ void DrawPhaseManager(Editor& ed, float time) {
     const double width = ed.phaseWidth;
     forEachLink(ed, [&](std::int32_t, Link& link) {
         if (!link.Animator) return;
-        link.DiscX = toInt(link.Angle * 0.8 * width / 360 + 0.1 * width);
+        link.DiscX = toInt(link.Angle * phaseAxisLength * width / 360 + phaseAxisLeft * width);
         auto& height = stack[static_cast<std::size_t>(std::clamp(toInt(link.Angle), 0, 360))];
-        link.DiscY = height * 200 + 300;
+        link.DiscY = height * nextDisc + firstDisc;
         ++height;
     });
     ed.phaseShift = toReal(static_cast<double>(ed.DeltaAngle) * time);

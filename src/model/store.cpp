@@ -10,8 +10,6 @@ namespace zentrik {
 
 namespace {
 
-std::string number(std::int32_t value) { return std::to_string(value); }
-
 template <class Record>
 std::int32_t countUsed(const std::vector<Record>& records) {
     const auto used =
@@ -88,8 +86,8 @@ void DeleteNode(Editor& ed) {
     ed.HoverNode = none;
 }
 
-std::int32_t UsedNodes(const Editor& ed) { return countUsed(ed.Nodes); }
-std::int32_t UsedLinks(const Editor& ed) { return countUsed(ed.Links); }
+std::int32_t UsedNodes(const Contents& contents) { return countUsed(contents.Nodes); }
+std::int32_t UsedLinks(const Contents& contents) { return countUsed(contents.Links); }
 
 void NoSelections(Editor& ed) {
     ed.HoverNode = none;
@@ -99,8 +97,8 @@ void NoSelections(Editor& ed) {
 }
 
 void showCounts(Editor& ed) {
-    panel(ed, 1) = "Nodes: " + number(UsedNodes(ed));
-    panel(ed, 2) = "Links: " + number(UsedLinks(ed));
+    panel(ed, 1) = "Nodes: " + std::to_string(UsedNodes(ed));
+    panel(ed, 2) = "Links: " + std::to_string(UsedLinks(ed));
 }
 
 void ClearAnimation(Editor& ed) {

@@ -20,10 +20,10 @@ inline bool linkExists(const Editor& ed, std::int32_t i) { return i >= 1 && i <=
 
 // The selected record, or null when nothing is selected or the selection outlived its slot (compaction
 // leaves selections as they are).
-inline Node* selectedNode(Editor& ed) {
+auto* selectedNode(RecordLike<Editor> auto& ed) {
     return nodeExists(ed, ed.SelectedNode) ? &nodeAt(ed, ed.SelectedNode) : nullptr;
 }
-inline Link* selectedLink(Editor& ed) {
+auto* selectedLink(RecordLike<Editor> auto& ed) {
     return linkExists(ed, ed.SelectedLink) ? &linkAt(ed, ed.SelectedLink) : nullptr;
 }
 
@@ -76,8 +76,8 @@ void CreateLink(Editor& ed);
 void DeleteLink(Editor& ed);
 void DeleteNode(Editor& ed);
 
-std::int32_t UsedNodes(const Editor& ed);
-std::int32_t UsedLinks(const Editor& ed);
+std::int32_t UsedNodes(const Contents& contents);
+std::int32_t UsedLinks(const Contents& contents);
 
 void NoSelections(Editor& ed);
 // Empties the model and the path window; the clock and the cycle counter go on. Draws nothing.

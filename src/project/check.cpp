@@ -9,12 +9,9 @@ namespace zentrik {
 namespace {
 
 // The number a column has in its line.
-template <class Record, std::size_t count, class Member>
-std::size_t fieldOf(const Column<Record> (&columns)[count], Member Record::*member) {
-    const auto isIt = [&](const Column<Record>& column) {
-        const auto* held = std::get_if<Member Record::*>(&column.member);
-        return held != nullptr && *held == member;
-    };
+template <class Record, std::size_t count>
+std::size_t fieldOf(const Column<Record> (&columns)[count], std::type_identity_t<Member<Record>> member) {
+    const auto isIt = [&](const Column<Record>& column) { return column.member == member; };
     return static_cast<std::size_t>(std::find_if(columns, columns + count, isIt) - columns) + 2;
 }
 

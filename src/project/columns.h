@@ -4,7 +4,7 @@
 // real or a text.
 
 #include "basics/no_doubles.h"
-#include "model/records.h"
+#include "model/contents.h"
 
 #include <cstdint>
 #include <string>
@@ -18,24 +18,23 @@ inline constexpr std::string_view fieldSeparator = " : ";
 inline constexpr std::string_view lineEnd = "\r\n";
 
 template <class Record>
+using Member = std::variant<bool Record::*, std::int32_t Record::*, float Record::*, std::string Record::*>;
+
+template <class Record>
 struct Column {
     std::string_view name;
-    std::variant<bool Record::*, std::int32_t Record::*, float Record::*, std::string Record::*> member;
+    Member<Record> member;
     std::string_view afterName = fieldSeparator;  // in the comment line
+    bool newer = false;  // older files end before it: what the record has by itself stands for it
 };
 
 // What is wrong with a field, in the order of the variant above.
 inline constexpr std::string_view formProblems[] = {"neither True nor False", "not a whole number",
                                                     "not a number", "not a text"};
 
-// What the global line holds beside the model.
-struct GlobalSettings {
-    float Gravity = 0, Friction = 0, Viscosity = 0, LeftWind = 0, Bounce = 0;
-    float TimeInterval = 0;
-    std::int32_t timerPeriod = 0;  // milliseconds
-    float DeltaAngle = 0;
+// What the global line holds: the settings, and the size of the scene that they were made for.
+struct GlobalSettings : ProjectSettings {
     float sceneWidth = 0, sceneHeight = 0;  // twips
-    float AnimationTime = 0;
 };
 
 // The first field of every line, its slot number or "Global Settings", has no column.
@@ -103,6 +102,14 @@ inline constexpr Column<Node> nodeColumns[] = {
     {"Res8", &Node::Res8, ""},
 };
 inline constexpr std::string_view nodeCommentStart = "; i ; ";
+
+template <class Record, std::size_t count>
+constexpr bool newerAreLast(const Column<Record> (&columns)[count]) {
+    for (std::size_t i = 1; i < count; ++i)
+        if (columns[i - 1].newer && !columns[i].newer) return false;
+    return true;
+}
+static_assert(newerAreLast(globalColumns) && newerAreLast(linkColumns) && newerAreLast(nodeColumns));
 
 constexpr auto columnName = [](const auto& column) { return std::string_view(column.name); };
 static_assert(!anyShared(globalColumns, columnName) && !anyShared(linkColumns, columnName) &&

@@ -1,6 +1,7 @@
 #include "project/forms.h"
 
 #include "basics/numbers.h"
+#include "basics/text.h"
 #include "project/columns.h"
 
 #include <algorithm>
@@ -12,22 +13,6 @@
 namespace zentrik {
 
 namespace {
-
-bool isBlank(char c) { return c == ' ' || c == '\t'; }
-
-std::string_view trimmed(std::string_view field) {
-    while (!field.empty() && isBlank(field.front())) field.remove_prefix(1);
-    while (!field.empty() && isBlank(field.back())) field.remove_suffix(1);
-    return field;
-}
-
-// True when the whole text is one number of the value's type.
-template <class Number>
-bool readWhole(std::string_view text, Number& value) {
-    const char* end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, value);
-    return result.ec == std::errc{} && result.ptr == end;
-}
 
 // For what the direct way does not take: a plus sign, blanks, decimals, magnitudes beyond the type.
 bool readSlowly(std::string_view text, double& value) {
@@ -54,10 +39,8 @@ bool readForm(std::string_view field, bool& value) {
     }
     const std::string_view word = trimmed(field);
     double number = 0;
-    if (word.size() == 4 && beginsIgnoringCase(word, "true"))
-        value = true;
-    else if (word.size() == 5 && beginsIgnoringCase(word, "false"))
-        value = false;
+    if (const std::string lower = lowerCase(word); lower == "true" || lower == "false")
+        value = lower == "true";
     else if (readSlowly(word, number))
         value = number != 0;
     else
@@ -66,9 +49,8 @@ bool readForm(std::string_view field, bool& value) {
 }
 
 bool readForm(std::string_view field, std::int32_t& value) {
-    std::int32_t whole = 0;
-    if (readWhole(field, whole)) {
-        value = whole;
+    if (const auto whole = readAll<std::int32_t>(field)) {
+        value = *whole;
         return true;
     }
     double number = 0;
@@ -81,8 +63,8 @@ bool readForm(std::string_view field, std::int32_t& value) {
 }
 
 bool readForm(std::string_view field, float& value) {
-    float real = 0;
-    if (!readWhole(field, real) || !std::isfinite(real)) {
+    float real = readAll<float>(field).value_or(NAN);
+    if (!std::isfinite(real)) {
         double number = 0;
         if (!readSlowly(field, number)) return false;
         if (std::fabs(number) > static_cast<double>(std::numeric_limits<float>::max())) return false;
@@ -122,10 +104,12 @@ void appendForm(std::string& out, const std::string& value) {
     out.append(text, 0, end);
 }
 
-bool beginsIgnoringCase(std::string_view text, std::string_view lower) {
-    if (text.size() < lower.size()) return false;
-    const auto same = [](char wanted, char c) { return wanted == lowered(c); };
-    return std::equal(lower.begin(), lower.end(), text.begin(), same);
+// The front of a field as it can be shown to a person.
+std::string excerpt(std::string_view field) {
+    std::string text(field.substr(0, 40));
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 32 || c == 127; };
+    std::replace_if(text.begin(), text.end(), isControl, '?');
+    return field.size() > 40 ? text + "..." : text;
 }
 
 std::string oneLine(std::string text) {

@@ -23,8 +23,8 @@ void appendForm(std::string& out, float value);
 // semicolon and a break becomes a blank.
 void appendForm(std::string& out, const std::string& value);
 
-inline char lowered(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
-bool beginsIgnoringCase(std::string_view text, std::string_view lower);
+// The front of a field as it can be shown to a person.
+std::string excerpt(std::string_view field);
 
 // The text on one line: every line break becomes a blank.
 std::string oneLine(std::string text);

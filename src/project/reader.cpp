@@ -1,6 +1,7 @@
 #include "project/reader.h"
 
-#include "project/forms.h"
+#include "basics/text.h"
+#include "project/read_columns.h"
 
 #include <algorithm>
 
@@ -28,65 +29,6 @@ private:
     std::string_view rest;
 };
 
-class Fields {
-public:
-    explicit Fields(std::string_view line) : at(line.data()), end(line.data() + line.size()) {}
-
-    bool next(std::string_view& field) {
-        if (!at) return false;
-        // Fields are a few characters long: looking at each beats calling a search.
-        for (const char* c = at; end - c >= 3; ++c) {
-            if (c[1] != ':' || c[0] != ' ' || c[2] != ' ') continue;
-            field = {at, static_cast<std::size_t>(c - at)};
-            at = c + 3;
-            return true;
-        }
-        field = {at, static_cast<std::size_t>(end - at)};
-        at = nullptr;
-        return true;
-    }
-
-private:
-    const char* at;  // null after the last field
-    const char* end;
-};
-
-// The front of a field as it can be shown to a person.
-std::string excerpt(std::string_view field) {
-    std::string text(field.substr(0, 40));
-    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 32 || c == 127; };
-    std::replace_if(text.begin(), text.end(), isControl, '?');
-    return field.size() > 40 ? text + "..." : text;
-}
-
-enum class Wanted { firstProblem, allProblems };
-
-// Fills a record from a line.
-template <class Record, std::size_t count>
-ReadProblems readColumns(std::string_view line, const Column<Record> (&columns)[count], Record& record,
-                         Wanted wanted) {
-    ReadProblems problems;
-    Fields fields(line);
-    std::string_view field;
-    fields.next(field);  // the slot number plays no part
-    for (std::size_t i = 0; i < count; ++i) {
-        const auto& column = columns[i];
-        const auto note = [&](const std::string& what) {
-            const std::string name = std::to_string(i + 2) + " (" + std::string(column.name) + ")";
-            problems.push_back({0, "field " + name + " is " + what, i + 2});
-        };
-        if (!fields.next(field)) {
-            note("missing.");
-            break;
-        }
-        const auto read = [&](auto member) { return readForm(field, record.*member); };
-        if (std::visit(read, column.member)) continue;
-        note(std::string(formProblems[column.member.index()]) + ": " + excerpt(field));
-        if (wanted == Wanted::firstProblem) break;
-    }
-    return problems;
-}
-
 template <class Record, std::size_t count>
 ReadProblems readRecord(std::string_view line, const Column<Record> (&columns)[count],
                         std::vector<Record>& records, Wanted wanted) {
@@ -101,6 +43,10 @@ ReadProblems readRecord(std::string_view line, const Column<Record> (&columns)[c
 }
 
 enum class Section { none, links, nodes };
+
+bool beginsIgnoringCase(std::string_view text, std::string_view lower) {
+    return lowerCase(text.substr(0, lower.size())) == lower;
+}
 
 // The rules in their order; the first that fits counts.
 ReadProblems readLine(std::string_view line, std::size_t number, Section& section, LenientReading& to,

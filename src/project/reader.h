@@ -2,6 +2,7 @@
 // From the bytes of a project file to a project.
 
 #include "project/columns.h"
+#include "project/read_problem.h"
 
 #include <optional>
 #include <string>
@@ -16,14 +17,6 @@ struct Project {
     std::vector<Link> Links = std::vector<Link>(1);
     std::vector<Node> Nodes = std::vector<Node>(1);  // SpriteIndex not looked up
 };
-
-// What is wrong with a file.
-struct ReadProblem {
-    std::size_t line = 0;  // counted from 1; 0 = the file as a whole
-    std::string text;
-    std::size_t field = 0;  // of the line, counted from 1; 0 = the line as a whole
-};
-using ReadProblems = std::vector<ReadProblem>;
 
 struct Reading {
     std::optional<Project> project;  // none with a problem

@@ -29,22 +29,6 @@ void appendSection(std::string& out, std::string_view name, std::string_view com
     }
 }
 
-GlobalSettings globalSettings(const Editor& ed) {
-    GlobalSettings global;
-    global.Gravity = ed.Gravity;
-    global.Friction = ed.Friction;
-    global.Viscosity = ed.Viscosity;
-    global.LeftWind = ed.LeftWind;
-    global.Bounce = ed.Bounce;
-    global.TimeInterval = ed.TimeInterval;
-    global.timerPeriod = ed.Timer1.interval;
-    global.DeltaAngle = ed.DeltaAngle;
-    global.sceneWidth = static_cast<float>(ed.sceneWidth);
-    global.sceneHeight = static_cast<float>(ed.sceneHeight);
-    global.AnimationTime = ed.AnimationTime;
-    return global;
-}
-
 }  // namespace
 
 std::string projectBytes(const Editor& ed) {
@@ -54,7 +38,8 @@ std::string projectBytes(const Editor& ed) {
     out.append(oneLine(ed.ProjectTitle)).append(lineEnd);
     out.append(globalComment).append(lineEnd);
     out += "Global Settings";
-    appendFields(out, globalColumns, globalSettings(ed));
+    appendFields(out, globalColumns,
+                 GlobalSettings{ed, static_cast<float>(ed.sceneWidth), static_cast<float>(ed.sceneHeight)});
     appendSection(out, "Links", linkCommentStart, linkColumns, ed.Links);
     appendSection(out, "Nodes", nodeCommentStart, nodeColumns, ed.Nodes);
     return out;

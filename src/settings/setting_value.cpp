@@ -3,7 +3,6 @@
 #include "settings/settings_text.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstdint>
 
@@ -11,17 +10,9 @@ namespace zentrik {
 
 namespace {
 
-constexpr std::array<std::pair<char, char>, 11> escapes{{{'a', '\a'},
-                                                         {'b', '\b'},
-                                                         {'f', '\f'},
-                                                         {'n', '\n'},
-                                                         {'r', '\r'},
-                                                         {'t', '\t'},
-                                                         {'v', '\v'},
-                                                         {'"', '"'},
-                                                         {'?', '?'},
-                                                         {'\'', '\''},
-                                                         {'\\', '\\'}}};
+// A letter behind a backslash, and what it stands for.
+constexpr std::string_view escapes = "abfnrtv\"?'\\", escaped = "\a\b\f\n\r\t\v\"?'\\";
+static_assert(escapes.size() == escaped.size());
 
 bool isHexDigit(char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
 
@@ -43,8 +34,8 @@ void unescape(std::string& out, std::string_view& value) {
     if (value.empty()) return;
     const char kind = value.front();
     value.remove_prefix(1);
-    for (const auto& [letter, c] : escapes)
-        if (letter == kind) return out.push_back(c);
+    if (const std::size_t at = escapes.find(kind); at != std::string_view::npos)
+        return out.push_back(escaped[at]);
     const bool octal = kind >= '0' && kind <= '7';
     if (kind != 'x' && !octal) return;
     const char* from = value.data() - (octal ? 1 : 0);

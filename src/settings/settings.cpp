@@ -1,93 +1,16 @@
 #include "settings/settings.h"
 
-#include "basics/no_doubles.h"
 #include "basics/numbers.h"
-#include "model/rate.h"
 #include "project/forms.h"
 #include "settings/first_run.h"
+#include "settings/setting_rows.h"
 #include "ui/commands/options.h"
 
 #include <string_view>
-#include <variant>
 
 namespace zentrik {
 
 namespace {
-
-// Stands for the animation timer's period, which a project may refuse.
-struct TimerPeriod {
-    bool operator==(const TimerPeriod&) const = default;
-};
-
-using Slot = std::variant<float Placement::*, bool Marks::*, bool Buttons::*, float Editor::*,
-                          std::int32_t Editor::*, std::string Editor::*, TimerPeriod>;
-
-struct SettingRow {
-    const char* key;
-    Slot slot;
-};
-
-// clang-format off
-constexpr SettingRow rows[] = {
-    {"MainLeft", &Placement::left},
-    {"MainTop", &Placement::top},
-    {"MainWidth", &Placement::width},
-    {"MainHeight", &Placement::height},
-    {"UseDirectional", &Marks::mnuUseDirectional},
-    {"IgnoreBarriers", &Marks::mnuIgnoreBarriers},
-    {"ReverseModel", &Marks::mnuReverseModel},
-    {"Persistent", &Marks::mnuPersistentFireworks},
-    {"CannonBall", &Marks::mnuCannonBallFocus},
-    {"Walls", &Marks::mnuWalls},
-    {"Ceiling", &Marks::mnuCeiling},
-    {"Fireworks", &Marks::mnuDisplayFireWorks},
-    {"UseRandom", &Marks::mnuUseRandom},
-    {"Random", &Marks::mnuRandom},
-    {"AutoResume", &Marks::mnuAutoResume},
-    {"DisplayTitle", &Marks::mnuDisplayTitle},
-    {"AllowZero", &Marks::mnuAllowZero},
-    {"AllowGrid", &Marks::mnuAllowGrid},
-    {"AllowSprites", &Marks::mnuAllowSprites},
-    {"DisplayBrowser", &Marks::mnuDisplayBrowser},
-    {"ApplyChanges", &Marks::mnuApplyChanges},
-    {"DisplayManager", &Marks::mnuDisplayAngleManager},
-    {"AutoWindow", &Marks::mnuAutoWindowSize},
-    {"NodeRadius", &Editor::NodeRadius},
-    {"DefaultLinkK", &Editor::DefaultLinkK},
-    {"DefaultLinkForce", &Editor::DefaultLinkForce},
-    {"StructureParm", &Editor::StructureParm},
-    {"Friction", &Editor::Friction},
-    {"Viscosity", &Editor::Viscosity},
-    {"LeftWind", &Editor::LeftWind},
-    {"TimeInterval", &Editor::TimeInterval},
-    {"Gravity", &Editor::Gravity},
-    {"Bounce", &Editor::Bounce},
-    {"Speed", TimerPeriod{}},
-    {"DeltaAngle", &Editor::DeltaAngle},
-    {"LinkColor", &Editor::LinkColor},
-    {"NodeColor", &Editor::NodeColor},
-    {"GridSize", &Editor::GridSize},
-    {"GridRadius", &Editor::GridRadius},
-    {"ShooterDirection", &Editor::ShooterDirection},
-    {"ShooterVelocity", &Editor::ShooterVelocity},
-    {"BackColor", &Editor::BackColor},
-    {"Line", &Buttons::line},
-    {"Ball", &Buttons::ball},
-    {"Slow", &Buttons::slow},
-    {"Draw", &Buttons::draw},
-    {"Same", &Buttons::same},
-    {"Animation", &Buttons::animation},
-    {"DisplayData", &Buttons::data},
-    {"SnapToGrid", &Buttons::snap},
-    {"DisplayGrid", &Buttons::grid},
-    {"PrintNumbers", &Buttons::numbers},
-    {"SimpleNumbers", &Buttons::simple},
-    {"Sprite", &Buttons::sprite},
-};
-// clang-format on
-static_assert(std::size(rows) == 54 &&
-              !anyShared(rows, [](const SettingRow& row) { return std::string_view(row.key); }) &&
-              !anyShared(rows, [](const SettingRow& row) { return row.slot; }));
 
 // Stand beside the table: whether the window comes back maximised, and where pictures are saved.
 constexpr const char* maximizedKey = "Maximized";
@@ -105,7 +28,6 @@ struct Place {
     auto& operator()(float Editor::*m) const { return ed.*m; }
     auto& operator()(std::int32_t Editor::*m) const { return ed.*m; }
     auto& operator()(std::string Editor::*m) const { return ed.*m; }
-    auto& operator()(TimerPeriod) const { return ed.Timer1.interval; }
 };
 
 bool convert(const SettingRow& row, const std::string& text, Editor& ed, Placement& placement) {
@@ -121,16 +43,6 @@ void takeFirst(const SettingRow& row, Editor& ed, Placement& placement) {
     std::visit([&](auto slot) { place(slot) = from(slot); }, row.slot);
 }
 
-bool isAcceptable(const SettingRow& row, const Editor& ed) {
-    if (std::holds_alternative<TimerPeriod>(row.slot)) return isPeriod(ed.Timer1.interval);
-    if (const auto* real = std::get_if<float Editor::*>(&row.slot); real && *real == &Editor::GridSize)
-        return ed.GridSize > 49;
-    if (const auto* whole = std::get_if<std::int32_t Editor::*>(&row.slot);
-        whole && *whole == &Editor::NodeRadius)
-        return ed.NodeRadius >= smallestRadius;
-    return true;
-}
-
 std::string textOf(const SettingRow& row, const Editor& ed, const Placement& placement) {
     if (const auto* button = std::get_if<bool Buttons::*>(&row.slot)) return ed.buttons.**button ? "1" : "0";
     if (const auto* text = std::get_if<std::string Editor::*>(&row.slot)) return ed.**text;
@@ -143,9 +55,9 @@ std::string textOf(const SettingRow& row, const Editor& ed, const Placement& pla
 }  // namespace
 
 void getSettings(Editor& ed, Placement& placement, SettingsStore& store) {
-    for (const SettingRow& row : rows) {
-        const std::optional<std::string> text = store.read(row.key);
-        if (!text || !convert(row, *text, ed, placement) || !isAcceptable(row, ed))
+    for (const SettingRow& row : settingRows()) {
+        const std::optional<std::string> text = store.read(std::string(row.key));
+        if (!text || !convert(row, *text, ed, placement) || (row.accepts && !row.accepts(ed)))
             takeFirst(row, ed, placement);
     }
     ed.windowMaximized = store.read(maximizedKey) == "True";
@@ -155,10 +67,10 @@ void getSettings(Editor& ed, Placement& placement, SettingsStore& store) {
 }
 
 void saveSettings(const Editor& ed, const std::optional<Placement>& placement, SettingsStore& store) {
-    for (const SettingRow& row : rows) {
+    for (const SettingRow& row : settingRows()) {
         const bool ofWindow = std::holds_alternative<float Placement::*>(row.slot);
         if (ofWindow && !placement) continue;
-        store.write(row.key, textOf(row, ed, placement.value_or(Placement{})));
+        store.write(std::string(row.key), textOf(row, ed, placement.value_or(Placement{})));
     }
     store.write(maximizedKey, booleanText(ed.windowMaximized));
     if (!ed.shareFolder.empty()) store.write(shareFolderKey, ed.shareFolder);

@@ -1,18 +1,12 @@
 #pragma once
 // What the program remembers from one run to the next, as one table of keys.
 
-#include "model/editor.h"
+#include "settings/setting_rows.h"
 
 #include <optional>
-#include <span>
 #include <string>
 
 namespace zentrik {
-
-// The main window's place and size, twips.
-struct Placement {
-    float left = 1200, top = 1200, width = 13500, height = 5000;
-};
 
 // Text values by key.
 class SettingsStore {

@@ -1,5 +1,7 @@
 #include "settings/settings_text.h"
 
+#include "basics/text.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -9,12 +11,7 @@ namespace {
 
 constexpr std::string_view ourSection = "Settings";
 
-std::string_view trimmed(std::string_view text) {
-    const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r'; };
-    while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-    return text;
-}
+std::string_view withoutBlanks(std::string_view text) { return trimmed(text, " \t\r"); }
 
 }  // namespace
 
@@ -28,7 +25,7 @@ SettingsText::SettingsText(std::string_view bytes) {
 }
 
 void SettingsText::add(std::string_view line, std::string& section) {
-    line = trimmed(line);
+    line = withoutBlanks(line);
     const std::size_t equals = line.find('=');
     const bool isComment = line.empty() || line.front() == ';';
     const bool isSection = !isComment && line.front() == '[' && line.back() == ']';
@@ -37,9 +34,9 @@ void SettingsText::add(std::string_view line, std::string& section) {
         damaged_ = true;
         return;
     }
-    if (isSection) section = trimmed(line.substr(1, line.size() - 2));
+    if (isSection) section = withoutBlanks(line.substr(1, line.size() - 2));
     lines_.push_back(
-        {std::string(line), section, isSetting ? std::string(trimmed(line.substr(0, equals))) : ""});
+        {std::string(line), section, isSetting ? std::string(withoutBlanks(line.substr(0, equals))) : ""});
 }
 
 // The last line of a key counts.

@@ -22,15 +22,8 @@ struct Pulls {
 
 ZENTRIK_WIDE_LOOP void subtract(const Attractor& a, const NodeLanes& lanes, Pulls& pulls) {
     for (std::size_t m = 0; m < lanes.count; ++m) {
-        pulls.dx[m] = lanes.x.place[m] - a.x;
-        pulls.dy[m] = lanes.y.place[m] - a.y;
-    }
-}
-
-ZENTRIK_WIDE_LOOP void roundDifferences(std::size_t count, Pulls& pulls) {
-    for (std::size_t m = 0; m < count; ++m) {
-        pulls.dx[m] = wide(real(pulls.dx[m]));
-        pulls.dy[m] = wide(real(pulls.dy[m]));
+        pulls.dx[m] = wide(real(lanes.x.place[m] - a.x));
+        pulls.dy[m] = wide(real(lanes.y.place[m] - a.y));
     }
 }
 
@@ -104,7 +97,7 @@ bool strongEnough(const Attractor& a) { return std::fabs(a.gravity) > 1e-16; }
 
 Attractor attractorOf(std::int32_t i, const Node& node) {
     const double gravity = node.Used ? wide(node.Gravity) : 0;
-    return {i, double(node.X), double(node.Y), gravity, isSmall(node.X, node.Y)};
+    return {i, double(node.X), double(node.Y), gravity};
 }
 
 }  // namespace
@@ -135,7 +128,6 @@ void Attraction::pull(NodeLanes& lanes) const {
     Pulls pulls;
     for (const Attractor& a : attractors_) {
         subtract(a, lanes, pulls);
-        if (!lanes.small || !a.small) roundDifferences(lanes.count, pulls);
         measure(lanes.count, pulls);
         if (!strongEnough(a) || !findPullsFast(a, lanes.count, pulls)) findPulls(a, lanes.count, pulls);
         addPulls(lanes, pulls);

@@ -26,7 +26,6 @@ public:
     struct Attractor {
         std::int32_t number;
         double x, y, gravity;
-        bool small;
     };
 
 private:

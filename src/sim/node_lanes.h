@@ -18,7 +18,6 @@ struct NodeLanes {
     };
 
     std::size_t count = 0;
-    bool small = false;  // all places are: see isSmall
     Axis x, y;
 };
 
@@ -35,10 +34,5 @@ private:
     static constexpr std::uint32_t limit = 1U << 23;
     std::uint32_t seen_ = 0;
 };
-inline bool isSmall(std::int32_t x, std::int32_t y) {
-    PlaceSpread spread;
-    spread.add(x, y);
-    return spread.isSmall();
-}
 
 }  // namespace zentrik

@@ -96,11 +96,9 @@ std::int32_t NodeStage::gatherRun(std::int32_t from) {
 void NodeStage::attract() {
     static_assert(NodeRun::size <= NodeLanes::size);
     NodeLanes lanes;
-    lanes.small = true;
     lanes.count = run_.count;
     for (std::size_t m = 0; m < run_.count; ++m) {
         const std::size_t x = 2 * m, y = x + 1;
-        if (!isSmall(run_.place[x], run_.place[y])) lanes.small = false;
         lanes.x.place[m] = run_.place[x];
         lanes.y.place[m] = run_.place[y];
         lanes.x.force[m] = run_.force[x];

@@ -123,21 +123,9 @@ std::string whyNotBegun(const Editor& ed, const Survey& found, const Attraction&
     return "So many nodes attract each other that a step would take about " + durationText(seconds);
 }
 
-}  // namespace
-
-float stepSize(const Editor& ed) { return ed.buttons.slow ? 0.005F : real(ed.TimeInterval / 1000.0); }
-
-StepReport advance(Editor& ed) {
-    StepReport report;
-    Scratch& work = scratch();
+// Forces, then places. Gives what went wrong, or the empty text.
+std::string moveAll(Editor& ed, Scratch& work, const Survey& found, StepReport& report) {
     const float dt = stepSize(ed);
-    const Survey found = survey(ed, work);
-    report.problem = whyNotBegun(ed, found, work.attraction);
-    if (!report.problem.empty()) return report;
-
-    const float time = ed.AnimationTime;
-    const bool pending = ed.InitialVelocityPending;
-    const std::int32_t selected = ed.SelectedNode;
     const bool started = applyInitialVelocities(ed);
     ed.AnimationTime = real(ed.AnimationTime + wide(dt) * ed.TimeDirection);
     report.clock = ed.AnimationTime;
@@ -147,10 +135,26 @@ StepReport advance(Editor& ed) {
     work.barriers.clear();
     if (!ed.marks.mnuIgnoreBarriers) work.barriers.set(ed, work.barrierLinks);
     NodeStage nodes(ed, work.points, work.attraction, work.barriers, work.walls, report);
-    report.problem = nodes.run(dt, found.lastFree);
-    if (report.problem.empty() && started) report.problem = nodes.checkVelocities();  // of locked nodes, too
-    if (report.problem.empty() && !std::isfinite(ed.AnimationTime))
-        report.problem = "The clock is not finite";
+    std::string problem = nodes.run(dt, found.lastFree);
+    if (problem.empty() && started) problem = nodes.checkVelocities();  // of locked nodes, too
+    return problem.empty() && !std::isfinite(ed.AnimationTime) ? "The clock is not finite" : problem;
+}
+
+}  // namespace
+
+float stepSize(const Editor& ed) { return ed.buttons.slow ? 0.005F : real(ed.TimeInterval / 1000.0); }
+
+StepReport advance(Editor& ed) {
+    StepReport report;
+    Scratch& work = scratch();
+    const Survey found = survey(ed, work);
+    report.problem = whyNotBegun(ed, found, work.attraction);
+    if (!report.problem.empty()) return report;
+
+    const float time = ed.AnimationTime;
+    const bool pending = ed.InitialVelocityPending;
+    const std::int32_t selected = ed.SelectedNode;
+    report.problem = moveAll(ed, work, found, report);
     if (!report.problem.empty()) {
         putBack(ed, work.before);
         ed.AnimationTime = time;

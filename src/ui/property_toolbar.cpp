@@ -21,7 +21,7 @@ bool put(float& quantity, double value) {
     quantity = toReal(value);
     return true;
 }
-template <float Editor::*M>
+template <auto M>
 constexpr Access global{[](Editor& ed, double value) { return put(ed.*M, value); },
                         [](const Editor& ed) { return realText(ed.*M); }};
 template <float Node::*M>
@@ -31,7 +31,7 @@ template <float Link::*M>
 constexpr Access ofLink{[](Editor& ed, double value) { return put(linkAt(ed, ed.SelectedLink).*M, value); },
                         [](const Editor& ed) { return realText(linkAt(ed, ed.SelectedLink).*M); }};
 constexpr Access timerPeriod{[](Editor& ed, double value) { return setRate(ed, toInt(value)); },
-                             [](const Editor& ed) { return std::to_string(ed.Timer1.interval); },
+                             [](const Editor& ed) { return std::to_string(ed.timerPeriod); },
                              "The rate takes 1 to 65535 milliseconds!"};
 static_assert(shortestPeriod == 1 && longestPeriod == 65535, "as the refusal says");
 

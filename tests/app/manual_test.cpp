@@ -1,4 +1,5 @@
 #include "cli/commands/commands.h"
+#include "export/picture.h"
 #include "measure/run_measures.h"
 #include "ui/command_toolbar.h"
 #include "ui/keys.h"
@@ -141,6 +142,10 @@ TEST(Manual, ListsWhatTheCompanionProgramTakes) {
                 EXPECT_TRUE(manPage.contains(QString("Fl -%1").arg(row.name))) << row.name;
             }
     }
+    for (const auto& format : pictureFormats())
+        EXPECT_TRUE(manual.contains(QString("`.%1`").arg(format.suffix)) &&
+                    manPage.contains(QString(".%1 ").arg(format.suffix)))
+            << format.suffix;
     for (const Measure& measure : measures())
         rows.insert(QString("| %1 | %2 |").arg(measure.name, measure.meaning));
     for (const QString& row : rows) EXPECT_TRUE(manual.contains("\n" + row + "\n")) << row.toStdString();

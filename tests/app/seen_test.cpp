@@ -54,7 +54,7 @@ TEST_F(Seen, TheSceneShowsNodesUntilTheyGo) {
     ASSERT_TRUE(shows("picS", onBand, Qt::black));
     click(elsewhere, Qt::RightButton);
     click(elsewhere, Qt::RightButton);
-    ASSERT_TRUE(shows("picS", inNode, colorOf(ed().NodeColor)));
+    ASSERT_TRUE(shows("picS", inNode, colourOf(ed().NodeColor)));
     ASSERT_TRUE(shows("picS", onBand, Qt::white));
     moveTo(at);
     ASSERT_TRUE(shows("picS", inNode, Qt::white)) << "pointed at";
@@ -103,7 +103,7 @@ TEST_F(Seen, DiscsFollowTheirAnglesAndThePointer) {
     EXPECT_EQ(ed().SelectedAnimatorLink, 1) << "a link that is no animator leaves the disc marked";
     stripClick({600, 60});  // beside the disc
     EXPECT_EQ(ed().SelectedAnimatorLink, 2);
-    ASSERT_TRUE(shows("picPhase", discAt(270), colorOf(ed().NodeColor)));
+    ASSERT_TRUE(shows("picPhase", discAt(270), colourOf(ed().NodeColor)));
     stripClick(discAt(270));
     EXPECT_EQ(ed().SelectedLink, 1);
     QTest::mousePress(find("picPhase"), Qt::LeftButton, {}, discAt(270));
@@ -114,7 +114,7 @@ TEST_F(Seen, DiscsFollowTheirAnglesAndThePointer) {
     ASSERT_TRUE(shows("picPhase", discAt(112.5), Qt::blue)) << "let go";
     stripClick({600, 60}, Qt::RightButton);
     EXPECT_EQ(ed().SelectedAnimatorLink, none);
-    ASSERT_TRUE(shows("picPhase", discAt(112.5), colorOf(ed().NodeColor)));
+    ASSERT_TRUE(shows("picPhase", discAt(112.5), colourOf(ed().NodeColor)));
 }
 
 TEST_F(Seen, ThePathIsErasedInEveryWay) {

@@ -39,9 +39,9 @@ Editor small() {
 std::string printed(const TextPage& page) {
     std::string text;
     for (const TextRun& run : page.runs)
-        text += std::string(run.color == red    ? "red "
-                            : run.color == blue ? "blue "
-                                                : "") +
+        text += std::string(run.colour == red    ? "red "
+                            : run.colour == blue ? "blue "
+                                                 : "") +
                 realText(run.x) + "," + realText(run.y) + " " + run.text + "\n";
     return text;
 }

@@ -168,8 +168,8 @@ TEST(Scene, TextsAppearWithTheirSwitchesAndStandOutFromTheBackground) {
         int found = apart = 0;
         for (int at = 0; at < area.width() * area.height(); ++at) {
             const QRgb pixel = image.pixel(at % area.width(), at / area.width());
-            found += pixel != colorOf(ed.BackColor).rgb();
-            apart = std::max(apart, std::abs(qGray(pixel) - qGray(colorOf(ed.BackColor).rgb())));
+            found += pixel != colourOf(ed.BackColor).rgb();
+            apart = std::max(apart, std::abs(qGray(pixel) - qGray(colourOf(ed.BackColor).rgb())));
         }
         return found;
     };
@@ -201,8 +201,8 @@ TEST(Stamps, LookLikeShapesDrawnOneByOne) {
                     stamp.paint(703, 691, fill, black);
                     drawShape(onDrawn, shape, b.place(100, 100), b.pixels(radius), b.thinWidth, Qt::blue,
                               Qt::white);
-                    drawShape(onDrawn, shape, b.place(703, 691), b.pixels(radius), b.thinWidth, colorOf(fill),
-                              Qt::black);
+                    drawShape(onDrawn, shape, b.place(703, 691), b.pixels(radius), b.thinWidth,
+                              colourOf(fill), Qt::black);
                 }
                 int worst = 0;
                 for (qsizetype byte = 0; byte < drawn.sizeInBytes(); ++byte)
@@ -259,7 +259,7 @@ TEST(Lettering, StandsInItsInkOnItsPaper) {
     const auto count = [](std::int32_t ground, std::int32_t inkColour, std::int32_t paperColour,
                           QColor wanted) {
         QImage image = blankImage(1500, 600, 1);
-        image.fill(colorOf(ground));
+        image.fill(colourOf(ground));
         QPainter painter(&image);
         lettering(1, inkColour, paperColour).print(painter, {10, 10}, "Ink 42");
         int found = 0;

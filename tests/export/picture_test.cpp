@@ -55,7 +55,7 @@ TEST(Pictures, APngIsThePaintedSceneAtItsScale) {
     for (const int scale : {1, 3}) {
         QImage scene(QSize(952, 207) * scale, QImage::Format_RGB32);
         scene.setDevicePixelRatio(scale);
-        scene.fill(colorOf(ed.BackColor));
+        scene.fill(colourOf(ed.BackColor));
         Subject subject(ed);
         subject.sprites.setRatio(scale);
         QPainter painter(&scene);

@@ -49,9 +49,9 @@ TEST(UndoColumns, AreAllKnown) {
         stepBack(history, ed);
         EXPECT_NE(ed.*setting, 7);
     }
-    perform([&] { ed.Timer1.interval = 7; });
+    perform([&] { ed.timerPeriod = 7; });
     stepBack(history, ed);
-    EXPECT_EQ(ed.Timer1.interval, 20);
+    EXPECT_EQ(ed.timerPeriod, 20);
 }
 
 }  // namespace

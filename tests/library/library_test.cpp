@@ -134,7 +134,7 @@ TEST_F(Library, WhatCannotBeReadIsSaidAndLeavesTheModelUntouchedUnlessChosen) {
 TEST_F(Library, LoadsSettingsSpritesAndWindowSize) {
     Editor saved;
     saved.sceneWidth = 9600, saved.sceneHeight = 6000;
-    saved.AnimationTime = 2.5F, saved.Friction = 0.75F, saved.Timer1.interval = 65535;
+    saved.AnimationTime = 2.5F, saved.Friction = 0.75F, saved.timerPeriod = 65535;
     scenes::addNodes(saved, {{1, 1}, {1, 1}});
     saved.Nodes[1].Sprite = "wheel.png";
     saved.Nodes[2].Sprite = "Wheel.png";
@@ -157,10 +157,10 @@ TEST_F(Library, LoadsSettingsSpritesAndWindowSize) {
     EXPECT_EQ(ed.AnimationTime, 2.5F);
     EXPECT_EQ(ed.Nodes.at(1).SpriteIndex * 10 + ed.Nodes.at(2).SpriteIndex, 20);
     for (const std::int32_t period : {65535, 0, -5, 65536}) {
-        saved.Timer1.interval = period;
+        saved.timerPeriod = period;
         put("a", projectBytes(saved));
         OpenFile(ed, host, "a");
-        EXPECT_EQ(ed.Timer1.interval, 65535) << "a period no timer takes is refused";
+        EXPECT_EQ(ed.timerPeriod, 65535) << "a period no timer takes is refused";
     }
     put("title only", "Zentrik\r\nTitle\r\n");
     OpenFile(ed, host, "title only");

@@ -74,8 +74,8 @@ void expectWhole(const Editor& ed) {
 
 // Runs a model for some seconds and looks at it twice a second.
 void run(Editor& ed, double seconds, Watch& watch) {
-    const int ticks = static_cast<int>(seconds * 1000 / ed.Timer1.interval);
-    const int pause = std::max(500 / ed.Timer1.interval, 1);
+    const int ticks = static_cast<int>(seconds * 1000 / ed.timerPeriod);
+    const int pause = std::max(500 / ed.timerPeriod, 1);
     for (int tick = 1; tick <= ticks && ed.Timer1.enabled && !testing::Test::HasFailure(); ++tick) {
         scenes::tickSample(ed);
         if (tick % pause != 0) continue;

@@ -2,6 +2,7 @@
 
 #include "measure/run_measures.h"
 #include "measure/run_table.h"
+#include "model/extent.h"
 #include "model/store.h"
 #include "scenes/scenes.h"
 #include "sim/contacts/contacts.h"
@@ -31,8 +32,8 @@ TEST(Measure, GivesTheQuantitiesOfAModel) {
     ed.Gravity = 0.5F;
     EXPECT_EQ(gravityEnergy(ed), 4 * 5000.0 * double(boundsOf(ed).floor - 2000));
     EXPECT_EQ(greatestSpeed(ed), 5);
-    EXPECT_EQ(extentOf(ed).right, 5000);
-    EXPECT_EQ(extentOf(ed).top, 0);
+    EXPECT_EQ(extentOf(ed.Nodes).right, 5000);
+    EXPECT_EQ(extentOf(ed.Nodes).top, 0);
 
     // A quarter turn of an animator that lengthens its link by a third: at rest.
     Link& link = linkAt(ed, 1);

@@ -1,5 +1,7 @@
 #include "project/reader.h"
 
+#include "basics/numbers.h"
+#include "project/read_columns.h"
 #include "project/writer.h"
 #include "scenes/scenes.h"
 
@@ -129,6 +131,32 @@ TEST(ProjectReader, TakesNothingOfAFileWithAMalformedLine) {
         ASSERT_TRUE(reading.problem && !reading.project) << text;
         EXPECT_EQ(reading.problem->line, line.starts_with("Nodes") ? 8u : 7u);
         EXPECT_EQ(reading.problem->text, text);
+    }
+}
+
+// A row of an older file ends before the newer columns; what was there from the start must be there.
+TEST(ProjectReader, LeavesNewerColumnsOfAnOlderFileAsTheyAre) {
+    struct Grown {
+        std::int32_t old = 1;
+        float newer = 2;
+        std::string newest = "three";
+    };
+    const Column<Grown> columns[] = {{"old", &Grown::old},
+                                     {.name = "newer", .member = &Grown::newer, .newer = true},
+                                     {.name = "newest", .member = &Grown::newest, .newer = true}};
+    const std::pair<const char*, const char*> cases[] = {
+        {"9", "field 2 (old) is missing. 1 2 three"},
+        {"9 : 5", " 5 2 three"},
+        {"9 : 5 : 7", " 5 7 three"},
+        {"9 : 5 : x", "field 3 (newer) is not a number: x 5 2 three"},
+        {"9 : 5 : 7 : ", " 5 7 "},
+    };
+    for (const auto& [line, result] : cases) {
+        Grown it;
+        const ReadProblems problems = readColumns(line, columns, it, Wanted::firstProblem);
+        const std::string problem = problems.empty() ? "" : problems.front().text;
+        EXPECT_EQ(problem + " " + std::to_string(it.old) + " " + realText(it.newer) + " " + it.newest,
+                  result);
     }
 }
 

@@ -53,7 +53,7 @@ TEST(ProjectWriter, RoundTripKeepsEverySlotAndField) {
     Editor ed;
     ed.ProjectTitle = "; global nodes : \xFF\xC3\xA4 ";
     ed.Gravity = -0.25F, ed.Friction = 0.3F, ed.Viscosity = 1e7F, ed.LeftWind = 1e-7F, ed.Bounce = 0.9F;
-    ed.TimeInterval = 12.5F, ed.Timer1.interval = 65535, ed.DeltaAngle = 3, ed.AnimationTime = 1234.567F;
+    ed.TimeInterval = 12.5F, ed.timerPeriod = 65535, ed.DeltaAngle = 3, ed.AnimationTime = 1234.567F;
     ed.sceneWidth = 28800, ed.sceneHeight = 16200;
     Node node;
     node = {true, least,  7,    1.5F,    -2.5F, 3e20F, -4e-20F, 5.25F, true, false, true, 6,    7,
@@ -84,7 +84,7 @@ TEST(ProjectWriter, RoundTripKeepsEverySlotAndField) {
     EXPECT_EQ(std::tie(g.Gravity, g.Friction, g.Viscosity, g.LeftWind, g.Bounce, g.TimeInterval,
                        g.timerPeriod, g.DeltaAngle, g.AnimationTime),
               std::tie(ed.Gravity, ed.Friction, ed.Viscosity, ed.LeftWind, ed.Bounce, ed.TimeInterval,
-                       ed.Timer1.interval, ed.DeltaAngle, ed.AnimationTime));
+                       ed.timerPeriod, ed.DeltaAngle, ed.AnimationTime));
     EXPECT_EQ(g.sceneWidth, 28800);
     EXPECT_EQ(g.sceneHeight, 16200);
 

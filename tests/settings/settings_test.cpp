@@ -34,7 +34,7 @@ TEST(Settings, RoundTripInOrderAndForm) {
     ed.Gravity = -0.5F;
     ed.ShooterVelocity = 1e7F;
     ed.StructureParm = "8:500";
-    ed.Timer1.interval = 35;
+    ed.timerPeriod = 35;
     ed.BackColor = 255;
     saveSettings(ed, Placement{1, 2, 15000, 6000}, store);
     ASSERT_EQ(store.order.size(), 55U);
@@ -54,7 +54,7 @@ TEST(Settings, RoundTripInOrderAndForm) {
     EXPECT_TRUE(again.timerFireWorks.enabled) << "the fireworks' timer follows their mark";
     EXPECT_EQ(again.HitRadius, 130);
     EXPECT_EQ(again.ShooterVelocity, 1e7F);
-    EXPECT_EQ(again.Timer1.interval, 35);
+    EXPECT_EQ(again.timerPeriod, 35);
     EXPECT_EQ(again.StructureParm, "8:500");
 
     MemoryStore second = store;

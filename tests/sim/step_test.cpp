@@ -38,7 +38,7 @@ std::vector<std::int64_t> stateOf(const Link& link) {
     return {link.Used, link.Marked, link.DiscX, link.DiscY, bits(link.CurrentLength)};
 }
 
-std::vector<std::int64_t> stateOf(const PathDot& dot) { return {dot.x, dot.y, dot.color}; }
+std::vector<std::int64_t> stateOf(const PathDot& dot) { return {dot.x, dot.y, dot.colour}; }
 
 template <class Record>
 std::string difference(const std::vector<Record>& a, const std::vector<Record>& b, const char* kind) {

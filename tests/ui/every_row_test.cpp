@@ -37,7 +37,7 @@ Editor unlikeModel() {
         link.Barrier = j == 2;
     }
     ed.Gravity = 1.25F, ed.Friction = 0.3F, ed.Viscosity = 0.25F, ed.LeftWind = 3, ed.Bounce = 0.75F;
-    ed.TimeInterval = 15, ed.Timer1.interval = 25, ed.DeltaAngle = 0.2F, ed.DefaultLinkK = 6;
+    ed.TimeInterval = 15, ed.timerPeriod = 25, ed.DeltaAngle = 0.2F, ed.DefaultLinkK = 6;
     ed.DefaultLinkForce = 0.15F, ed.GridSize = 300, ed.AnimationTime = 1.5F, ed.ProjectTitle = "unlike";
     ed.SelectedNode = 2, ed.SelectedLink = ed.SelectedAnimatorLink = 1, ed.LastShooter = 4;
     ed.HoverNode = 3, ed.HoverLink = 2, ed.NodeRadius = 50;
@@ -127,7 +127,7 @@ void tellSettings(std::string& out, const Editor& a, const Editor& b) {
         {"LastShooter", &Editor::LastShooter}};
     for (const auto& [name, member] : wholes) tell(out, name, a.*member, b.*member);
     tell(out, "Timer1 runs", a.Timer1.enabled, b.Timer1.enabled);
-    tell(out, "Timer1 period", a.Timer1.interval, b.Timer1.interval);
+    tell(out, "Timer1 period", a.timerPeriod, b.timerPeriod);
     tell(out, "timerFireWorks runs", a.timerFireWorks.enabled, b.timerFireWorks.enabled);
     tell(out, "title", a.ProjectTitle, b.ProjectTitle);
     tell(out, "strip redrawn", a.phaseStale, b.phaseStale);

@@ -62,7 +62,7 @@ Editor marbles() {
 Editor crowd() {
     Editor ed = court("10,000 balls: uncheck Barriers > Ignore Barriers, start, look at the rate");
     ed.TimeInterval = 20;
-    ed.Timer1.interval = 20;
+    ed.timerPeriod = 20;
     barrier(ed, 60, top, 14190, top);
     barrier(ed, 60, low, 14190, low);
     const int columns = 250, rows = 40;

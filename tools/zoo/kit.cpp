@@ -18,7 +18,7 @@ Editor project(const std::string& title, const World& world) {
     ed.Bounce = world.bounce;
     ed.LeftWind = world.wind;
     ed.TimeInterval = world.timeInterval;
-    ed.Timer1.interval = toInt(world.timeInterval);  // so that a time unit lasts a second
+    ed.timerPeriod = toInt(world.timeInterval);  // so that a time unit lasts a second
     ed.DeltaAngle = world.deltaAngle;
     ed.sceneWidth = 14280;
     ed.sceneHeight = 3110;  // in whole pixels, as the smallest window has it

@@ -32,9 +32,7 @@ QString pictureTag(const std::string& programFolder, Project project, double rat
     handOver(ed, nobody, std::move(project));
     if (UsedNodes(ed) == 0) return {};
     Subject subject(ed);
-    const double scale = fitThumbnail(subject, pictureSide) * ratio;
-    subject.sprites.setRatio(scale);
-    const QImage image = sceneImage(subject, {scale});
+    const QImage image = thumbnail(subject, {pictureSide, pictureSide}, ratio);
     const std::string bytes = pngBytes(image);
     return QString("<p><img width=\"%1\" height=\"%2\" src=\"data:image/png;base64,%3\"></p>")
         .arg(qRound(image.width() / ratio))

@@ -263,11 +263,11 @@ void Toolbars::showLists(const Editor& ed) {
     lstSprites->setCurrentIndex(ed.spriteEntry);
     lstSprites->setEnabled(ed.nodeControls);
 
-    const QColor back = colorOf(ed.BackColor);
+    const QColor back = colourOf(ed.BackColor);
     QPalette palette = lstSaved->palette();
     if (palette.color(QPalette::Base) == back) return;
     palette.setColor(QPalette::Base, back);
-    palette.setColor(QPalette::Text, colorOf(legibleInk(black, ed.BackColor)));
+    palette.setColor(QPalette::Text, colourOf(legibleInk(black, ed.BackColor)));
     lstSaved->setPalette(palette);
 }
 

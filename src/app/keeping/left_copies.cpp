@@ -1,5 +1,6 @@
 #include "app/keeping/left_copies.h"
 
+#include "files/path.h"
 #include "library/backups.h"
 #include "library/zoo.h"
 

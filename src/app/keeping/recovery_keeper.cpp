@@ -1,5 +1,6 @@
 #include "app/keeping/recovery_keeper.h"
 
+#include "files/path.h"
 #include "files/write_file.h"
 #include "history/lost_work.h"
 #include "library/backups.h"
@@ -27,7 +28,7 @@ std::string ownName() {
 
 std::unique_ptr<Editor> copyOf(const Editor& ed) {
     auto copy = std::make_unique<Editor>();
-    copyContents(*copy, ed);
+    static_cast<Contents&>(*copy) = ed;
     copy->sceneWidth = ed.sceneWidth;
     copy->sceneHeight = ed.sceneHeight;
     copy->savedText = ed.savedText;
@@ -123,7 +124,7 @@ void RecoveryKeeper::keepLost() {
 
 void RecoveryKeeper::keep(Lost lost) {
     auto former = std::make_shared<Editor>();
-    handContents(*former, std::move(lost.model));
+    static_cast<Contents&>(*former) = std::move(lost.model);
     former->sceneWidth = ed_->sceneWidth;
     former->sceneHeight = ed_->sceneHeight;
     const std::string name = nameProblem(lost.project).empty() ? lost.project : "resume";

@@ -1,7 +1,8 @@
 #include "app/keeping/settings_store.h"
 
+#include "files/path.h"
+#include "files/read_file.h"
 #include "files/write_file.h"
-#include "library/zoo.h"
 
 #include <QLockFile>
 #include <QStandardPaths>
@@ -15,13 +16,8 @@ namespace {
 
 constexpr int patience = 500;  // milliseconds to wait for another program that stores its settings
 
-bool isThere(const std::string& file) {
-    std::error_code error;
-    return fs::symlink_status(file, error).type() != fs::file_type::not_found;
-}
-
 // No file is no problem.
-FileBytes readSettings(const std::string& file) { return isThere(file) ? readWholeFile(file) : FileBytes{}; }
+FileBytes readSettings(const std::string& file) { return isThere(file) ? readFile(file) : FileBytes{}; }
 
 std::string folderOf(const std::string& file) { return fs::path(file).parent_path().string(); }
 

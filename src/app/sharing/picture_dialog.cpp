@@ -16,7 +16,7 @@ QFormLayout& formOf(QDialog& dialog) { return *new QFormLayout(&dialog); }
 QComboBox* addFormats(QFormLayout& form, PictureFormat preset) {
     auto* list = new QComboBox;
     list->setObjectName("format");
-    list->addItems({"PNG, a bitmap", "SVG, a drawing", "PDF, a drawing"});
+    for (const PictureFormatRow& format : pictureFormats()) list->addItem(format.name);
     list->setCurrentIndex(static_cast<int>(preset));
     form.addRow("&Format:", list);
     return list;

@@ -19,7 +19,6 @@ namespace zentrik {
 namespace {
 
 constexpr int fewPictures = 10;  // a second
-constexpr const char* pictureSuffixes[] = {"png", "svg", "pdf"};
 
 // The project's name as a file may have it.
 QString fileNameOf(const Editor& ed) {
@@ -82,7 +81,7 @@ void Sharing::savePicture() {
     PictureDialog dialog(ed_, picture_, &window_);
     if (host_.show(dialog) != QDialog::Accepted) return;
     picture_ = dialog.choice();
-    const QString suffix = pictureSuffixes[static_cast<std::size_t>(picture_.format)];
+    const QString suffix = pictureFormats()[static_cast<std::size_t>(picture_.format)].suffix;
     const QString file = askName(suffix.toUpper() + " picture", suffix);
     if (file.isEmpty()) return;
     Subject subject(ed_);

@@ -144,7 +144,7 @@ void SceneView::keepLayers() {
         draw(Canvas(painter, ed_.sceneWidth, ed_.sceneHeight));
         return picture;
     };
-    under_ = layer(colorOf(ed_.BackColor), [this](const Canvas& canvas) { drawUnderMarks(canvas, ed_); });
+    under_ = layer(colourOf(ed_.BackColor), [this](const Canvas& canvas) { drawUnderMarks(canvas, ed_); });
     over_ = QPixmap();
     if (anythingOverMarks(ed_))
         over_ = layer(Qt::transparent, [this](const Canvas& canvas) { drawOverMarks(canvas, ed_, sprites); });

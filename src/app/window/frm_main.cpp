@@ -215,13 +215,13 @@ void frmMain::showLayout() {
 }
 
 void frmMain::showTimers() {
-    const auto follow = [](QTimer& shown, const Timer& timer) {
-        if (shown.interval() != timer.interval) shown.setInterval(timer.interval);
+    const auto follow = [](QTimer& shown, const Timer& timer, std::int32_t period) {
+        if (shown.interval() != period) shown.setInterval(period);
         if (timer.enabled && !shown.isActive()) shown.start();
         if (!timer.enabled && shown.isActive()) shown.stop();
     };
-    follow(Timer1_, ed_.Timer1);
-    follow(timerFireWorks_, ed_.timerFireWorks);
+    follow(Timer1_, ed_.Timer1, ed_.timerPeriod);
+    follow(timerFireWorks_, ed_.timerFireWorks, fireworksPeriod);
 }
 
 }  // namespace zentrik

@@ -52,18 +52,18 @@ ExitStatus check(const Arguments& arguments, Streams& streams) {
 }  // namespace
 
 const Command checkCommand{
-    "check",
-    "FILE...",
-    1,
-    anyNumber,
-    "Tells every problem of project files: what cannot be read, links without nodes, free nodes of mass 0, "
-    "triggers that name nothing.",
-    [] {
-        return std::string(
-            "A problem is a line FILE:LINE: field NUMBER (NAME) and what is wrong, on the error "
-            "stream. The exit status is 1 if there is any.");
-    },
-    {options},
-    check};
+    .name = "check",
+    .operands = "FILE...",
+    .summary =
+        "Tells every problem of project files: what cannot be read, links without nodes, free nodes of "
+        "mass 0, triggers that name nothing.",
+    .details =
+        [] {
+            return std::string(
+                "A problem is a line FILE:LINE: field NUMBER (NAME) and what is wrong, on the error "
+                "stream. The exit status is 1 if there is any.");
+        },
+    .options = {options},
+    .run = check};
 
 }  // namespace zentrik::cli

@@ -40,7 +40,7 @@ ExitStatus runCommandOf(const std::vector<std::string>& words, const Command& co
     if (arguments.has("version")) return say(streams, "zentrik-cli " ZENTRIK_VERSION "\n");
     if (!arguments.problem.empty()) throw Failure{wrongUse, arguments.problem};
     const std::size_t count = arguments.operands.size();
-    if (count < command.fewest) throw Failure{wrongUse, "No file is given."};
+    if (count == 0) throw Failure{wrongUse, "No file is given."};
     if (count > command.most) throw Failure{wrongUse, "One file is enough: " + arguments.operands.back()};
     return command.run(arguments, streams);
 }

@@ -1,3 +1,4 @@
+#include "basics/text.h"
 #include "cli/commands/commands.h"
 #include "cli/files.h"
 #include "cli/progress.h"
@@ -17,9 +18,11 @@ namespace zentrik::cli {
 
 namespace {
 
+const char* suffixOf(const FilmFormat& format) { return *format.suffix == '\0' ? "folder" : format.suffix; }
+
 constexpr OptionRow options[] = {
-    {"o", "out", "NAME", "The file to write: NAME.png, .svg, .pdf, .gif, .html, .mp4, .webm or .csv."},
-    {nullptr, "format", "SUFFIX", "What to write where NAME does not tell; \"folder\" makes numbered PNGs."},
+    {"o", "out", "NAME", "The file to write; its name ends in a point and the SUFFIX."},
+    {nullptr, "format", "SUFFIX", "What to write where NAME does not tell."},
     {nullptr, "scale", "S", "Picture elements to a pixel of the window, 1 to 8; 1 as usual."},
     {nullptr, "size", "N", "A picture of the model alone, at most N picture elements wide and high."},
     {nullptr, "transparent", nullptr, "Leave the background out, where the format can."},
@@ -27,23 +30,13 @@ constexpr OptionRow options[] = {
 };
 
 std::string details() {
+    std::string suffixes;
+    for (const PictureFormatRow& format : pictureFormats()) suffixes.append(format.suffix).append(", ");
+    for (const FilmFormat& format : filmFormats()) suffixes.append(suffixOf(format)).append(", ");
     return "A picture shows the model after --steps or --time, as it stands without. A film or a table is as "
            "long as they say, 10 seconds of the model's time without, and begins with the press of the start "
-           "button.\n\n" +
-           modelDetails();
-}
-
-struct PictureRow {
-    const char* suffix;
-    PictureFormat format;
-};
-constexpr PictureRow pictures[] = {
-    {"png", PictureFormat::png}, {"svg", PictureFormat::svg}, {"pdf", PictureFormat::pdf}};
-
-std::string lowerCase(std::string text) {
-    for (char& c : text)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return text;
+           "button.\n\nSUFFIX is one of: " +
+           suffixes + "csv.\nA folder is one of numbered PNGs.\n\n" + modelDetails();
 }
 
 std::string formatName(const Arguments& arguments, const std::string& file) {
@@ -56,9 +49,8 @@ std::string formatName(const Arguments& arguments, const std::string& file) {
 
 const FilmFormat* filmFormat(const std::string& name) {
     const auto formats = filmFormats();
-    const auto found = std::find_if(formats.begin(), formats.end(), [&](const FilmFormat& format) {
-        return name == (*format.suffix == '\0' ? "folder" : format.suffix);
-    });
+    const auto found = std::find_if(formats.begin(), formats.end(),
+                                    [&](const FilmFormat& format) { return name == suffixOf(format); });
     return found == formats.end() ? nullptr : &*found;
 }
 
@@ -89,7 +81,7 @@ ExitStatus stoppedEarly(const Arguments& arguments, const std::string& why) {
     throw Failure{finding, shownName(arguments.operands.front()) + ": " + why};
 }
 
-ExitStatus exportPicture(Editor& ed, PictureFormat format, const std::string& file,
+ExitStatus exportPicture(Editor& ed, const PictureFormatRow& format, const std::string& file,
                          const Arguments& arguments, Streams& streams) {
     Look look = lookOf(arguments);
     const std::int64_t steps = lengthOf(ed, arguments, 0);
@@ -97,9 +89,11 @@ ExitStatus exportPicture(Editor& ed, PictureFormat format, const std::string& fi
     for (std::int64_t step = 0; step < steps; ++step)
         if (!stepRun(ed)) break;
     Subject subject(ed);
-    if (const auto side = arguments.number("size", 1))
-        look.scale = fitThumbnail(subject, static_cast<int>(std::min<std::int64_t>(*side, 1 << 15)));
-    const PictureFile made = pictureFile(subject, format, look);
+    if (const auto number = arguments.number("size", 1)) {
+        const int side = static_cast<int>(std::min<std::int64_t>(*number, 1 << 15));
+        look.scale = fitThumbnail(subject, {side, side});
+    }
+    const PictureFile made = format.make(subject, look);
     if (!made.problem.empty()) throw Failure{finding, shownName(file) + ": " + made.problem};
     writeBytes(file, made.bytes, streams);
     return stoppedEarly(arguments, steps > 0 ? whyStopped(ed) : "");
@@ -148,21 +142,20 @@ ExitStatus run(const Arguments& arguments, Streams& streams) {
     Editor ed = openModel(arguments.operands.front(), arguments, streams);
     if (name == "csv") return exportTable(ed, file, arguments, streams);
     const auto application = paintingApplication();
-    for (const PictureRow& row : pictures)
-        if (name == row.suffix) return exportPicture(ed, row.format, file, arguments, streams);
+    for (const PictureFormatRow& format : pictureFormats())
+        if (name == format.suffix) return exportPicture(ed, format, file, arguments, streams);
     if (const FilmFormat* format = filmFormat(name)) return exportFilm(ed, *format, file, arguments, streams);
     throw Failure{wrongUse, "There is no format \"" + name + "\"."};
 }
 
 }  // namespace
 
-const Command exportCommand{"export",
-                            "FILE",
-                            1,
-                            1,
-                            "Makes a picture, a film or a table of a project.",
-                            details,
-                            {options, lengthOptions(), modelOptions()},
-                            run};
+const Command exportCommand{.name = "export",
+                            .operands = "FILE",
+                            .most = 1,
+                            .summary = "Makes a picture, a film or a table of a project.",
+                            .details = details,
+                            .options = {options, lengthOptions(), modelOptions()},
+                            .run = run};
 
 }  // namespace zentrik::cli

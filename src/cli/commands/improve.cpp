@@ -185,18 +185,18 @@ ExitStatus improve(const Arguments& arguments, Streams& streams) {
 }  // namespace
 
 const Command improveCommand{
-    "improve",
-    "FILE",
-    1,
-    1,
-    "Looks for the numbers with which a project does most, as walking farthest, and "
-    "keeps the best.",
-    [] {
-        return "Looks everywhere at first, then climbs from the best. Ctrl+C ends it and "
-               "keeps the best.\n\n" +
-               measuresHelp() + "\n\n" + modelDetails();
-    },
-    {experimentOptions(), lengthOptions(), options, modelOptions()},
-    improve};
+    .name = "improve",
+    .operands = "FILE",
+    .most = 1,
+    .summary =
+        "Looks for the numbers with which a project does most, as walking farthest, and keeps the best.",
+    .details =
+        [] {
+            return "Looks everywhere at first, then climbs from the best. Ctrl+C ends it and keeps the "
+                   "best.\n\n" +
+                   measuresHelp() + "\n\n" + modelDetails();
+        },
+    .options = {experimentOptions(), lengthOptions(), options, modelOptions()},
+    .run = improve};
 
 }  // namespace zentrik::cli

@@ -2,8 +2,8 @@
 #include "cli/commands/commands.h"
 #include "cli/runs/model.h"
 #include "cli/runs/settable.h"
-#include "measure/quantities.h"
 #include "model/connected.h"
+#include "model/extent.h"
 #include "model/store.h"
 #include "project/columns.h"
 
@@ -62,7 +62,7 @@ Facts factsOf(const std::string& file, const Editor& ed) {
                 {"", "title", QString::fromStdString(ed.ProjectTitle)},
                 {"", "clock", Settable(ed, "AnimationTime").valueIn(ed)}};
     addCounts(facts, ed);
-    const Extent extent = extentOf(ed);
+    const Extent extent = extentOf(ed.Nodes);
     facts.push_back({"extent", "left", extent.left});
     facts.push_back({"extent", "top", extent.top});
     facts.push_back({"extent", "right", extent.right});
@@ -113,13 +113,11 @@ ExitStatus info(const Arguments& arguments, Streams& streams) {
 
 }  // namespace
 
-const Command infoCommand{"info",
-                          "FILE...",
-                          1,
-                          anyNumber,
-                          "Tells what projects hold: title, clock, counts, extent in twips, settings.",
-                          nullptr,
-                          {options},
-                          info};
+const Command infoCommand{
+    .name = "info",
+    .operands = "FILE...",
+    .summary = "Tells what projects hold: title, clock, counts, extent in twips, settings.",
+    .options = {options},
+    .run = info};
 
 }  // namespace zentrik::cli

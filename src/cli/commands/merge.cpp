@@ -47,13 +47,10 @@ ExitStatus merge(const Arguments& arguments, Streams& streams) {
 
 }  // namespace
 
-const Command mergeCommand{"merge",
-                           "PART...",
-                           1,
-                           anyNumber,
-                           "Joins the tables of a sweep's shards to the table of the whole sweep.",
-                           nullptr,
-                           {options},
-                           merge};
+const Command mergeCommand{.name = "merge",
+                           .operands = "PART...",
+                           .summary = "Joins the tables of a sweep's shards to the table of the whole sweep.",
+                           .options = {options},
+                           .run = merge};
 
 }  // namespace zentrik::cli

@@ -111,13 +111,12 @@ ExitStatus run(const Arguments& arguments, Streams& streams) {
 
 }  // namespace
 
-const Command runCommand{"run",
-                         "FILE",
-                         1,
-                         1,
-                         "Runs a project from the press of the start button on, without painting.",
-                         modelDetails,
-                         {options, lengthOptions(), modelOptions()},
-                         run};
+const Command runCommand{.name = "run",
+                         .operands = "FILE",
+                         .most = 1,
+                         .summary = "Runs a project from the press of the start button on, without painting.",
+                         .details = modelDetails,
+                         .options = {options, lengthOptions(), modelOptions()},
+                         .run = run};
 
 }  // namespace zentrik::cli

@@ -150,13 +150,13 @@ ExitStatus sweep(const Arguments& arguments, Streams& streams) {
 }  // namespace
 
 const Command sweepCommand{
-    "sweep",
-    "FILE",
-    1,
-    1,
-    "Runs a project with every combination of some numbers, and writes a table of what came of each.",
-    [] { return measuresHelp() + "\n\n" + modelDetails(); },
-    {experimentOptions(), lengthOptions(), options, modelOptions()},
-    sweep};
+    .name = "sweep",
+    .operands = "FILE",
+    .most = 1,
+    .summary =
+        "Runs a project with every combination of some numbers, and writes a table of what came of each.",
+    .details = [] { return measuresHelp() + "\n\n" + modelDetails(); },
+    .options = {experimentOptions(), lengthOptions(), options, modelOptions()},
+    .run = sweep};
 
 }  // namespace zentrik::cli

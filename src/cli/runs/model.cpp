@@ -67,8 +67,8 @@ std::string modelDetails() {
            "Friction, Viscosity, LeftWind, Bounce, TimeInterval, timer period, DeltaAngle, scene width, "
            "scene "
            "height, AnimationTime), one of the settings file (NodeRadius, ...), or a column of nodes or "
-           "links with "
-           "their numbers: \"node 4.Mass\", \"link 3..9.Angle\", \"link 2,5.k\", \"node all.Vxo\".";
+           "links "
+           "with their numbers: \"node 4.Mass\", \"link 3..9.Angle\", \"link 2,5.k\", \"node all.Vxo\".";
 }
 
 std::span<const OptionRow> modelOptions() { return options; }

@@ -1,6 +1,5 @@
 #include "cli/runs/settable.h"
 
-#include "basics/no_doubles.h"
 #include "basics/numbers.h"
 #include "cli/close_names.h"
 #include "cli/command.h"
@@ -8,49 +7,31 @@
 #include "model/rate.h"
 #include "model/store.h"
 #include "project/columns.h"
+#include "settings/setting_rows.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
-#include <variant>
 
 namespace zentrik::cli {
 
 namespace {
 
-// Stands for the animation timer's period, which takes not every number.
-struct TimerPeriod {};
-
-struct GlobalRow {
-    std::string_view name;
-    std::variant<float Editor::*, std::int32_t Editor::*, TimerPeriod> slot;
-};
-
 // Named as in project files, and as in the settings file.
-constexpr GlobalRow globals[] = {
-    {"Gravity", &Editor::Gravity},
-    {"Friction", &Editor::Friction},
-    {"Viscosity", &Editor::Viscosity},
-    {"LeftWind", &Editor::LeftWind},
-    {"Bounce", &Editor::Bounce},
-    {"TimeInterval", &Editor::TimeInterval},
-    {"timer period", TimerPeriod{}},
-    {"Speed", TimerPeriod{}},
-    {"DeltaAngle", &Editor::DeltaAngle},
-    {"scene width", &Editor::sceneWidth},
-    {"scene height", &Editor::sceneHeight},
-    {"AnimationTime", &Editor::AnimationTime},
-    {"NodeRadius", &Editor::NodeRadius},
-    {"DefaultLinkK", &Editor::DefaultLinkK},
-    {"DefaultLinkForce", &Editor::DefaultLinkForce},
-    {"LinkColor", &Editor::LinkColor},
-    {"NodeColor", &Editor::NodeColor},
-    {"BackColor", &Editor::BackColor},
-    {"GridSize", &Editor::GridSize},
-    {"GridRadius", &Editor::GridRadius},
-    {"ShooterDirection", &Editor::ShooterDirection},
-    {"ShooterVelocity", &Editor::ShooterVelocity},
-};
-static_assert(!anyShared(globals, columnName));
+const std::vector<SettingRow>& globals() {
+    static const std::vector<SettingRow> numbers = [] {
+        std::vector<SettingRow> all;
+        for (const auto& column : globalColumns) all.push_back(settingOf(column));
+        for (const SettingRow& row : settingRows()) {
+            const auto isIt = [&](const SettingRow& other) { return other.key == row.key; };
+            const bool isNumber = std::holds_alternative<float Editor::*>(row.slot) ||
+                                  std::holds_alternative<std::int32_t Editor::*>(row.slot);
+            if (isNumber && std::none_of(all.begin(), all.end(), isIt)) all.push_back(row);
+        }
+        return all;
+    }();
+    return numbers;
+}
 
 // Gives false when the number is beyond the slot.
 bool put(bool& slot, double value) {
@@ -122,27 +103,14 @@ bool setField(const Column<Record> (&columns)[count], std::size_t row, Record& r
     return std::visit([&](auto member) { return put(record.*member, value); }, columns[row].member);
 }
 
-struct SetGlobal {
-    Editor& ed;
-    double value;
-
-    bool operator()(TimerPeriod) const { return setRate(ed, toInt(value)); }
-    bool operator()(auto member) const { return put(ed.*member, value); }
-};
-struct GetGlobal {
-    const Editor& ed;
-
-    double operator()(TimerPeriod) const { return ed.Timer1.interval; }
-    double operator()(auto member) const { return numberIn(ed.*member); }
-};
+// Calls use(member) for the place of a global setting in the record.
+template <class Use>
+auto useGlobal(std::size_t row, Use use) {
+    if (const auto* real = std::get_if<float Editor::*>(&globals()[row].slot)) return use(*real);
+    return use(std::get<std::int32_t Editor::*>(globals()[row].slot));
+}
 
 }  // namespace
-
-std::vector<std::string> settingNames() {
-    std::vector<std::string> names;
-    for (const GlobalRow& row : globals) names.emplace_back(row.name);
-    return names;
-}
 
 Settable::Settable(const Editor& ed, const std::string& name) : name_(name) {
     const FieldName field = fieldName(name);
@@ -155,7 +123,8 @@ Settable::Settable(const Editor& ed, const std::string& name) : name_(name) {
         numbers_ = readList(field.list, lastLink(ed), "link");
         row_ = fieldRow(field.field, "Link", linkColumns);
     } else {
-        const std::vector<std::string> names = settingNames();
+        std::vector<std::string> names;
+        for (const SettingRow& row : globals()) names.emplace_back(row.key);
         row_ = placeAmong(name, names);
         if (row_ == names.size())
             throw Failure{wrongUse, "There is no setting \"" + name + "\"." + closeNames(name, names)};
@@ -164,14 +133,15 @@ Settable::Settable(const Editor& ed, const std::string& name) : name_(name) {
 }
 
 double Settable::valueIn(const Editor& ed) const {
-    if (kind_ == Kind::global) return std::visit(GetGlobal{ed}, globals[row_].slot);
+    if (kind_ == Kind::global) return useGlobal(row_, [&](auto at) { return numberIn(ed.*at); });
     if (kind_ == Kind::node) return fieldIn(nodeColumns, row_, nodeAt(ed, numbers_.front()));
     return fieldIn(linkColumns, row_, linkAt(ed, numbers_.front()));
 }
 
 void Settable::setIn(Editor& ed, double value) const {
     bool taken = true;
-    if (kind_ == Kind::global) taken = std::visit(SetGlobal{ed, value}, globals[row_].slot);
+    if (kind_ == Kind::global)
+        taken = useGlobal(row_, [&](auto at) { return put(ed.*at, value); }) && isPeriod(ed.timerPeriod);
     for (const std::int32_t i : numbers_)
         taken = taken && (kind_ == Kind::node ? setField(nodeColumns, row_, nodeAt(ed, i), value)
                                               : setField(linkColumns, row_, linkAt(ed, i), value));

@@ -30,7 +30,4 @@ private:
     std::vector<std::int32_t> numbers_;  // of nodes or links
 };
 
-// Names of all global settings.
-std::vector<std::string> settingNames();
-
 }  // namespace zentrik::cli

@@ -19,8 +19,8 @@ QRect frameOf(std::int32_t width, std::int32_t height, double ratio) {
 
 }  // namespace
 
-QColor colorOf(std::int32_t color) {
-    const auto bits = static_cast<std::uint32_t>(color);
+QColor colourOf(std::int32_t colour) {
+    const auto bits = static_cast<std::uint32_t>(colour);
     const auto part = [&](int shift) { return static_cast<int>((bits >> shift) & 0xFF); };
     return QColor(part(0), part(8), part(16));
 }

@@ -15,7 +15,7 @@
 namespace zentrik {
 
 // From the model's colours; bits above the 24 are dropped.
-QColor colorOf(std::int32_t color);
+QColor colourOf(std::int32_t colour);
 
 // Whether a painter's device keeps shapes, as a vector file does, instead of pixels. What is drawn on one is
 // neither rounded to pixels nor stamped from pictures.

@@ -12,11 +12,11 @@ namespace zentrik {
 
 namespace {
 
-double luminance(std::int32_t color) {
+double luminance(std::int32_t colour) {
     const auto linear = [](double part) {
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
-    const QColor c = colorOf(color);
+    const QColor c = colourOf(colour);
     return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
 }
 
@@ -26,12 +26,12 @@ double contrast(std::int32_t a, std::int32_t b) {
 }
 
 std::int32_t mixed(std::int32_t from, std::int32_t to, int eighths) {
-    std::int32_t color = 0;
+    std::int32_t colour = 0;
     for (int shift = 0; shift < 24; shift += 8) {
         const int a = (from >> shift) & 0xFF, b = (to >> shift) & 0xFF;
-        color |= (a + (b - a) * eighths / 8) << shift;
+        colour |= (a + (b - a) * eighths / 8) << shift;
     }
-    return color;
+    return colour;
 }
 
 // The part of a picture that is not transparent.
@@ -96,8 +96,8 @@ void fillLetters(QPainter& painter, const QPainterPath& outline, QColor ink) {
 
 Lettering::Lettering(int size, std::int32_t ink, std::int32_t paper)
     : size_(size),
-      ink_(colorOf(legibleInk(ink, paper))),
-      paper_(colorOf(paper)),
+      ink_(colourOf(legibleInk(ink, paper))),
+      paper_(colourOf(paper)),
       ascent_(std::ceil(Face::ascent * size)) {}
 
 const Lettering::Letter& Lettering::letter(char c) {

@@ -47,8 +47,8 @@ void Stamp::paint(double x, double y, std::int32_t fill, std::int32_t outline) {
         centre.y() > frame.height() + reach_)
         return;
     if (canvas_.shapes || reach_ > largestStamp) {
-        drawShape(canvas_.painter, shape_, centre, radius_, canvas_.thinWidth, colorOf(fill),
-                  colorOf(outline));
+        drawShape(canvas_.painter, shape_, centre, radius_, canvas_.thinWidth, colourOf(fill),
+                  colourOf(outline));
         return;
     }
     if (weights_.isNull()) makeWeights();
@@ -89,7 +89,7 @@ const QImage& Stamp::picture(std::int32_t fill, std::int32_t outline) {
 }
 
 void Stamp::colour(Coloured& coloured) const {
-    const QRgb in = colorOf(coloured.fill).rgb(), rim = colorOf(coloured.outline).rgb();
+    const QRgb in = colourOf(coloured.fill).rgb(), rim = colourOf(coloured.outline).rgb();
     const auto* from = reinterpret_cast<const QRgb*>(weights_.constBits());
     auto* to = reinterpret_cast<QRgb*>(coloured.image.bits());
     std::transform(from, from + weights_.width() * weights_.height(), to, [&](QRgb weight) {

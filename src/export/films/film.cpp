@@ -5,11 +5,11 @@
 #include "export/films/numbered.h"
 #include "export/films/page.h"
 #include "export/films/video.h"
+#include "files/path.h"
 
 #include <QFileInfo>
 #include <cerrno>
 #include <string_view>
-#include <system_error>
 
 namespace zentrik {
 
@@ -21,18 +21,21 @@ std::unique_ptr<FilmWriter> make(const std::string& path, const Editor& ed, cons
 }
 
 constexpr FilmFormat formats[] = {
-    {"Web page", "html", 25, 100, true, make<PageWriter>},
-    {"GIF", "gif", 20, 50, true, make<GifWriter>},
-    {"MP4 video", "mp4", 30, 100, false, make<Mp4Writer>},
-    {"WebM video", "webm", 30, 100, true, make<WebmWriter>},
-    {"Folder of numbered PNG pictures", "", 25, 100, true, make<NumberedWriter>},
+    {.name = "Web page", .suffix = "html", .makeWriter = make<PageWriter>},
+    {.name = "GIF", .suffix = "gif", .usualRate = 20, .highestRate = 50, .makeWriter = make<GifWriter>},
+    {.name = "MP4 video",
+     .suffix = "mp4",
+     .usualRate = 30,
+     .transparent = false,
+     .makeWriter = make<Mp4Writer>},
+    {.name = "WebM video", .suffix = "webm", .usualRate = 30, .makeWriter = make<WebmWriter>},
+    {.name = "Folder of numbered PNG pictures", .suffix = "", .makeWriter = make<NumberedWriter>},
 };
 static_assert(!anyShared(formats, [](const FilmFormat& format) { return std::string_view(format.name); }));
 
 // A film may take minutes: what can be known before is said before.
 std::string folderProblem(const std::string& path) {
     const QFileInfo folder(QFileInfo(QString::fromStdString(path)).absolutePath());
-    const auto inWords = [](int error) { return std::generic_category().message(error) + "."; };
     if (!folder.isDir()) return inWords(ENOENT);
     return folder.isWritable() ? "" : inWords(EACCES);
 }

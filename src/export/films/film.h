@@ -11,10 +11,10 @@
 namespace zentrik {
 
 struct FilmFormat {
-    const char* name;            // as a person chooses it
-    const char* suffix;          // of its file; empty for a folder
-    int usualRate, highestRate;  // pictures a second
-    bool transparent;            // can be
+    const char* name;                       // as a person chooses it
+    const char* suffix;                     // of its file; empty for a folder
+    int usualRate = 25, highestRate = 100;  // pictures a second
+    bool transparent = true;                // can be
     std::unique_ptr<FilmWriter> (*makeWriter)(const std::string& path, const Editor& ed,
                                               const FilmPlan& plan);
 };

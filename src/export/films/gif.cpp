@@ -26,7 +26,7 @@ int append(void* bytes, const std::uint8_t* data, const std::size_t count) {
 }  // namespace
 
 GifWriter::GifWriter(std::string path, const Editor& ed, const FilmPlan& plan)
-    : path_(std::move(path)), plan_(plan), paper_(colorOf(ed.BackColor).rgb()) {}
+    : path_(std::move(path)), plan_(plan), paper_(colourOf(ed.BackColor).rgb()) {}
 
 GifWriter::~GifWriter() {
     if (gif_ != nullptr) cgif_close(gif_);

@@ -1,5 +1,6 @@
 #include "export/films/numbered.h"
 
+#include "files/path.h"
 #include "files/write_file.h"
 
 #include <sys/stat.h>
@@ -15,12 +16,6 @@ namespace zentrik {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-std::string lastError() { return std::generic_category().message(errno) + "."; }
-
-}  // namespace
-
 NumberedWriter::NumberedWriter(std::string path, const Editor& ed, const FilmPlan& plan)
     : path_(std::move(path)),
       aside_(path_ + "." + std::to_string(::getpid()) + ".zentrik-part"),
@@ -35,7 +30,7 @@ NumberedWriter::~NumberedWriter() {
 std::string NumberedWriter::makeFolder() const {
     std::error_code error;
     if (fs::exists(fs::symlink_status(path_, error))) return "There is something of that name already.";
-    return ::mkdir(aside_.c_str(), 0777) == 0 ? "" : lastError();
+    return ::mkdir(aside_.c_str(), 0777) == 0 ? "" : inWords(errno);
 }
 
 std::string NumberedWriter::take(const Subject& subject) {
@@ -50,7 +45,7 @@ std::string NumberedWriter::take(const Subject& subject) {
 }
 
 std::string NumberedWriter::finish() {
-    if (::rename(aside_.c_str(), path_.c_str()) != 0) return lastError();
+    if (::rename(aside_.c_str(), path_.c_str()) != 0) return inWords(errno);
     taken_ = 0;
     return syncFolder(fs::path(path_).parent_path().string());
 }

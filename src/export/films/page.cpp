@@ -4,7 +4,9 @@
 #include "files/write_file.h"
 
 #include <QFile>
-#include <QStringList>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <map>
 #include <optional>
 
@@ -13,19 +15,10 @@ namespace zentrik {
 namespace {
 
 template <class Numbers>
-QByteArray listText(const Numbers& numbers) {
-    QByteArray text = "[";
-    for (const auto number : numbers) (text += QByteArray::number(static_cast<qint64>(number))) += ',';
-    if (text.size() > 1) text.chop(1);
-    return text + "]";
-}
-
-// Texts that hold nothing a JSON text must escape; quote: none where they are JSON already.
-QByteArray listText(const std::vector<QString>& texts, const char* quote) {
-    QByteArray text = "[";
-    for (const QString& it : texts) text += quote + it.toLatin1() + quote + ",\n";
-    if (text.size() > 1) text.chop(2);
-    return text + "]";
+QJsonArray listOf(const Numbers& numbers) {
+    QJsonArray list;
+    for (const auto number : numbers) list.append(static_cast<qint64>(number));
+    return list;
 }
 
 QByteArray player() {
@@ -109,19 +102,26 @@ void PageWriter::addNumber(std::uint64_t number) {
 }
 
 QByteArray PageWriter::film() const {
-    QByteArray chapters = "[";
+    QJsonArray styles, chapters;
+    for (const QString& style : tables_.styles)
+        styles.append(QJsonDocument::fromJson(style.toUtf8()).array());
     for (const Chapter& chapter : chapters_)
-        chapters += "{\"pictures\":" + QByteArray::number(static_cast<qint64>(chapter.pictures)) +
-                    ",\"points\":" + QByteArray::number(chapter.last.size()) +
-                    ",\"shapes\":" + listText(chapter.shapes) + ",\"places\":" + listText(chapter.points) +
-                    "},\n";
-    chapters.chop(2);
-    return "{\"width\":" + QByteArray::number(size_.width()) +
-           ",\"height\":" + QByteArray::number(size_.height()) +
-           ",\"rate\":" + QByteArray::number(plan_.rate) + ",\n\"styles\":" + listText(tables_.styles, "") +
-           ",\n\"outlines\":" + listText(tables_.outlines, "\"") +
-           ",\n\"images\":" + listText(tables_.images, "\"") + ",\n\"chapters\":" + chapters +
-           "],\n\"moves\":\"" + moves_.toBase64() + "\"}";
+        chapters.append(QJsonObject{{"pictures", static_cast<qint64>(chapter.pictures)},
+                                    {"points", static_cast<qint64>(chapter.last.size())},
+                                    {"shapes", listOf(chapter.shapes)},
+                                    {"places", listOf(chapter.points)}});
+    const auto texts = [](const std::vector<QString>& from) {
+        return QJsonArray::fromStringList(QStringList(from.begin(), from.end()));
+    };
+    const QJsonObject film{{"width", size_.width()},
+                           {"height", size_.height()},
+                           {"rate", plan_.rate},
+                           {"styles", styles},
+                           {"outlines", texts(tables_.outlines)},
+                           {"images", texts(tables_.images)},
+                           {"chapters", chapters},
+                           {"moves", QString::fromLatin1(moves_.toBase64())}};
+    return QJsonDocument(film).toJson(QJsonDocument::Compact);
 }
 
 // The moves grow with every picture, in four letters for three bytes; what they move seldom does.

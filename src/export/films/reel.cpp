@@ -14,7 +14,7 @@ namespace {
 // The step that a picture shows.
 std::int64_t stepOf(const Editor& ed, const FilmPlan& plan, std::int64_t picture) {
     const double milliseconds = 1000.0 * static_cast<double>(picture) / plan.rate;
-    return std::llround(milliseconds / ed.Timer1.interval);
+    return std::llround(milliseconds / ed.timerPeriod);
 }
 
 }  // namespace
@@ -25,7 +25,7 @@ std::int64_t stepsIn(const Editor& ed, double seconds) {
 }
 
 double playingTime(const Editor& ed, const FilmPlan& plan) {
-    return static_cast<double>(plan.steps) * ed.Timer1.interval / 1000.0;
+    return static_cast<double>(plan.steps) * ed.timerPeriod / 1000.0;
 }
 
 std::int64_t pictureCount(const Editor& ed, const FilmPlan& plan) {
@@ -58,8 +58,8 @@ bool Reel::step() {
     Editor& ed = subject_.ed;
     ++step_;
     if (!stepRun(ed)) return false;
-    fireworksDue_ += ed.Timer1.interval;
-    if (!ed.timerFireWorks.enabled || fireworksDue_ < ed.timerFireWorks.interval) return true;
+    fireworksDue_ += ed.timerPeriod;
+    if (!ed.timerFireWorks.enabled || fireworksDue_ < fireworksPeriod) return true;
     fireworksDue_ = 0;
     timerFireWorks_Timer(ed);
     return true;

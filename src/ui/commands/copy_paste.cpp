@@ -4,6 +4,7 @@
 #include "edit/command.h"
 #include "edit/compact.h"
 #include "host/host.h"
+#include "model/extent.h"
 #include "model/grid.h"
 #include "model/readout.h"
 #include "model/redraw.h"
@@ -17,22 +18,6 @@
 namespace zentrik {
 
 namespace {
-
-struct Extent {
-    double left = 1e300, top = 1e300, right = -1e300, bottom = -1e300;
-};
-
-Extent extentOf(const std::vector<Node>& nodes) {
-    Extent extent;
-    for (const Node& node : nodes) {
-        if (!node.Used) continue;
-        extent.left = std::min(extent.left, static_cast<double>(node.X));
-        extent.right = std::max(extent.right, static_cast<double>(node.X));
-        extent.top = std::min(extent.top, static_cast<double>(node.Y));
-        extent.bottom = std::max(extent.bottom, static_cast<double>(node.Y));
-    }
-    return extent;
-}
 
 // How far to move what reaches from low to high, so that its middle comes to a place and it stays inside.
 double shiftTo(double place, double low, double high, double room) {
@@ -86,8 +71,8 @@ void copyObject(Editor& ed, Host& host) {
 
 void pasteObject(Editor& ed, const std::string& text, PointF middle) {
     Reading reading = parseProject(text);
-    const bool empty = !reading.project || extentOf(reading.project->Nodes).left > 1e299;
-    if (empty) {
+    const auto used = [](const Node& node) { return node.Used; };
+    if (!reading.project || std::ranges::none_of(reading.project->Nodes, used)) {
         panel(ed, 5) = "The clipboard holds no Zentrik project.";
         return;
     }
