@@ -106,13 +106,13 @@ TEST(Overlays, FullInformation) {
 
 TEST(Overlays, TheirOrderDecidesTheColourLeftForTheTitle) {
     Editor ed = small();
-    EXPECT_EQ(overlayPage(ed, lineHeight).color, black);
+    EXPECT_EQ(overlayPage(ed, lineHeight).colour, black);
     ed.buttons.numbers = true;
-    EXPECT_EQ(overlayPage(ed, lineHeight).color, red);
+    EXPECT_EQ(overlayPage(ed, lineHeight).colour, red);
     ed.Links[1].Used = false;
-    EXPECT_EQ(overlayPage(ed, lineHeight).color, blue);
+    EXPECT_EQ(overlayPage(ed, lineHeight).colour, blue);
     ed.buttons.simple = true;
-    EXPECT_EQ(overlayPage(ed, lineHeight).color, black);
+    EXPECT_EQ(overlayPage(ed, lineHeight).colour, black);
     ed.buttons.data = true;
     const std::vector<TextRun> runs = overlayPage(ed, lineHeight).runs;
     EXPECT_EQ(runs.front().text, " 1 ");

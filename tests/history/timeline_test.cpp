@@ -9,8 +9,8 @@
 #include "scenes/scenes.h"
 #include "sim/run.h"
 #include "ui/commands/time_travel.h"
-#include "ui/undo.h"
 #include "ui/menus.h"
+#include "ui/undo.h"
 #include "undo_walk.h"
 
 #include <gtest/gtest.h>
