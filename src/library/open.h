@@ -1,7 +1,6 @@
 #pragma once
-// From a project's file to the model: whole or not at all.
+// From a file to a project: whole or not at all. project/hand_over.h makes it the model.
 
-#include "model/editor.h"
 #include "project/reader.h"
 
 #include <filesystem>
@@ -22,9 +21,5 @@ struct ProjectFile {
 ProjectFile readProject(const std::filesystem::path& path, const std::string& shown);
 
 void tellProblem(Host& host, const ProjectFile& file);
-
-// Puts a project in place of the model: title, global settings, records; and asks for a larger window if
-// it should have one.
-void handOver(Editor& ed, Host& host, Project project);
 
 }  // namespace zentrik

@@ -5,6 +5,7 @@
 #include "model/redraw.h"
 #include "model/store.h"
 #include "project/forms.h"
+#include "project/hand_over.h"
 #include "project/writer.h"
 
 namespace zentrik {

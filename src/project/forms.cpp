@@ -1,5 +1,6 @@
 #include "project/forms.h"
 
+#include "basics/from_chars.h"
 #include "basics/numbers.h"
 #include "project/columns.h"
 
@@ -25,7 +26,7 @@ std::string_view trimmed(std::string_view field) {
 template <class Number>
 bool readWhole(std::string_view text, Number& value) {
     const char* end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, value);
+    const auto result = from_chars(text.data(), end, value);
     return result.ec == std::errc{} && result.ptr == end;
 }
 
@@ -34,7 +35,7 @@ bool readSlowly(std::string_view text, double& value) {
     text = trimmed(text);
     if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
     const char* end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, value);
+    const auto result = from_chars(text.data(), end, value);
     if (result.ptr != end || result.ec == std::errc::invalid_argument) return false;
     if (result.ec == std::errc::result_out_of_range) value = leadingNumber(text);
     return std::isfinite(value);
