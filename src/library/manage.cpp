@@ -3,6 +3,7 @@
 #include "files/write_file.h"
 #include "host/host.h"
 #include "library/backups.h"
+#include "library/open.h"
 #include "library/percent.h"
 #include "library/zoo.h"
 #include "model/readout.h"

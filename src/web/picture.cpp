@@ -1,5 +1,6 @@
 #include "web/picture.h"
 
+#include "basics/colours.h"
 #include "model/shooter_aim.h"
 #include "model/store.h"
 
@@ -8,10 +9,6 @@
 namespace zentrik {
 
 namespace {
-
-// As display/colours.h has them.
-constexpr std::int32_t black = 0, white = 0xFFFFFF, red = 0xFF, green = 0xFF00, blue = 0xFF0000,
-                       yellow = 0xFFFF;
 
 LiveDisc disc(double x, double y, LiveShape shape, std::int32_t fill, std::int32_t outline) {
     return {static_cast<float>(x), static_cast<float>(y), static_cast<float>(shape),
