@@ -6,6 +6,7 @@ let seen = true;             // the picture is in sight
 let asked = false;           // for a frame
 let stale = true;            // something is to be drawn
 let before = 0, owed = 0;    // the last frame's time; steps that are due
+let told = 0;                // when the controls were shown last
 let held = null;             // where the pointer holds a node, twips
 
 async function unpacked(text) {
@@ -62,7 +63,8 @@ function frame(now) {
   if (stale) {
     stale = false;
     paint(live, page);
-    showTime();
+    // Numbers that run faster than eyes would cost more than the picture.
+    if (!playing || now - told > 150) showTime(), told = now;
   }
   if (playing) ask();
 }
