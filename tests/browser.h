@@ -34,8 +34,9 @@ inline QString browse(const TemporaryFolder& folder, const QStringList& what) {
 inline QImage shownBy(const std::string& page, const TemporaryFolder& folder, QSize size,
                       const QStringList& options = {}) {
     const QString shot = QString::fromStdString((folder.path / "shot.png").string());
-    browse(folder, options + QStringList{QString("--window-size=%1,%2").arg(size.width()).arg(size.height() + 200),
-                    "--screenshot=" + shot, QString::fromStdString("file://" + page)});
+    browse(folder,
+           options + QStringList{QString("--window-size=%1,%2").arg(size.width()).arg(size.height() + 200),
+                                 "--screenshot=" + shot, QString::fromStdString("file://" + page)});
     return QImage(shot).copy(QRect(QPoint(), size));
 }
 

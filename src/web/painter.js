@@ -90,7 +90,7 @@ function digitStamp(to, digit, ink) {
     letter.strokeText(digit, margin, margin + ascent);
     letter.globalAlpha = 1;
     letter.fillStyle = css(ink);
-    letter.fillText(digit, margin, margin + ascent);
+    for (let strike = 0; strike < 2; ++strike) letter.fillText(digit, margin, margin + ascent);  // thin strokes keep dark
   });
 }
 
