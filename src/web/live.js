@@ -30,7 +30,7 @@ function showTime() {
 }
 
 function ask() {
-  if (asked || !seen) return;
+  if (asked || !seen || !live) return;
   asked = true;
   requestAnimationFrame(frame);
 }

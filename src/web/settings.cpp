@@ -35,7 +35,7 @@ constexpr LiveSetting settings[] = {
     {"animation", &Buttons::animation},
     {"mnuWalls", &Marks::mnuWalls},
     {"mnuCeiling", &Marks::mnuCeiling},
-    {"mnuIgnoreBarriers", &Marks::mnuIgnoreBarriers},
+    {"mnuIgnoreBarriers", &Marks::mnuIgnoreBarriers, "Ignore barriers"},
     {"mnuReverseModel", &Marks::mnuReverseModel},
     {"mnuUseDirectional", &Marks::mnuUseDirectional},
     {"mnuCannonBallFocus", &Marks::mnuCannonBallFocus},
