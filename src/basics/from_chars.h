@@ -10,8 +10,10 @@ using std::from_chars;
 }
 #else
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -37,18 +39,36 @@ inline std::size_t realEnd(std::string_view text) {
     return skipDigits() > 0 ? at : mantissa;
 }
 
+// A number of few digits is a quotient of two doubles that are exact, so that one division rounds it right:
+// the clock's text is read so at every step.
+inline bool readBriefly(std::string_view text, double& value) {
+    constexpr double tens[] = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                               1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    const bool negative = text.starts_with('-');
+    if (negative) text.remove_prefix(1);
+    if (text.size() >= std::size(tens) || text.find_first_of("eE") < text.size()) return false;
+    double digits = 0;
+    const std::size_t point = std::min(text.find('.'), text.size() - 1);
+    for (const char c : text)
+        if (c != '.') digits = 10 * digits + (c - '0');
+    value = (negative ? -digits : digits) / tens[text.size() - 1 - point];
+    return true;
+}
+
 template <class Real>
 requires std::is_floating_point_v<Real> std::from_chars_result from_chars(const char* first, const char* last,
                                                                           Real& value) {
     const std::string_view text(first, static_cast<std::size_t>(last - first));
     const std::string number(text.substr(0, realEnd(text)));
     if (number.empty()) return {first, std::errc::invalid_argument};
+    const char* end = first + number.size();
     Real read = 0;
     if constexpr (std::is_same_v<Real, float>)
         read = std::strtof(number.c_str(), nullptr);
+    else if (readBriefly(number, value))
+        return {end, std::errc()};
     else
         read = std::strtod(number.c_str(), nullptr);
-    const char* end = first + number.size();
     const bool vanished = read == 0 && number.find_first_of("123456789") < number.find_first_of("eE");
     if (vanished || std::isinf(read)) return {end, std::errc::result_out_of_range};
     value = read;
