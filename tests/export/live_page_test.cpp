@@ -6,7 +6,6 @@
 #include "cli_rig.h"
 #include "edit/mouse.h"
 #include "export/picture.h"
-#include "failing_disk.h"
 #include "measure/state_hash.h"
 #include "model/redraw.h"
 #include "model/store.h"
@@ -215,6 +214,7 @@ TEST_F(LivePages, ObeyControlsInANarrowFrame) {
     std::string page = livePage(walker(), "7 a walker");
     putScript(page, R"(opened.then(async () => {
         const said = [playing, player.className];
+        part('settings').open = true;
         const hit = (key, shiftKey) => document.activeElement.dispatchEvent(
             new KeyboardEvent('keydown', {key, shiftKey, bubbles: true}));
         const press = id => part(id).click();
@@ -233,7 +233,7 @@ TEST_F(LivePages, ObeyControlsInANarrowFrame) {
         const number = document.querySelector('#sliders input[type=number]'), home = number.nextSibling;
         number.value = '7.25'; number.onchange(); said.push(live.get(0), number.previousSibling.value);
         home.click(); said.push(live.get(0), number.value);
-        part('settings').open = true; number.focus(); hit('s'); said.push(live.get(live.row('slow')));
+        number.focus(); hit('s'); said.push(live.get(live.row('slow')));
         number.blur(); hit('s'); said.push(live.get(live.row('slow')));
         said.push([...document.querySelectorAll('input, button')].filter(it => !it.labels?.length && !it.ariaLabel
             && !it.textContent.trim() && !it.getAttribute('aria-label')).length);
@@ -251,34 +251,6 @@ TEST_F(LivePages, ObeyControlsInANarrowFrame) {
     EXPECT_EQ(dom.section("<title>", 1).section("</title>", 0, 0).toStdString(),
               "false framed still 320 320 true true 3 2 0 true 1 scene 300 -1 7.25 5 0.5 0.5 0 1 0 true 7 a "
               "walker.bot");
-}
-
-TEST_F(LivePages, AGalleryIsWholeOrNotThere) {
-    const std::vector<std::string> words{"gallery", sample("7 a walker"), sample("birds"), "-o",
-                                         file("site") + "/"};
-    for (const DiskCall call : {DiskCall::write, DiskCall::rename}) {
-        const FailingDisk full(call, call == DiskCall::write ? 3 : 8);
-        EXPECT_EQ(zentrikCli(words).status, 1);
-        EXPECT_TRUE(FailingDisk::hasFailed());
-        EXPECT_EQ(entriesIn(folder_.path), 0U);
-    }
-    EXPECT_EQ(zentrikCli({"gallery", sample("birds"), sample("birds"), "-o", file("site")}).error,
-              "zentrik-cli gallery: " + file("site") + ": Two projects are called birds.\n");
-    EXPECT_EQ(entriesIn(folder_.path), 0U);
-    ASSERT_EQ(zentrikCli(words).error, "");
-    EXPECT_EQ(entriesIn(folder_.path / "site" / "projects"), 6U);
-    EXPECT_TRUE(contentOf(file("site/projects/birds.bot")) == contentOf(sample("birds")));
-    const std::string index = contentOf(file("site/index.html"));
-    for (const char* link : {"projects/7%20a%20walker.html", "projects/birds.png", "projects/birds.bot"})
-        EXPECT_NE(index.find(link), std::string::npos) << link;
-    EXPECT_NE(zentrikCli(words).error.find("There is something of that name already."), std::string::npos);
-    EXPECT_LT(fs::file_size(file("site/projects/7 a walker.html")), 30'000U) << "the module is stored once";
-
-    ASSERT_EQ(zentrikCli({"export", sample("7 a walker"), "--live", "-o", file("page.html")}).error, "");
-    EXPECT_LT(fs::file_size(file("page.html")), 220'000U);
-    EXPECT_EQ(zentrikCli({"export", sample("birds"), "--live", "-o", file("page.png")}).status, 2);
-    EXPECT_EQ(zentrikCli({"export", sample("birds"), "--live", "--steps", "9", "-o", file("b.html")}).status,
-              2);
 }
 
 }  // namespace

@@ -88,7 +88,7 @@ QByteArray dataOf(const Editor& ed, const std::string& name) {
 }
 
 QByteArray moduleText() { return "const moduleText = '" + packed(pagePart("live.wasm")) + "';\n"; }
-QByteArray scriptText() { return pageParts({"player.js", "creature.js", "painter.js", "live.js"}); }
+QByteArray scriptText() { return pageParts({"player.js", "creature.js", "painter.js", "settings.js", "live.js"}); }
 
 // Nothing is fetched, whatever a project says.
 QByteArray policy(const QByteArray& scripts) {
