@@ -46,13 +46,23 @@ protected:
         return process.readAllStandardOutput().toStdString();
     }
 
-    // Has a page run a script once its creature is there; what that says becomes the page's title.
-    std::string saidBy(std::string page, const std::string& script, const QStringList& options = {}) {
-        putScript(page, "opened.then(async () => document.title = await (async () => {" + script + "})());");
+    // What a page's title says at last. The browser's own clock may run out while a thread unpacks the
+    // module: then once more.
+    std::string titleOf(const char* name, const QStringList& options = {}) {
+        for (int tries = 0; tries < 10; ++tries) {
+            const QString dom =
+                browse(folder_, options + QStringList{"--virtual-time-budget=5000", "--dump-dom", url(name)});
+            const QString title = dom.section("<title>", 1).section("</title>", 0, 0);
+            if (title.startsWith("said ")) return title.mid(5).toStdString();
+        }
+        return "nothing";
+    }
+    // Has a page run a script once its creature is there; gives what that says.
+    std::string saidBy(std::string page, const std::string& script) {
+        putScript(page, "opened.then(async () => document.title = 'said ' + await (async () => {" + script +
+                            "})());");
         putFile(file("page.html"), page);
-        const QString dom = browse(
-            folder_, options + QStringList{"--virtual-time-budget=5000", "--dump-dom", url("page.html")});
-        return dom.section("<title>", 1).section("</title>", 0, 0).toStdString();
+        return titleOf("page.html");
     }
     // The page allows no script but its own, and this one.
     static void putScript(std::string& page, const std::string& script) {
@@ -162,9 +172,11 @@ TEST_F(LivePages, ABrowserShowsWhatTheWindowShows) {
         putFile(file("page.html"), page);
         DisplayScene(ed, -1, -1);
         const QImage scene = sceneImage(Subject(ed), {});
-        const QImage shown = shownBy(file("page.html"), folder_, scene.size() + QSize(0, 60),
-                                     {"--force-prefers-reduced-motion", "--virtual-time-budget=3000"})
-                                 .copy(0, 1, scene.width(), scene.height());
+        QImage shown;
+        for (int tries = 0; tries < 10 && difference(shown, scene).perMille > 8; ++tries)
+            shown = shownBy(file("page.html"), folder_, scene.size() + QSize(0, 60),
+                            {"--force-prefers-reduced-motion", "--virtual-time-budget=3000"})
+                        .copy(0, 1, scene.width(), scene.height());
         // No more than smoothing makes; numbers are lettered by the browser.
         EXPECT_LE(difference(shown, scene).perMille, 8);
         EXPECT_LE(softDifference(shown, scene).largest, ed.buttons.numbers ? 60 : 30);
@@ -240,15 +252,13 @@ TEST_F(LivePages, ObeyControlsInANarrowFrame) {
         URL.createObjectURL = blob => (said.push(blob.size === live.bytesOf('save').length), 'data:,');
         HTMLAnchorElement.prototype.click = function() { said.push(this.download); };
         press('take');
-        parent.postMessage(said.join(' '), '*');
+        parent.postMessage('said ' + said.join(' '), '*');
     });)");
     putFile(file("page.html"), page);
     putFile(file("frame.html"),
             "<iframe src=page.html width=320 height=480 style='border: 0'></iframe><script>"
             "addEventListener('message', event => document.title = event.data);</script>");
-    const QString dom = browse(folder_, {"--force-prefers-reduced-motion", "--virtual-time-budget=5000",
-                                         "--dump-dom", url("frame.html")});
-    EXPECT_EQ(dom.section("<title>", 1).section("</title>", 0, 0).toStdString(),
+    EXPECT_EQ(titleOf("frame.html", {"--force-prefers-reduced-motion"}),
               "false framed still 320 320 true true 3 2 0 true 1 scene 300 -1 7.25 5 0.5 0.5 0 1 0 true 7 a "
               "walker.bot");
 }
