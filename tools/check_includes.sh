@@ -26,13 +26,15 @@ display           painting  MODEL display/canvas
 edit              none      MODEL sim effects
 history           none      MODEL sim
 measure           none      MODEL sim sim/contacts
+web               none      MODEL sim effects project edit history measure
 CORE                        MODEL sim effects files project library edit history measure
 ui/commands       none      CORE
 ui                none      CORE ui/commands
 settings          none      MODEL project ui/commands
 export            Q.*       CORE display/canvas display
-export/films      Q.*       CORE display/canvas display export
-SHOWN                       CORE settings display/canvas display export export/films
+export/pages      Q.*       CORE web display/canvas display export
+export/films      Q.*       CORE display/canvas display export export/pages
+SHOWN                       CORE settings display/canvas display export export/pages export/films
 cli               Q.*       SHOWN
 cli/runs          Q.*       SHOWN cli
 cli/commands      Q.*       SHOWN cli cli/runs

@@ -1,5 +1,7 @@
 #include "basics/numbers.h"
 
+#include "basics/from_chars.h"
+
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -67,7 +69,7 @@ double leadingNumber(std::string_view text) {
     const bool negative = !text.empty() && text.front() == '-';
     if (!text.empty() && (negative || text.front() == '+')) text.remove_prefix(1);
     double value = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    const auto result = from_chars(text.data(), text.data() + text.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
         const std::size_t exponent = text.find_first_of("eE");
         const bool tiny =
@@ -105,7 +107,7 @@ std::string fixedText(double value, int decimals) {
     // The decimal that the 32-bit real stands for, a hair away from zero: only exact halves notice.
     double decimal = 0;
     const auto shown = std::to_chars(buffer, buffer + sizeof buffer, static_cast<float>(value)).ptr;
-    std::from_chars(buffer, shown, decimal);
+    from_chars(buffer, shown, decimal);
     decimal = std::nextafter(decimal, std::copysign(std::numeric_limits<double>::infinity(), decimal));
     const auto end =
         std::to_chars(buffer, buffer + sizeof buffer, decimal, std::chars_format::fixed, decimals).ptr;

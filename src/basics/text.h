@@ -1,8 +1,9 @@
 #pragma once
 // What is asked of texts everywhere. Letters are those of ASCII; no locale plays a part.
 
+#include "basics/from_chars.h"
+
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,7 +30,7 @@ template <class Number>
 std::optional<Number> readAll(std::string_view text) {
     Number value = 0;
     const char* end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, value);
+    const auto result = from_chars(text.data(), end, value);
     if (result.ec != std::errc{} || result.ptr != end) return {};
     return value;
 }

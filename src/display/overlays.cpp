@@ -1,7 +1,7 @@
 #include "display/overlays.h"
 
+#include "basics/colours.h"
 #include "basics/numbers.h"
-#include "display/canvas/colours.h"
 #include "model/store.h"
 
 #include <utility>

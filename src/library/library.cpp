@@ -14,6 +14,7 @@
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
+#include "project/hand_over.h"
 #include "project/writer.h"
 
 #include <algorithm>

@@ -6,11 +6,13 @@
 #include "host/host.h"
 #include "host/questions.h"
 #include "library/backups.h"
+#include "library/open.h"
 #include "library/percent.h"
 #include "library/zoo.h"
 #include "model/readout.h"
 #include "model/redraw.h"
 #include "model/store.h"
+#include "project/hand_over.h"
 
 #include <fcntl.h>
 

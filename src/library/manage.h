@@ -1,11 +1,14 @@
 #pragma once
 // What can be done with the file of the project that the list's text names.
 
-#include "library/open.h"
+#include "model/editor.h"
+#include "project/reader.h"
 
 #include <optional>
 
 namespace zentrik {
+
+class Host;
 
 // Lets the person choose among the former versions. None when there are none, when none was chosen or when
 // it cannot be read; message boxes tell.

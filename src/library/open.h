@@ -1,5 +1,5 @@
 #pragma once
-// From a project's file to the model: whole or not at all.
+// From a file to a project: whole or not at all. project/hand_over.h makes it the model.
 
 #include "model/editor.h"
 #include "project/reader.h"
@@ -25,9 +25,5 @@ void tellProblem(Host& host, const ProjectFile& file);
 
 // Makes a project the model, with nothing selected, and shows it.
 void becomeModel(Editor& ed, Host& host, Project project);
-
-// The first part of it alone: title, global settings, records; and asks for a larger window if
-// it should have one.
-void handOver(Editor& ed, Host& host, Project project);
 
 }  // namespace zentrik

@@ -9,6 +9,7 @@
 #include "library/zoo.h"
 #include "model/redraw.h"
 #include "model/store.h"
+#include "project/hand_over.h"
 #include "sim/run.h"
 
 #include <algorithm>

@@ -3,6 +3,7 @@
 #include "library/open.h"
 #include "library/zoo.h"
 #include "project/forms.h"
+#include "project/hand_over.h"
 #include "project/writer.h"
 
 namespace zentrik {

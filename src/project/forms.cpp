@@ -1,5 +1,6 @@
 #include "project/forms.h"
 
+#include "basics/from_chars.h"
 #include "basics/numbers.h"
 #include "basics/text.h"
 #include "project/columns.h"
@@ -19,7 +20,7 @@ bool readSlowly(std::string_view text, double& value) {
     text = trimmed(text);
     if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
     const char* end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, value);
+    const auto result = from_chars(text.data(), end, value);
     if (result.ptr != end || result.ec == std::errc::invalid_argument) return false;
     if (result.ec == std::errc::result_out_of_range) value = leadingNumber(text);
     return std::isfinite(value);

@@ -1,6 +1,6 @@
 // What stands on the screen after what a person does, pixel by pixel; a fresh paint might show more.
 
-#include "display/canvas/colours.h"
+#include "basics/colours.h"
 #include "rig.h"
 #include "window_rig.h"
 

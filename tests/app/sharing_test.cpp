@@ -2,6 +2,8 @@
 
 #include "app/bars/share_button.h"
 #include "app/sharing/recording.h"
+#include "cli_rig.h"
+#include "export/pages/live_page.h"
 #include "failing_disk.h"
 #include "window_rig.h"
 
@@ -199,6 +201,30 @@ TEST_F(SharingTest, SavesTheTableOfTheSelectedNode) {
     EXPECT_NE(table.find("node 1 x"), std::string::npos) << table.substr(0, 200);
     EXPECT_EQ(table.find("node 2 x"), std::string::npos);
     EXPECT_EQ(ed().Cycles, 0) << "the window's model stays where it is";
+}
+
+// Of the project as it is saved, with the same options.
+TEST_F(SharingTest, ALivePageIsTheCompanionPrograms) {
+    if (!whyNoLivePages().empty()) GTEST_SKIP() << "wants the packages of tools/packages_web.txt";
+    find<QComboBox>("lstSaved")->setEditText("my creature");
+    press("save");
+    name(out("page"));
+    share("shareLive");
+    EXPECT_EQ(panelText(5), "Saved page.html");
+    ASSERT_EQ(
+        zentrikCli({"export", folder_.path / "zoo" / "my creature.bot", "--live", "-o", out("other.html")})
+            .error,
+        "");
+    EXPECT_TRUE(contentOf(out("page.html")) == contentOf(out("other.html")));
+    choose("mnuWalls");
+    name(out("open"));
+    share("shareLive");
+    ASSERT_EQ(zentrikCli({"export", folder_.path / "zoo" / "my creature.bot", "--live", "--walls", "off",
+                          "-o", out("other.html")})
+                  .error,
+              "");
+    EXPECT_TRUE(contentOf(out("open.html")) == contentOf(out("other.html")));
+    EXPECT_FALSE(contentOf(out("page.html")) == contentOf(out("open.html")));
 }
 
 TEST_F(SharingTest, ACancelledFilmAndAClosedWindowLeaveNothing) {

@@ -3,6 +3,7 @@
 #include "cli/runs/model.h"
 #include "cli_rig.h"
 #include "export/films/film.h"
+#include "export/pages/live_page.h"
 #include "export/table.h"
 #include "failing_disk.h"
 #include "wants.h"
@@ -93,6 +94,36 @@ TEST_F(ExportCommand, SaysWhatIsWrongAndLeavesNothing) {
     EXPECT_EQ(said.status, 1);
     EXPECT_NE(said.error.find("No space left"), std::string::npos);
     EXPECT_EQ(entriesIn(folder_.path), 0U);
+}
+
+TEST_F(ExportCommand, AGalleryIsWholeOrNotThere) {
+    if (!whyNoLivePages().empty()) GTEST_SKIP() << "wants the packages of tools/packages_web.txt";
+    const std::vector<std::string> words{"gallery", sample("7 a walker"), sample("birds"), "-o",
+                                         file("site") + "/"};
+    for (const DiskCall call : {DiskCall::write, DiskCall::rename}) {
+        const FailingDisk full(call, call == DiskCall::write ? 3 : 8);
+        EXPECT_EQ(zentrikCli(words).status, 1);
+        EXPECT_TRUE(FailingDisk::hasFailed());
+        EXPECT_EQ(entriesIn(folder_.path), 0U);
+    }
+    EXPECT_EQ(zentrikCli({"gallery", sample("birds"), sample("birds"), "-o", file("site")}).error,
+              "zentrik-cli gallery: " + file("site") + ": Two projects are called birds.\n");
+    EXPECT_EQ(entriesIn(folder_.path), 0U);
+    ASSERT_EQ(zentrikCli(words).error, "");
+    EXPECT_EQ(entriesIn(folder_.path / "site" / "projects"), 6U);
+    EXPECT_TRUE(contentOf(file("site/projects/birds.bot")) == contentOf(sample("birds")));
+    const std::string index = contentOf(file("site/index.html"));
+    for (const char* link : {"projects/7%20a%20walker.html", "projects/birds.png", "projects/birds.bot"})
+        EXPECT_NE(index.find(link), std::string::npos) << link;
+    EXPECT_NE(zentrikCli(words).error.find("There is something of that name already."), std::string::npos);
+    EXPECT_LT(std::filesystem::file_size(file("site/projects/7 a walker.html")), 30'000U)
+        << "the module is stored once";
+
+    ASSERT_EQ(zentrikCli({"export", sample("7 a walker"), "--live", "-o", file("page.html")}).error, "");
+    EXPECT_LT(std::filesystem::file_size(file("page.html")), 220'000U);
+    EXPECT_EQ(zentrikCli({"export", sample("birds"), "--live", "-o", file("page.png")}).status, 2);
+    EXPECT_EQ(zentrikCli({"export", sample("birds"), "--live", "--steps", "9", "-o", file("b.html")}).status,
+              2);
 }
 
 }  // namespace

@@ -2,9 +2,9 @@
 
 #include "display/overlays.h"
 
+#include "basics/colours.h"
 #include "basics/numbers.h"
 #include "desk.h"
-#include "display/canvas/colours.h"
 #include "scenes/scenes.h"
 #include "ui/commands/model_information.h"
 

@@ -2,6 +2,7 @@
 
 #include "export/films/film.h"
 
+#include "browser.h"
 #include "failing_disk.h"
 #include "model/store.h"
 #include "pictures.h"
@@ -96,34 +97,6 @@ TEST_F(Films, ATransparentGifIsClearWhereNothingIsDrawn) {
         reel.next();
     }
     EXPECT_FALSE(reel.next()) << "the film is shorter than planned";
-}
-
-// Runs a browser without a window; gives what it printed.
-QString browse(const TemporaryFolder& folder, const QStringList& what) {
-    const QStringList options{
-        "--headless",
-        "--no-sandbox",
-        "--disable-gpu",
-        "--disable-quic",
-        "--no-first-run",
-        "--disable-background-networking",
-        "--disable-component-update",
-        "--disable-sync",
-        "--hide-scrollbars",
-        "--user-data-dir=" + QString::fromStdString((folder.path / "browser").string())};
-    QProcess process;
-    process.setStandardErrorFile(QProcess::nullDevice());
-    process.start("chromium", options + what);
-    EXPECT_TRUE(process.waitForFinished(120000));
-    return QString::fromUtf8(process.readAllStandardOutput());
-}
-
-// A page's first rows, as wide as the browser's window.
-QImage shownBy(const std::string& page, const TemporaryFolder& folder, QSize size) {
-    const QString shot = QString::fromStdString((folder.path / "shot.png").string());
-    browse(folder, {QString("--window-size=%1,%2").arg(size.width()).arg(size.height() + 200),
-                    "--screenshot=" + shot, QString::fromStdString("file://" + page)});
-    return QImage(shot).copy(QRect(QPoint(), size));
 }
 
 TEST_F(Films, APagePlaysAndObeysKeysAndSlider) {

@@ -5,6 +5,7 @@
 #include "library/open.h"
 #include "library/zoo.h"
 #include "model/store.h"
+#include "project/hand_over.h"
 #include "settings/first_run.h"
 
 namespace zentrik {

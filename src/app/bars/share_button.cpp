@@ -23,6 +23,8 @@ constexpr ShareRow rows[] = {
     {Share::savePicture, "sharePicture", "&Save Picture...", "Saves the scene as PNG, SVG or PDF"},
     {Share::recordAnimation, "shareFilm", "&Record Animation...",
      "Makes a film of the run that begins here: a GIF, a page for browsers, a video or numbered pictures"},
+    {Share::saveLivePage, "shareLive", "Save &Live Page...",
+     "Makes a page for browsers in which the creature lives: it can be dragged, slowed down and taken home"},
     {Share::saveTable, "shareTable", "Save &Table...",
      "Writes the run that begins here as a table, a row a step"},
 };

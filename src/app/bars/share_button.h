@@ -6,7 +6,7 @@
 namespace zentrik {
 
 // What leaves the program.
-enum class Share { copyPicture, savePicture, recordAnimation, saveTable };
+enum class Share { copyPicture, savePicture, recordAnimation, saveLivePage, saveTable };
 
 // The small button at the right end of the menu bar's row, and its menu.
 class ShareButton : public QToolButton {

@@ -2,6 +2,7 @@
 
 #include "app/boxes/desktop_host.h"
 #include "app/boxes/file_name_box.h"
+#include "export/pages/live_page.h"
 #include "export/table.h"
 #include "files/write_file.h"
 #include "library/zoo.h"
@@ -41,6 +42,8 @@ void Sharing::begin(Share what) {
             return savePicture();
         case Share::recordAnimation:
             return recordAnimation();
+        case Share::saveLivePage:
+            return saveLivePage();
         case Share::saveTable:
             return saveTable();
     }
@@ -88,10 +91,22 @@ void Sharing::savePicture() {
     const PictureFile made = pictureFile(subject, picture_.format, picture_.look);
     const std::string problem =
         made.problem.empty() ? writeFile(file.toStdString(), made.bytes) : made.problem;
+    saved(file, problem);
+}
+
+void Sharing::saved(const QString& file, const std::string& problem) {
     const QString name = QFileInfo(file).fileName();
     if (problem.empty()) return say("Saved " + name);
     host_.messageBox(name.toStdString() + " could not be saved.\n" + problem, "Zentrik",
                      BoxIcon::exclamation);
+}
+
+void Sharing::saveLivePage() {
+    if (const std::string problem = whyNoLivePages(); !problem.empty())
+        return host_.messageBox(problem, "Zentrik", BoxIcon::information);
+    const QString file = askName("Live page", "html");
+    if (!file.isEmpty())
+        saved(file, writeFile(file.toStdString(), livePage(ed_, fileNameOf(ed_).toStdString())));
 }
 
 // One thing at a time.

@@ -36,11 +36,13 @@ private:
     void savePicture();
     void recordAnimation();
     void makeFilm(const std::shared_ptr<const Editor>& from, const QString& file);
+    void saveLivePage();
     void saveTable();
     bool isBusy();
     void work(const char* title, const QString& file, Recording::Job job);
     QString askName(const QString& kind, const QString& suffix);
     void say(const QString& text);
+    void saved(const QString& file, const std::string& problem);
 };
 
 }  // namespace zentrik

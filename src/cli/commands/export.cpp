@@ -3,16 +3,15 @@
 #include "cli/files.h"
 #include "cli/progress.h"
 #include "cli/runs/model.h"
+#include "cli/runs/painting.h"
 #include "export/films/film.h"
+#include "export/pages/live_page.h"
 #include "export/table.h"
 #include "export/thumbnail.h"
 #include "sim/model_run.h"
 
-#include <QGuiApplication>
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
-#include <memory>
 
 namespace zentrik::cli {
 
@@ -26,6 +25,7 @@ constexpr OptionRow options[] = {
     {nullptr, "scale", "S", "Picture elements to a pixel of the window, 1 to 8; 1 as usual."},
     {nullptr, "size", "N", "A picture of the model alone, at most N picture elements wide and high."},
     {nullptr, "transparent", nullptr, "Leave the background out, where the format can."},
+    {nullptr, "live", nullptr, "With NAME.html, a page in which the creature lives, in place of a film."},
     {nullptr, "rate", "N", "The film's pictures a second; 20 for GIF, 25 or 30 for others as usual."},
 };
 
@@ -52,18 +52,6 @@ const FilmFormat* filmFormat(const std::string& name) {
     const auto found = std::find_if(formats.begin(), formats.end(),
                                     [&](const FilmFormat& format) { return name == suffixOf(format); });
     return found == formats.end() ? nullptr : &*found;
-}
-
-// Fonts and pictures need one while they are used; a display they need not.
-std::unique_ptr<QGuiApplication> paintingApplication() {
-    static int count = 1;
-    static char name[] = "zentrik-cli", *names[] = {name, nullptr};
-    if (QCoreApplication::instance() != nullptr) return nullptr;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
-        if (type >= QtCriticalMsg) std::fprintf(stderr, "%s\n", qPrintable(text));
-    });
-    return std::make_unique<QGuiApplication>(count, names);
 }
 
 Look lookOf(const Arguments& arguments) {
@@ -135,13 +123,29 @@ ExitStatus exportTable(Editor& ed, const std::string& file, const Arguments& arg
     return stoppedEarly(arguments, stopped);
 }
 
+// A page begins with the model as it stands, and has its own settings.
+ExitStatus exportLivePage(Editor& ed, const std::string& file, const Arguments& arguments, Streams& streams) {
+    for (const char* option : {"steps", "time", "scale", "size", "transparent", "rate"})
+        if (arguments.has(option))
+            throw Failure{wrongUse, std::string("--") + option + " is of no use with --live."};
+    if (const std::string why = whyNoLivePages(); !why.empty()) throw Failure{finding, why};
+    const std::string& from = arguments.operands.front();
+    findSprites(ed, from);
+    writeBytes(file, livePage(ed, projectName(from)), streams);
+    return fine;
+}
+
 ExitStatus run(const Arguments& arguments, Streams& streams) {
     const std::string file = arguments.value("out").value_or("");
     if (file.empty()) throw Failure{wrongUse, "-o must say which file to write."};
     const std::string name = formatName(arguments, file);
     Editor ed = openModel(arguments.operands.front(), arguments, streams);
-    if (name == "csv") return exportTable(ed, file, arguments, streams);
+    if (name == "csv" && !arguments.has("live")) return exportTable(ed, file, arguments, streams);
     const auto application = paintingApplication();
+    if (arguments.has("live")) {
+        if (name != "html") throw Failure{wrongUse, "--live makes a page: NAME.html."};
+        return exportLivePage(ed, file, arguments, streams);
+    }
     for (const PictureFormatRow& format : pictureFormats())
         if (name == format.suffix) return exportPicture(ed, format, file, arguments, streams);
     if (const FilmFormat* format = filmFormat(name)) return exportFilm(ed, *format, file, arguments, streams);

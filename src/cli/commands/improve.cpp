@@ -6,7 +6,7 @@
 #include "cli/runs/experiment.h"
 #include "cli/runs/model.h"
 #include "host/quiet_host.h"
-#include "library/open.h"
+#include "project/hand_over.h"
 #include "project/writer.h"
 
 #include <nlopt.hpp>

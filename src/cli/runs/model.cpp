@@ -5,7 +5,7 @@
 #include "cli/numbers.h"
 #include "cli/runs/settable.h"
 #include "host/quiet_host.h"
-#include "library/open.h"
+#include "project/hand_over.h"
 #include "settings/first_run.h"
 #include "sim/step.h"
 

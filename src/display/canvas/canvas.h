@@ -2,7 +2,7 @@
 // A drawing area given in twips and painted in the device's own pixels, so that every mark is crisp at
 // any device pixel ratio.
 
-#include "display/canvas/colours.h"
+#include "basics/colours.h"
 
 #include <QColor>
 #include <QPainter>

@@ -1,5 +1,6 @@
 #pragma once
 #include "export/films/film_writer.h"
+#include "files/new_folder.h"
 
 namespace zentrik {
 
@@ -7,20 +8,17 @@ namespace zentrik {
 class NumberedWriter : public FilmWriter {
 public:
     NumberedWriter(std::string path, const Editor& ed, const FilmPlan& plan);
-    ~NumberedWriter() override;
 
     std::string take(const Subject& subject) override;
-    std::string finish() override;
+    std::string finish() override { return folder_.finish(); }
     double expectedSize(double part) const override { return size_ / part; }
 
 private:
-    const std::string path_, aside_;  // the latter while it grows
+    NewFolder folder_;
     const FilmPlan plan_;
     const std::size_t digits_;
     std::int64_t taken_ = 0;
     double size_ = 0;  // of what is taken, bytes
-
-    std::string makeFolder() const;
 };
 
 }  // namespace zentrik

@@ -1,9 +1,9 @@
 #include "export/films/page.h"
 
 #include "display/scene.h"
+#include "export/pages/page_text.h"
 #include "files/write_file.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -21,10 +21,7 @@ QJsonArray listOf(const Numbers& numbers) {
     return list;
 }
 
-QByteArray player() {
-    QFile file(":/player.html");
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+QByteArray playerText() { return pageParts({"player.js", "film.js"}); }
 
 }  // namespace
 
@@ -126,7 +123,7 @@ QByteArray PageWriter::film() const {
 
 // The moves grow with every picture, in four letters for three bytes; what they move seldom does.
 double PageWriter::expectedSize(double part) const {
-    static const auto playerSize = static_cast<double>(player().size());
+    static const auto playerSize = static_cast<double>(pagePart("player.html").size() + playerText().size());
     double seldom = 0;
     for (const Chapter& chapter : chapters_)
         seldom += 4 * static_cast<double>(chapter.shapes.size() + chapter.points.size());
@@ -137,9 +134,11 @@ double PageWriter::expectedSize(double part) const {
 
 std::string PageWriter::finish() {
     endStill();
-    QByteArray page = player();
-    page.replace("@FILM@", film());
-    page.replace("@TITLE@", (title_.isEmpty() ? QString("Zentrik") : title_).toHtmlEscaped().toUtf8());
+    const QByteArray page =
+        pageText("player.html", {{"TITLE", pageTitle(title_)},
+                                 {"ROLE", "role=\"img\""},
+                                 {"DATA", "<script type=\"application/json\" id=\"film\">" + film() +
+                                              "</script>\n<script>\n" + playerText() + "</script>"}});
     return writeFile(path_, {page.constData(), static_cast<std::size_t>(page.size())});
 }
 

@@ -1,46 +1,4 @@
-<!DOCTYPE html>
-<html lang="en">
-<head>
-<meta charset="utf-8">
-<meta name="viewport" content="width=device-width, initial-scale=1">
-<title>@TITLE@</title>
-<style>
-  :root { color-scheme: light dark; }
-  body { margin: 0; font: 14px sans-serif; }
-  #player { background: Canvas; }
-  #player:fullscreen { display: flex; flex-direction: column; justify-content: center; }
-  canvas { display: block; margin: 0 auto; }
-  #controls { display: flex; gap: 8px; align-items: center; padding: 6px 8px; }
-  #time { flex: 1; min-width: 60px; }
-  #clock { font-variant-numeric: tabular-nums; }
-  button { width: 36px; height: 28px; padding: 0; border: 0; border-radius: 4px; background: none; }
-  button:hover { background: #8884; }
-  svg { width: 20px; height: 20px; fill: currentColor; vertical-align: middle; }
-  .playing .when-still, .still .when-playing { display: none; }
-</style>
-</head>
-<body>
-<main id="player">
-  <canvas id="scene" role="img" aria-label="@TITLE@">An animation that your browser cannot show.</canvas>
-  <div id="controls" role="group" aria-label="Player">
-    <button id="play" title="Play or pause (Space)">
-      <svg class="when-still" viewBox="0 0 20 20"><path d="M4 2l14 8-14 8z"/></svg>
-      <svg class="when-playing" viewBox="0 0 20 20"><path d="M4 2h4v16H4zM12 2h4v16h-4z"/></svg>
-    </button>
-    <input id="time" type="range" min="0" value="0" step="1" aria-label="Time" title="Time (arrow keys)">
-    <span id="clock"></span>
-    <button id="full" aria-label="Full screen" title="Full screen (F)">
-      <svg viewBox="0 0 20 20"><path d="M2 2h6v2H4v4H2zM12 2h6v6h-2V4h-4zM2 12h2v4h4v2H2zM16 12h2v6h-6v-2h4z"/></svg>
-    </button>
-  </div>
-</main>
-<script type="application/json" id="film">@FILM@</script>
-<script>
-'use strict';
-const film = JSON.parse(document.getElementById('film').textContent);
-const part = id => document.getElementById(id);
-const player = part('player'), scene = part('scene'), time = part('time'), play = part('play');
-const pen = scene.getContext('2d');
+const film = JSON.parse(part('film').textContent);
 
 // The numbers of the film: groups of seven bits, the lowest first. A 0 is followed by how many more there are.
 function reader(text) {
@@ -153,17 +111,6 @@ function show(picture) {
   part('clock').textContent = seconds(shown) + ' / ' + seconds(pictures.length) + ' s';
 }
 
-function fit() {
-  const room = document.fullscreenElement ? innerHeight - part('controls').offsetHeight : Infinity;
-  const width = Math.min(document.documentElement.clientWidth, room * film.width / film.height);
-  const height = width * film.height / film.width;
-  scene.style.width = width + 'px';
-  scene.style.height = height + 'px';
-  scene.width = Math.round(width * devicePixelRatio);
-  scene.height = Math.round(height * devicePixelRatio);
-  draw(pictures[shown]);
-}
-
 function tick(now) {
   if (!playing) return;
   // A frame's time may lie just before the moment at which it was asked for.
@@ -174,8 +121,7 @@ function tick(now) {
 
 function setPlaying(on) {
   playing = on;
-  player.className = on ? 'playing' : 'still';
-  play.setAttribute('aria-label', on ? 'Pause' : 'Play');
+  showPlaying(on);
   begun = performance.now() - shown * 1000 / film.rate;
   if (on) requestAnimationFrame(tick);
 }
@@ -186,11 +132,6 @@ function goTo(picture) {
   show(Math.max(0, Math.min(pictures.length - 1, picture)));
 }
 
-function toggleFull() {
-  if (document.fullscreenElement) document.exitFullscreen();
-  else player.requestFullscreen();
-}
-
 const keys = {
   ' ': () => setPlaying(!playing),
   ArrowLeft: event => goTo(shown - (event.shiftKey ? film.rate : 1)),
@@ -199,17 +140,14 @@ const keys = {
   End: () => goTo(pictures.length - 1),
   f: toggleFull,
 };
-addEventListener('keydown', event => {
-  const act = keys[event.key.length === 1 ? event.key.toLowerCase() : event.key];
-  if (!act || event.ctrlKey || event.altKey || event.metaKey) return;
-  if (event.key === ' ' && event.target.tagName === 'BUTTON') return;  // which it presses
-  event.preventDefault();
-  act(event);
-});
+obeyKeys(keys);
 play.onclick = () => setPlaying(!playing);
 scene.onclick = play.onclick;
-part('full').onclick = toggleFull;
 time.oninput = () => goTo(Number(time.value));
+function fit() {
+  fitScene(film.width, film.height);
+  draw(pictures[shown]);
+}
 addEventListener('resize', fit);
 
 // A time in the address, as in "walker.html#t=2.5", is where the film stands.
@@ -224,6 +162,3 @@ time.max = pictures.length - 1;
 fit();
 show(0);
 setPlaying(!obeyAddress() && !matchMedia('(prefers-reduced-motion: reduce)').matches);
-</script>
-</body>
-</html>
