@@ -24,7 +24,7 @@ struct Command {
     std::size_t most = anyNumber;        // of them; one at least
     const char* summary;                 // one sentence
     std::string (*details)() = nullptr;  // what else its help says
-    OptionGroups options;
+    OptionGroups options{};
     ExitStatus (*run)(const Arguments& arguments, Streams& streams);
 };
 
