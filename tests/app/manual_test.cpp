@@ -8,10 +8,13 @@
 #include "ui/property_toolbar.h"
 #include "window_rig.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QTreeWidget>
+#include <algorithm>
 #include <set>
 #include <string>
 
@@ -19,6 +22,16 @@ namespace zentrik {
 namespace {
 
 using ManualWindow = Window;
+
+// Where the line, or the cell, that reaches farthest to the right of those with a picture ends. The scroll
+// bar does not tell: slanted letters at the end of a line may overhang.
+double farthestPicture(const QTextDocument& text) {
+    double farthest = 0;
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next())
+        if (block.text().contains(QChar::ObjectReplacementCharacter))
+            farthest = std::max(farthest, text.documentLayout()->blockBoundingRect(block).right());
+    return farthest;
+}
 
 TEST_F(ManualWindow, OpensAndFindsItsWay) {
     QTest::keyClick(window_.get(), Qt::Key_F1);
@@ -48,7 +61,7 @@ TEST_F(ManualWindow, OpensAndFindsItsWay) {
     EXPECT_TRUE(await([&] { return !film().isNull(); }));
     const QImage picture = film();
     EXPECT_TRUE(await([&] { return film() != picture; })) << "the film stands still";
-    EXPECT_TRUE(await([&] { return text->horizontalScrollBar()->maximum() == 0; }))
+    EXPECT_TRUE(await([&] { return farthestPicture(*text->document()) <= text->viewport()->width(); }))
         << "a picture is wider than the window";
     // Every link inside leads to its chapter.
     const QString html = text->toHtml();
