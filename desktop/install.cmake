@@ -12,8 +12,10 @@ install(DIRECTORY docs/pictures DESTINATION ${CMAKE_INSTALL_DOCDIR}
         FILES_MATCHING PATTERN "*.png" PATTERN "*.gif")
 install(DIRECTORY docs/examples DESTINATION ${CMAKE_INSTALL_DOCDIR} USE_SOURCE_PERMISSIONS)
 configure_file(LICENSE ${desktop_out}/copyright COPYONLY)
-file(READ ${desktop_in}/font-licence.txt font_licence)
-file(APPEND ${desktop_out}/copyright "\n----\n\n${font_licence}")
+foreach(carried font module)
+  file(READ ${desktop_in}/${carried}-licence.txt licence)
+  file(APPEND ${desktop_out}/copyright "\n----\n\n${licence}")
+endforeach()
 install(FILES ${desktop_out}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 configure_file(${desktop_in}/zentrik.desktop.in ${desktop_out}/${ZENTRIK_ID}.desktop @ONLY)
