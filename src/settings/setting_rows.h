@@ -30,10 +30,12 @@ struct SettingRow {
 constexpr SettingRow settingOf(const Column<GlobalSettings>& column) {
     if (column.name == "scene width") return {column.name, &Editor::sceneWidth};
     if (column.name == "scene height") return {column.name, &Editor::sceneHeight};
-    if (const auto* whole = std::get_if<std::int32_t GlobalSettings::*>(&column.member))
-        return {column.name, static_cast<std::int32_t ProjectSettings::*>(*whole)};
-    return {column.name,
-            static_cast<float ProjectSettings::*>(std::get<float GlobalSettings::*>(column.member))};
+    // Not by get_if, whose pointers g++ 12 takes for no constants under sanitizers.
+    using Whole = std::int32_t GlobalSettings::*;
+    using Real = float GlobalSettings::*;
+    if (std::holds_alternative<Whole>(column.member))
+        return {column.name, static_cast<std::int32_t ProjectSettings::*>(std::get<Whole>(column.member))};
+    return {column.name, static_cast<float ProjectSettings::*>(std::get<Real>(column.member))};
 }
 
 // That of a name; there must be one.
