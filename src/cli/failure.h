@@ -5,7 +5,7 @@
 
 namespace zentrik::cli {
 
-enum ExitStatus { fine = 0, finding = 1, wrongUse = 2 };
+enum ExitStatus { fine = 0, finding = 1, wrongUse = 2, interrupted = 130 };
 
 // Ends a command; what it says goes to the error stream. Nothing half done is left behind.
 struct Failure {

@@ -1,5 +1,7 @@
 #include "cli/interrupt.h"
 
+#include "cli/failure.h"
+
 #include <csignal>
 
 namespace zentrik::cli {
@@ -23,5 +25,9 @@ Interrupt::~Interrupt() {
 }
 
 bool Interrupt::came() { return wished != 0; }
+
+void Interrupt::check() {
+    if (came()) throw Failure{interrupted, "Interrupted; nothing was made."};
+}
 
 }  // namespace zentrik::cli

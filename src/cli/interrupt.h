@@ -11,6 +11,8 @@ public:
     Interrupt& operator=(const Interrupt&) = delete;
 
     static bool came();
+    // Throws a Failure if it came.
+    static void check();
 
 private:
     using Handler = void (*)(int);

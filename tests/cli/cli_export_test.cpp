@@ -9,6 +9,9 @@
 #include "wants.h"
 
 #include <QImage>
+#include <QProcess>
+#include <QtTest/QTest>
+#include <csignal>
 
 namespace zentrik {
 namespace {
@@ -124,6 +127,21 @@ TEST_F(ExportCommand, AGalleryIsWholeOrNotThere) {
     EXPECT_EQ(zentrikCli({"export", sample("birds"), "--live", "-o", file("page.png")}).status, 2);
     EXPECT_EQ(zentrikCli({"export", sample("birds"), "--live", "--steps", "9", "-o", file("b.html")}).status,
               2);
+}
+
+// A film that would take hours.
+TEST_F(ExportCommand, AnInterruptLeavesNothing) {
+    QProcess process;
+    process.start(ZENTRIK_CLI, {"export", QString::fromStdString(sample("7 a walker")), "--time", "100000",
+                                "--format", "folder", "-o", QString::fromStdString(file("film"))});
+    ASSERT_TRUE(process.waitForStarted(30000));
+    const bool begun = QTest::qWaitFor([&] { return entriesIn(folder_.path) > 0; }, 60000);
+    ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+    ASSERT_TRUE(process.waitForFinished(60000));
+    ASSERT_TRUE(begun);
+    EXPECT_EQ(process.exitCode(), 130);
+    EXPECT_EQ(process.readAllStandardError(), "zentrik-cli export: Interrupted; nothing was made.\n");
+    EXPECT_EQ(entriesIn(folder_.path), 0U);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "basics/text.h"
 #include "cli/commands/commands.h"
 #include "cli/files.h"
+#include "cli/interrupt.h"
 #include "cli/progress.h"
 #include "cli/runs/model.h"
 #include "cli/runs/painting.h"
@@ -74,8 +75,9 @@ ExitStatus exportPicture(Editor& ed, const PictureFormatRow& format, const std::
     Look look = lookOf(arguments);
     const std::int64_t steps = lengthOf(ed, arguments, 0);
     if (steps > 0) beginRun(ed);
-    for (std::int64_t step = 0; step < steps; ++step)
+    for (std::int64_t step = 0; step < steps && !Interrupt::came(); ++step)
         if (!stepRun(ed)) break;
+    Interrupt::check();
     Subject subject(ed);
     if (const auto number = arguments.number("size", 1)) {
         const int side = static_cast<int>(std::min<std::int64_t>(*number, 1 << 15));
@@ -105,9 +107,10 @@ ExitStatus exportFilm(const Editor& ed, const FilmFormat& format, const std::str
         Progress progress(streams, "pictures", count);
         result = makeFilm(ed, format, plan, file, [&](const FilmState& state) {
             progress.show(std::llround(state.done * static_cast<double>(count)));
-            return true;
+            return !Interrupt::came();
         });
     }
+    Interrupt::check();
     if (!result.problem.empty()) throw Failure{finding, file + ": " + result.problem};
     return stoppedEarly(arguments, result.stopped);
 }
@@ -117,8 +120,9 @@ ExitStatus exportTable(Editor& ed, const std::string& file, const Arguments& arg
     TextOutput output(file, streams);
     const std::string stopped = runTable(ed, steps, output.text, [&](std::int64_t) {
         output.grown();
-        return true;
+        return !Interrupt::came();
     });
+    Interrupt::check();
     output.finish();
     return stoppedEarly(arguments, stopped);
 }
@@ -139,6 +143,7 @@ ExitStatus run(const Arguments& arguments, Streams& streams) {
     const std::string file = arguments.value("out").value_or("");
     if (file.empty()) throw Failure{wrongUse, "-o must say which file to write."};
     const std::string name = formatName(arguments, file);
+    const Interrupt interrupt;
     Editor ed = openModel(arguments.operands.front(), arguments, streams);
     if (name == "csv" && !arguments.has("live")) return exportTable(ed, file, arguments, streams);
     const auto application = paintingApplication();

@@ -1,6 +1,7 @@
 #include "export/pages/gallery.h"
 #include "cli/commands/commands.h"
 #include "cli/files.h"
+#include "cli/interrupt.h"
 #include "cli/runs/model.h"
 #include "cli/runs/painting.h"
 #include "export/pages/live_page.h"
@@ -27,6 +28,7 @@ ExitStatus run(const Arguments& arguments, Streams& streams) {
     if (folder.empty()) throw Failure{wrongUse, "-o must say which folder to make."};
     if (const std::string why = whyNoLivePages(); !why.empty()) throw Failure{finding, why};
     const auto application = paintingApplication();
+    const Interrupt interrupt;
     std::vector<Exhibit> exhibits;
     for (const std::string& file : arguments.operands) {
         if (file == "-") throw Failure{wrongUse, "A gallery is made of files."};
@@ -34,7 +36,8 @@ ExitStatus run(const Arguments& arguments, Streams& streams) {
             {projectName(file), readBytes(file, streams), openModel(file, arguments, streams)});
         findSprites(exhibits.back().ed, file);
     }
-    const std::string problem = makeGallery(exhibits, folder);
+    const std::string problem = makeGallery(exhibits, folder, [] { return !Interrupt::came(); });
+    Interrupt::check();
     if (!problem.empty()) throw Failure{finding, folder + ": " + problem};
     return fine;
 }

@@ -42,7 +42,8 @@ std::string pictureOf(const Exhibit& exhibit) {
 
 }  // namespace
 
-std::string makeGallery(const std::vector<Exhibit>& exhibits, const std::string& path) {
+std::string makeGallery(const std::vector<Exhibit>& exhibits, const std::string& path,
+                        const std::function<bool()>& goOn) {
     NewFolder folder(path);
     std::string problem = folder.make();
     const auto write = [&](const std::string& name, std::string_view bytes) {
@@ -55,6 +56,7 @@ std::string makeGallery(const std::vector<Exhibit>& exhibits, const std::string&
         const QString name = QString::fromStdString(exhibit.name).toLower();
         if (problem.empty() && names.contains(name))
             problem = "Two projects are called " + exhibit.name + ".";
+        if (problem.empty() && !goOn()) problem = "It was interrupted.";
         if (!problem.empty()) return problem;
         names.insert(name);
         cards += cardOf(exhibit);
