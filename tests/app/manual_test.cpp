@@ -10,6 +10,7 @@
 
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QTreeWidget>
 #include <set>
@@ -19,6 +20,20 @@ namespace zentrik {
 namespace {
 
 using ManualWindow = Window;
+
+// Where the picture ends that goes farthest to the right, as seen. Words may go farther: a line of bold
+// letters may be laid out wider than its room.
+int pictureEnd(const QTextBrowser& text) {
+    int end = 0;
+    const QTextDocument& document = *text.document();
+    QTextCursor cursor(document.begin());
+    for (int at = 0; at < document.characterCount(); ++at)
+        if (document.characterAt(at) == QChar::ObjectReplacementCharacter) {
+            cursor.setPosition(at + 1);
+            end = std::max(end, text.cursorRect(cursor).left());
+        }
+    return end;
+}
 
 TEST_F(ManualWindow, OpensAndFindsItsWay) {
     QTest::keyClick(window_.get(), Qt::Key_F1);
@@ -48,8 +63,7 @@ TEST_F(ManualWindow, OpensAndFindsItsWay) {
     EXPECT_TRUE(await([&] { return !film().isNull(); }));
     const QImage picture = film();
     EXPECT_TRUE(await([&] { return film() != picture; })) << "the film stands still";
-    EXPECT_TRUE(await([&] { return text->horizontalScrollBar()->maximum() == 0; }))
-        << "a picture is wider than the window";
+    EXPECT_LE(pictureEnd(*text), text->viewport()->width()) << "a picture is wider than the window";
     // Every link inside leads to its chapter.
     const QString html = text->toHtml();
     static const QRegularExpression inside("href=\"(#[^\"]*)\"");
