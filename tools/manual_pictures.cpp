@@ -169,7 +169,7 @@ void takeShows(Photographer& camera) {
     camera.part("frmPath")->resize(480, 120);
     camera.press("nextnode");
     camera.press("nextnode");
-    camera.play(20000);
+    camera.play(28000);
     camera.take(camera.part("frmPath"), "path");
     camera.stop();
     camera.choose("mnuDisplayPath");

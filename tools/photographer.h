@@ -29,9 +29,13 @@ public:
         list->lineEdit()->setText(project);
         press("refresh");
     }
+    // For as many steps as the timer makes in so long, so that a busy machine takes the same pictures.
     void play(int milliseconds) {
         press("start");
-        QTest::qWait(milliseconds);
+        const Editor& ed = window_.editor();
+        const std::int32_t end = ed.Cycles + milliseconds / ed.Timer1.interval;
+        const auto over = [&] { return ed.Cycles >= end || !ed.Timer1.enabled; };
+        if (!QTest::qWaitFor(over, 60 * milliseconds)) std::exit(1);
     }
     void stop() {
         if (button("Toolbar1", "start")->isChecked()) press("start");

@@ -30,25 +30,27 @@ TURNS = {
     "comparison": [(r" < ", " <= "), (r" > ", " >= "), (r" <= ", " < "), (r" >= ", " > "), (r" == ", " != "),
                    (r" != ", " == "), (r" && ", " || "), (r" \|\| ", " && ")],
     "sign": [(r" \+ ", " - "), (r" - ", " + "), (r" \* ", " / "), (r"\+\+", "--"), (r" \+= ", " -= ")],
-    "constant": [(r"\b0\b", "1"), (r"\b1\b", "2"), (r"\btrue\b", "false"), (r"\bfalse\b", "true"),
-                 (r"\b([2-9]\d*)\b", r"(\1 + 1)")],
+    "constant": [(r"(?<![\w.])0(?![\w.'])", "1"), (r"(?<![\w.])1(?![\w.'])", "2"), (r"\btrue\b", "false"),
+                 (r"\bfalse\b", "true"), (r"(?<![\w.'])([2-9])(?![\w.'])", r"(\1 + 1)"),
+                 (r"(?<![\w.'])([1-9]\d+|\d+\.\d+F?)(?![\w.'])", r"(2 * \1)")],
 }
 
 
-def places(text):
+def places(text, suffix):
     """All (kind, start, end, replacement) of a file, comments, texts and preprocessor lines left alone."""
+    statement = r"(\(.*\)| (=|\+=|-=) [^;]*)" if suffix == ".cpp" else r" (=|\+=|-=) [^;]*"  # constructors look like calls
     found = []
     at = 0
     for line in text.splitlines(keepends=True):
         code = line.split("//")[0]
-        if not re.match(r"\s*(#|template|static_assert|using)", code):
+        if not re.match(r"\s*(#|template|static_assert|using|virtual)", code):
             quoted = [m.span() for m in re.finditer(r'"(\\.|[^"\\])*"', code)]
             for kind, turns in TURNS.items():
                 for pattern, turned in turns:
                     for m in re.finditer(pattern, code):
                         if not any(a <= m.start() < b for a, b in quoted):
                             found.append((kind, at + m.start(), at + m.end(), m.expand(turned)))
-            if re.match(r"\s+[A-Za-z_][\w.:>\-]*(\(.*\)| (=|\+=|-=) [^;]*);\s*$", code):
+            if re.match(r"\s+[A-Za-z_][\w.:>\-]*" + statement + r";\s*$", code):
                 found.append(("statement", at, at + len(code.rstrip("\n")), ""))
             if re.match(r"\s+(\{\S|\w+\(\").*[)}],$", code):
                 found.append(("row", at, at + len(code.rstrip("\n")), ""))
@@ -150,7 +152,7 @@ def verdict(path, text, place, lots):
 def tried(folder, seed):
     """The places of a folder in the order in which they are tried."""
     texts = {p: p.read_text() for suffix in ("cpp", "h") for p in sorted((COPY / "src" / folder).rglob("*." + suffix))}
-    every = [(p, texts[p], place) for p in texts for place in places(texts[p])]
+    every = [(p, texts[p], place) for p in texts for place in places(texts[p], p.suffix)]
     random.Random(f"{seed} {folder}").shuffle(every)
     headers = [it for it in every if it[0].suffix == ".h"]
     return [it for it in every if it[0].suffix == ".cpp" or it in headers[:HEADERS]]
@@ -186,7 +188,7 @@ def plantAgain(log, lots):
         name, number, column = where.split(":")
         path = COPY / "src" / name
         text = path.read_text()
-        alike = [p for p in places(text) if said(path, text, p).endswith(f":{column}  {what}")]
+        alike = [p for p in places(text, path.suffix) if said(path, text, p).endswith(f":{column}  {what}")]
         if not alike:
             print("gone      " + line[8:].strip(), flush=True)
             continue

@@ -234,6 +234,8 @@ TEST_F(SharingTest, ACancelledFilmAndAClosedWindowLeaveNothing) {
         share("shareFilm");
         ASSERT_TRUE(recording()->isRunning());
         EXPECT_TRUE(await([this] { return filmText().contains("\nIt will have about "); }));
+        QTest::keyClick(recording(), Qt::Key_Return);
+        ASSERT_TRUE(recording()->isRunning()) << "nothing was asked";
         auto* bar = recording()->findChild<QProgressBar*>();
         EXPECT_TRUE(bar->isVisible());
         if (closed)

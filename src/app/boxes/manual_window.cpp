@@ -1,6 +1,7 @@
 #include "app/boxes/manual_window.h"
 
 #include "app/boxes/manual_text.h"
+#include "app/boxes/placement.h"
 
 #include <QLineEdit>
 #include <QScreen>
@@ -48,7 +49,7 @@ ManualWindow::ManualWindow(QWidget* parent)
     const QMargins around = column->contentsMargins();
     const int width =
         contentsWidth + split->handleWidth() + text_->wholePicturesWidth() + around.left() + around.right();
-    resize(QSize(width, 760).boundedTo(screen()->availableSize()));
+    resize(QSize(width, 760).boundedTo(screen()->availableSize() - usualFrame));
 
     connect(contents_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
         if (item != nullptr) text_->goTo(item->data(0, placeRole).toInt());

@@ -67,6 +67,8 @@ Recording::Recording(const QString& title, const QString& path, Job job, QWidget
     folder_->setVisible(false);  // until there is something in it
     offer_->setObjectName("offer");
     offer_->setVisible(false);
+    for (QPushButton* button : {offer_, end_}) button->setAutoDefault(false);  // Enter ends no film
+    end_->setFocus();
     auto* column = new QVBoxLayout(this);
     for (QWidget* part : std::initializer_list<QWidget*>{text_, bar_, row}) column->addWidget(part);
     connect(row, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -125,6 +127,7 @@ void Recording::finish() {
     thread_.reset();
     bar_->setVisible(false);
     end_->setText("Close");
+    for (QPushButton* button : {offer_, end_}) button->setAutoDefault(true);
     const QFileInfo file(path_);
     QString text = QString::fromStdString(result_.problem);
     if (text.isEmpty()) {

@@ -23,7 +23,7 @@ std::string missingRuns(const SweepTable& whole) {
     return missing > named ? text + " and " + std::to_string(missing - named) + " more" : text;
 }
 
-void add(SweepTable& whole, SweepTable part, const std::string& name) {
+void add(SweepTable& whole, const SweepTable& part, const std::string& name) {
     if (whole.header.empty()) whole.header = part.header, whole.runs = part.runs;
     if (part.header != whole.header)
         throw Failure{finding, name + ":1: It is a part of another sweep than the first."};

@@ -100,6 +100,7 @@ std::vector<Rgb> ColourCount::palette(std::size_t most) const {
         boxes.push_back(high);
     }
     std::vector<Rgb> colours;
+    colours.reserve(boxes.size());
     for (const Box& box : boxes) colours.push_back(box.colour());
     return colours;
 }
