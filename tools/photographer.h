@@ -33,7 +33,7 @@ public:
     void play(int milliseconds) {
         press("start");
         const Editor& ed = window_.editor();
-        const std::int32_t end = ed.Cycles + milliseconds / ed.Timer1.interval;
+        const std::int32_t end = ed.Cycles + milliseconds / ed.timerPeriod;
         const auto over = [&] { return ed.Cycles >= end || !ed.Timer1.enabled; };
         if (!QTest::qWaitFor(over, 60 * milliseconds)) std::exit(1);
     }
