@@ -39,6 +39,8 @@ const std::vector<Table>& tables() {
          "one drawing call for each node and link, in the same run",
          {{"scene", "lattice, about four links a node"},
           {"sceneTwoLinks", "two links a node"},
+          {"bestPainterShort",
+           "the same by QPainter at its best: all lines in one call, one picture stamped"},
           {"sceneMixedColours", "the same, nodes in sixteen colours"},
           {"sceneRandomColours", "the same, every node in a colour of its own"},
           {"sceneNumbers", "the same, with all numbers"},
