@@ -8,6 +8,7 @@
 #include <QList>
 #include <algorithm>
 #include <optional>
+#include <vector>
 
 namespace zentrik {
 
@@ -34,7 +35,8 @@ std::optional<QLineF> visiblePart(QPointF a, QPointF b, const QRectF& frame) {
     return {};
 }
 
-// Gathers lines for as long as the pen stays the same; order of drawing is order of adding.
+// Lines in the order in which they are added. Those one pixel wide go straight into the picture; others are
+// gathered for as long as the pen stays the same.
 class LineRuns {
 public:
     LineRuns(const Canvas& canvas, std::size_t links)
@@ -52,11 +54,17 @@ public:
         flush();
         colour_ = colour;
         width_ = width;
+        rgb_ = colourOf(colour).rgb();
+        isThin_ = canvas_.lineWidth(width) == 1 && canvas_.bitmap;
     }
     void add(const Node& from, double x, double y) {
+        if (isThin_) return canvas_.bitmap->line(canvas_.pixel(from.X, from.Y), canvas_.pixel(x, y), rgb_);
         if (const auto line = visiblePart(canvas_.place(from.X, from.Y), canvas_.place(x, y), room_))
             lines_.append(*line);
     }
+    // Where isThin().
+    void add(Pixel from, Pixel to) { canvas_.bitmap->line(from, to, rgb_); }
+    bool isThin() const { return isThin_; }
     void add(const Node& from, const Node& to) { add(from, to.X, to.Y); }
 
 private:
@@ -81,7 +89,9 @@ private:
     QRectF room_;
     QList<QLineF> lines_;
     std::int32_t colour_ = black;
-    int width_ = 1;
+    int width_ = 0;
+    QRgb rgb_ = 0;
+    bool isThin_ = false;
 };
 
 void drawDots(const Canvas& canvas, const Editor& ed, std::int64_t step, double radius) {
@@ -119,6 +129,8 @@ void DisplayGrid(const Canvas& canvas, const Editor& ed) {
 
 void drawLinks(const Canvas& canvas, const Editor& ed) {
     LineRuns lines(canvas, ed.Links.size());
+    std::vector<Pixel> pixels(ed.Nodes.size());  // side by side: a model of 100,000 nodes outgrows the caches
+    for (std::size_t i = 1; i < pixels.size(); ++i) pixels[i] = canvas.pixel(ed.Nodes[i].X, ed.Nodes[i].Y);
     forEachLink(ed, [&](std::int32_t j, const Link& link) {
         if (j == ed.SelectedLink)
             lines.pen(blue, 1);
@@ -126,7 +138,10 @@ void drawLinks(const Canvas& canvas, const Editor& ed) {
             lines.pen(red, 4);
         else
             lines.pen(ed.LinkColor, 1);
-        lines.add(nodeAt(ed, link.N1), nodeAt(ed, link.N2));
+        if (lines.isThin())
+            lines.add(pixels[static_cast<std::size_t>(link.N1)], pixels[static_cast<std::size_t>(link.N2)]);
+        else
+            lines.add(nodeAt(ed, link.N1), nodeAt(ed, link.N2));
     });
 }
 

@@ -122,9 +122,21 @@ void SceneView::paintEvent(QPaintEvent*) {
     });
 }
 
+// Where the window's own pixels cannot be reached (between two pixels of a scaled screen, or where a part is
+// to be painted anew) a picture is painted and shown, so that a scene looks the same everywhere.
 void SceneView::paintScene() {
     sprites.setRatio(devicePixelRatioF());
     QPainter painter(this);
+    if (Canvas(painter, ed_.sceneWidth, ed_.sceneHeight).bitmap) return paintScene(painter);
+    QImage picture(size() * devicePixelRatioF(), QImage::Format_RGB32);
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    QPainter onPicture(&picture);
+    paintScene(onPicture);
+    onPicture.end();
+    painter.drawImage(0, 0, picture);
+}
+
+void SceneView::paintScene(QPainter& painter) {
     if (ed_.Timer1.enabled || ed_.MouseIsDown) {
         under_ = over_ = QPixmap();
         return drawScene(painter, ed_, sprites);

@@ -68,6 +68,7 @@ private:
     QPixmap under_, over_;
 
     void paintScene();
+    void paintScene(QPainter& painter);
     void keepLayers();
 };
 

@@ -38,6 +38,7 @@ Canvas::Canvas(QPainter& target, std::int32_t width, std::int32_t height)
     const double unscaled = std::min(1.0, 1 / ratio);  // a painter scales up by itself, but not down
     painter.scale(unscaled, unscaled);
     painter.setClipRect(frame, Qt::IntersectClip);
+    bitmap = Bitmap::under(painter);
 }
 
 }  // namespace zentrik

@@ -3,6 +3,7 @@
 // any device pixel ratio.
 
 #include "basics/colours.h"
+#include "display/canvas/bitmap.h"
 
 #include <QColor>
 #include <QPainter>
@@ -32,10 +33,11 @@ public:
     Canvas& operator=(const Canvas&) = delete;
 
     QPainter& painter;
-    const double ratio;   // device pixels to a device-independent one
-    const QRect frame;    // device pixels
-    const int thinWidth;  // of a line one device-independent pixel wide, in device pixels
-    const bool shapes;    // are kept by the device
+    const double ratio;            // device pixels to a device-independent one
+    const QRect frame;             // device pixels
+    const int thinWidth;           // of a line one device-independent pixel wide, in device pixels
+    const bool shapes;             // are kept by the device
+    std::optional<Bitmap> bitmap;  // where pixels can be reached
 
     double pixels(double twips) const { return twips * unit; }
     // Width in device pixels of a line `width` device-independent pixels wide; at least 1.
@@ -45,11 +47,18 @@ public:
     // the place itself, half a pixel in as on a screen.
     QPointF place(double x, double y) const { return {sharp(x), sharp(y)}; }
 
+    // The pixel that a place is in.
+    Pixel pixel(double x, double y) const { return {nearest(x * unit), nearest(y * unit)}; }
+
 private:
-    const double unit;  // device pixels a twip
+    const double unit;                            // device pixels a twip
+    static std::int64_t nearest(double pixels) {  // halves upwards; no call
+        const auto whole = static_cast<std::int64_t>(pixels + 0.5);
+        return whole - (pixels + 0.5 < static_cast<double>(whole) ? 1 : 0);
+    }
     double sharp(double twips) const {
         const double middle = thinWidth % 2 == 1 ? 0.5 : 0;
-        return (shapes ? twips * unit : std::floor(twips * unit + 0.5)) + middle;
+        return (shapes ? twips * unit : static_cast<double>(nearest(twips * unit))) + middle;
     }
 };
 

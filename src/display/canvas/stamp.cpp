@@ -38,28 +38,30 @@ Stamp::Stamp(const Canvas& canvas, Shape shape, double radius)
     : canvas_(canvas),
       shape_(shape),
       radius_(std::clamp(canvas.pixels(radius), 0.0, largestRadius)),
-      reach_(radius_ + canvas.thinWidth / 2.0 + 0.5) {}
+      reach_(static_cast<int>(std::ceil(radius_ + canvas.thinWidth / 2.0 + 0.5))) {}
 
 void Stamp::paint(double x, double y, std::int32_t fill, std::int32_t outline) {
-    const QPointF centre = canvas_.place(x, y);
-    const QRect& frame = canvas_.frame;
-    if (centre.x() < -reach_ || centre.y() < -reach_ || centre.x() > frame.width() + reach_ ||
-        centre.y() > frame.height() + reach_)
+    const Pixel middle = canvas_.pixel(x, y);
+    if (middle.x < -reach_ || middle.y < -reach_ || middle.x > canvas_.frame.width() + reach_ ||
+        middle.y > canvas_.frame.height() + reach_)
         return;
     if (canvas_.shapes || reach_ > largestStamp) {
-        drawShape(canvas_.painter, shape_, centre, radius_, canvas_.thinWidth, colourOf(fill),
+        drawShape(canvas_.painter, shape_, canvas_.place(x, y), radius_, canvas_.thinWidth, colourOf(fill),
                   colourOf(outline));
         return;
     }
     if (weights_.isNull()) makeWeights();
-    const int half = weights_.width() / 2;
-    canvas_.painter.drawImage(QPoint(static_cast<int>(std::floor(centre.x())) - half,
-                                     static_cast<int>(std::floor(centre.y())) - half),
-                              picture(fill, outline));
+    const QPoint corner =
+        QPoint(static_cast<int>(middle.x), static_cast<int>(middle.y)) - QPoint(reach_, reach_);
+    const Coloured& coloured = picture(fill, outline);
+    if (canvas_.bitmap)
+        canvas_.bitmap->picture({corner, weights_.size()}, coloured.tiles);
+    else
+        canvas_.painter.drawImage(corner, coloured.image);
 }
 
 void Stamp::makeWeights() {
-    const int side = 2 * static_cast<int>(std::ceil(reach_)) + canvas_.thinWidth % 2;
+    const int side = 2 * reach_ + canvas_.thinWidth % 2;
     weights_ = QImage(side, side, QImage::Format_ARGB32_Premultiplied);
     weights_.fill(Qt::transparent);
     QPainter painter(&weights_);
@@ -68,7 +70,7 @@ void Stamp::makeWeights() {
 }
 
 // A colour has a few places where its picture may be kept; when others have them all, the first one yields.
-const QImage& Stamp::picture(std::int32_t fill, std::int32_t outline) {
+const Stamp::Coloured& Stamp::picture(std::int32_t fill, std::int32_t outline) {
     constexpr std::size_t places = 4;
     const std::uint32_t mixed =
         (static_cast<std::uint32_t>(fill) ^ static_cast<std::uint32_t>(outline) << 4) * 0x9E3779B1U;
@@ -78,14 +80,14 @@ const QImage& Stamp::picture(std::int32_t fill, std::int32_t outline) {
         Coloured& kept = kept_[(first + n) % kept_.size()];
         const bool fresh = kept.image.isNull();
         if (!fresh && (kept.fill != fill || kept.outline != outline)) continue;
-        if (fresh) colour(kept = {fill, outline, QImage(weights_.size(), weights_.format())});
-        return kept.image;
+        if (fresh) colour(kept = {fill, outline, QImage(weights_.size(), weights_.format()), {}});
+        return kept;
     }
     Coloured& kept = kept_[first];
     kept.fill = fill;
     kept.outline = outline;
     colour(kept);
-    return kept.image;
+    return kept;
 }
 
 void Stamp::colour(Coloured& coloured) const {
@@ -101,6 +103,7 @@ void Stamp::colour(Coloured& coloured) const {
         return qRgba(mix(qRed(in), qRed(rim)), mix(qGreen(in), qGreen(rim)), mix(qBlue(in), qBlue(rim)),
                      coverage);
     });
+    coloured.tiles = tilesOf(coloured.image);
 }
 
 }  // namespace zentrik

@@ -8,6 +8,7 @@
 
 #include <QImage>
 #include <array>
+#include <vector>
 
 namespace zentrik {
 
@@ -30,16 +31,17 @@ private:
     struct Coloured {
         std::int32_t fill = 0, outline = 0;
         QImage image;
+        std::vector<Tile> tiles;  // of it, for where pixels can be reached
     };
 
     void makeWeights();
-    const QImage& picture(std::int32_t fill, std::int32_t outline);
+    const Coloured& picture(std::int32_t fill, std::int32_t outline);
     void colour(Coloured& to) const;
 
     const Canvas& canvas_;
     const Shape shape_;
     const double radius_;  // device pixels
-    const double reach_;   // from the centre to beyond the outline, device pixels
+    const int reach_;      // from the centre to beyond the outline, device pixels
     QImage weights_;       // red: fill, green: outline, alpha: coverage
     std::array<Coloured, 64> kept_;
 };
