@@ -25,7 +25,7 @@ public:
     bool hasTrash = false;
     bool clipboardWorks = true, desktopWorks = true;
     int beeps = 0;
-    std::string transcript;
+    std::string transcript, copied;
 
     std::string inputBox(const std::string& prompt, const std::string& title,
                          const std::string& preset) override {
@@ -59,6 +59,7 @@ public:
     }
     void beep() override { ++beeps; }
     bool setClipboard(const std::string& text) override {
+        copied = text;
         note("clipboard", text);
         return clipboardWorks;
     }

@@ -1,5 +1,7 @@
 #include "undo_walk.h"
 
+#include "basics/units.h"
+#include "display/scene.h"
 #include "edit/mouse.h"
 #include "edit/phase_mouse.h"
 #include "effects/fireworks.h"
@@ -7,12 +9,18 @@
 #include "library/library.h"
 #include "random_model.h"
 #include "rig.h"
+#include "scenes/scenes.h"
 #include "sim/run.h"
 #include "ui/command_toolbar.h"
+#include "ui/commands/copy_paste.h"
+#include "ui/keys.h"
 #include "ui/menus.h"
 #include "ui/property_toolbar.h"
 #include "ui/undo.h"
 
+#include <QCryptographicHash>
+#include <QImage>
+#include <QPainter>
 #include <random>
 #include <string_view>
 
@@ -33,7 +41,8 @@ void appendAll(std::string& out, const Fields& fields) {
 
 class Walk {
 public:
-    Walk(std::uint32_t seed, const std::string& programFolder) : random_(seed), ed_(randomModel(seed)) {
+    Walk(std::uint32_t seed, Editor model, const std::string& programFolder)
+        : random_(seed), ed_(std::move(model)) {
         ed_.programFolder = programFolder;
         ed_.SelectedNode = none;
         ed_.Timer1.enabled = ed_.buttons.start = false;
@@ -59,7 +68,47 @@ public:
         return imageOf(ed_) == last ? "" : "redoing everything does not give the last model";
     }
 
+    std::string trail(int events) {
+        std::string text;
+        for (int i = 0; i < events; ++i) {
+            what_.clear();
+            while (what_.empty()) event();
+            text += what_ + " " + hashOf(seen(i % 3 == 0)) + " " + panel(ed_, 5).substr(0, 60) + "\n";
+        }
+        return text;
+    }
+
 private:
+    static std::string hashOf(const std::string& bytes) {
+        return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex().first(8).toStdString();
+    }
+    std::string seen(bool painted) {
+        std::string all = imageOf(ed_) + host_.transcript;
+        host_.transcript.clear();
+        for (const std::string& text : ed_.panels) append(all, text);
+        for (const PropertyRow& row : propertyRows()) {
+            if (row.tip != nullptr) append(all, ed_.tips.*row.tip);
+            if (row.pressed != nullptr) append(all, ed_.buttons.*row.pressed);
+        }
+        for (const CommandRow& row : commandRows())
+            if (row.pressed != nullptr) append(all, ed_.buttons.*row.pressed);
+        for (const MenuRow& row : menuRows())
+            if (row.mark != nullptr) append(all, ed_.marks.*row.mark);
+        for (const std::int32_t number :
+             {ed_.SelectedNode, ed_.SelectedLink, ed_.HoverNode, ed_.HoverLink, ed_.SelectedAnimatorLink,
+              ed_.LastShooter, ed_.NodeRadius, ed_.LinkColor, ed_.NodeColor, ed_.BackColor, ed_.spriteEntry,
+              ed_.nodeControls + 2 * ed_.linkControls + 4 * ed_.Timer1.enabled +
+                  8 * ed_.timerFireWorks.enabled})
+            append(all, number);
+        if (!painted) return all;
+        QImage image(600, 400, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        drawScene(painter, ed_, {});
+        painter.end();
+        return all.append(reinterpret_cast<const char*>(image.constBits()),
+                          static_cast<std::size_t>(image.sizeInBytes()));
+    }
     int below(int n) { return static_cast<int>(random_() % static_cast<unsigned>(n)); }
     static const MenuRow* findMenu(std::string_view name) {
         for (const MenuRow& row : menuRows())
@@ -73,6 +122,7 @@ private:
 
     template <class Procedure>
     void perform(Event kind, const std::string& what, Procedure procedure) {
+        what_ = what;
         beginEvent(history_, ed_, kind);
         procedure();
         endEvent(history_, ed_, kind, what);
@@ -84,7 +134,7 @@ private:
         const char* const answers[] = {"", "3:500", "5:700", "7.5", "abc", "20", "-4:x"};
         host_.answers = {answers[below(static_cast<int>(std::size(answers)))]};
         host_.colour = below(3) != 0 ? below(1 << 24) : none;
-        switch (below(10)) {
+        switch (below(12)) {
             case 0:
             case 1:
                 return gesture();
@@ -92,6 +142,7 @@ private:
                 for (int ticks = below(4); ticks >= 0; --ticks) tick();
                 return;
             case 3:
+                what_ = "undo and redo";
                 for (int steps = below(6); steps > 0; --steps) undoLast(ed_, history_);
                 for (int steps = below(6); steps > 0; --steps) redoNext(ed_, history_);
                 return;
@@ -114,6 +165,17 @@ private:
                         lstSaved_Click(ed_, host_, below(static_cast<int>(ed_.savedNames.size())));
                     });
                 return;
+            case 8: {
+                const KeyRow& row = rowOf(keyRows());
+                if (row.command != nullptr)
+                    perform(Event::command, row.keys, [&] { row.command(ed_, host_); });
+                return;
+            }
+            case 9: {
+                copyObject(ed_, host_);
+                const float x = static_cast<float>(below(9000)), y = static_cast<float>(below(6000));
+                return perform(Event::command, "paste", [&] { pasteObject(ed_, host_.copied, {x, y}); });
+            }
             default: {
                 const MenuRow& row = rowOf(menuRows());
                 if (row.name != std::string_view("mnuEmail")) command(row);
@@ -122,12 +184,17 @@ private:
     }
     void tick() {
         if (ed_.timerFireWorks.enabled && below(3) == 0)
-            perform(Event::timer, "", [&] { timerFireWorks_Timer(ed_); });
-        if (ed_.Timer1.enabled) perform(Event::timer, "", [&] { Timer1_Timer(ed_); });
+            perform(Event::timer, "fireworks", [&] { timerFireWorks_Timer(ed_); });
+        if (ed_.Timer1.enabled) perform(Event::timer, "tick", [&] { Timer1_Timer(ed_); });
     }
     void gesture() {
         const auto place = [&] { return static_cast<float>(below(9000)); };
-        const float x = place(), y = place();
+        float x = place(), y = place();
+        const std::int32_t node = below(lastNode(ed_) + 1);
+        if (below(4) != 0 && node != 0) {
+            x = static_cast<float>(nodeAt(ed_, node).X);
+            y = static_cast<float>(nodeAt(ed_, node).Y);
+        }
         const int button = below(4) == 0 ? rightButton : leftButton;
         const auto mouse = [&](auto call) { perform(Event::mouse, "Node moved", call); };
         if (below(4) == 0) {
@@ -151,6 +218,7 @@ private:
     Editor ed_;
     History history_;
     ScriptedHost host_;
+    std::string what_;  // came last
 };
 
 }  // namespace
@@ -164,8 +232,21 @@ std::string imageOf(const Editor& ed) {
     return image.append(reinterpret_cast<const char*>(&settings), sizeof settings);
 }
 
+std::string walkedTrail(std::uint32_t seed, int events, const std::string& programFolder) {
+    Editor model = scenes::latticeOf(20);
+    model.chance.seedSource = [] { return std::uint64_t{7}; };
+    for (std::int32_t i = 1; i <= lastNode(model); ++i) {
+        Node& node = nodeAt(model, i);
+        node.X = node.X % 7000 + 500, node.Y = node.Y % 4000 + 800;
+        node.Locked = i % 5 == 0;
+        node.color = i * 1234567 % (1 << 24);
+    }
+    for (std::int32_t j = 1; j <= lastLink(model); ++j) linkAt(model, j).Animator = j % 3 == 0;
+    return Walk(seed, std::move(model), programFolder).trail(events);
+}
+
 std::string undoWalk(std::uint32_t seed, int events, const std::string& programFolder) {
-    return Walk(seed, programFolder).run(events);
+    return Walk(seed, randomModel(seed), programFolder).run(events);
 }
 
 }  // namespace zentrik

@@ -11,6 +11,10 @@ namespace zentrik {
 // empty text. The same seed gives the same walk.
 std::string undoWalk(std::uint32_t seed, int events, const std::string& programFolder);
 
+// The same walk as a text of a line an event: a hash of everything that a person or a file could know then,
+// from the record to the picture and what boxes asked, and what the last status panel says.
+std::string walkedTrail(std::uint32_t seed, int events, const std::string& programFolder);
+
 // Every field of the model and of the settings a project carries, as bytes.
 struct Editor;
 std::string imageOf(const Editor& ed);

@@ -7,6 +7,7 @@
 #include "rig.h"
 #include "scenes/scenes.h"
 #include "sim/run.h"
+#include "temporary_folder.h"
 #include "ui/command_toolbar.h"
 #include "ui/menus.h"
 #include "ui/property_toolbar.h"
@@ -153,6 +154,16 @@ TEST_F(Undo, SelectingIsNoStepEvenWhileItRuns) {
 TEST(UndoWalks, LeadBackToTheFirstModelAndForthToTheLast) {
     for (std::uint32_t seed = 1; seed <= 60; ++seed)
         EXPECT_EQ(undoWalk(seed, 120, ZENTRIK_SOURCE_DIR), "") << "seed " << seed;
+}
+
+// A line that differs from trails.txt is the first event after which something is otherwise than it was.
+// After a change that is meant, the text in the working folder takes its place.
+TEST(UndoWalks, GoOnTheTrailsWrittenDown) {
+    std::string trails;
+    for (std::uint32_t seed = 101; seed <= 116; ++seed)
+        trails += "== " + std::to_string(seed) + "\n" + walkedTrail(seed, 80, "/nonexistent/zentrik");
+    putFile("trails.txt", trails);
+    EXPECT_EQ(trails, contentOf(ZENTRIK_SOURCE_DIR "/tests/trails.txt"));
 }
 
 TEST_F(Undo, TellsWhetherTheFileHoldsTheModel) {
