@@ -23,6 +23,7 @@
 #include <QPainter>
 #include <random>
 #include <string_view>
+#include <utility>
 
 namespace zentrik {
 
@@ -94,11 +95,15 @@ private:
             if (row.pressed != nullptr) append(all, ed_.buttons.*row.pressed);
         for (const MenuRow& row : menuRows())
             if (row.mark != nullptr) append(all, ed_.marks.*row.mark);
+        for (const bool flag :
+             {ed_.nodeControls, ed_.linkControls, ed_.Timer1.enabled, ed_.timerFireWorks.enabled,
+              ed_.instructionsShown, std::exchange(ed_.sceneStale, false),
+              std::exchange(ed_.phaseStale, false), std::exchange(ed_.marksStale, false)})
+            append(all, flag);
         for (const std::int32_t number :
              {ed_.SelectedNode, ed_.SelectedLink, ed_.HoverNode, ed_.HoverLink, ed_.SelectedAnimatorLink,
-              ed_.LastShooter, ed_.NodeRadius, ed_.LinkColor, ed_.NodeColor, ed_.BackColor, ed_.spriteEntry,
-              ed_.nodeControls + 2 * ed_.linkControls + 4 * ed_.Timer1.enabled +
-                  8 * ed_.timerFireWorks.enabled})
+              ed_.PhaseOverLink, ed_.LastShooter, ed_.Cycles, ed_.NodeRadius, ed_.LinkColor, ed_.NodeColor,
+              ed_.BackColor, ed_.spriteEntry, ed_.pathErased, static_cast<std::int32_t>(ed_.pathDots.size())})
             append(all, number);
         if (!painted) return all;
         QImage image(600, 400, QImage::Format_RGB32);

@@ -39,6 +39,7 @@ TEST_F(ManualWindow, OpensAndFindsItsWay) {
     QTest::keyClick(window_.get(), Qt::Key_F1);
     QWidget* manual = find("Manual");
     ASSERT_TRUE(manual->isVisible());
+    EXPECT_EQ(manual->windowTitle(), "Zentrik - Manual");
     auto* text = manual->findChild<QTextBrowser*>();
     const auto shown = [&](const char* picture) {
         const QVariant drawn = text->document()->resource(QTextDocument::ImageResource, QUrl(picture));

@@ -147,6 +147,12 @@ TEST_F(Opened, DropsAreProjectsOrSpritesOrRefused) {
     drop({QUrl("https://zentrik.example/ant.svg")}, {100, 100});
     EXPECT_TRUE(panelText(5).contains("no file of this computer"));
     EXPECT_EQ(nodeAt(ed(), 1).Sprite, "ant 2.svg");
+    fs::rename(folder_.path / "sprites", folder_.path / "gone");
+    putFile(folder_.path / "sprites", "a file in the way");
+    QString said;
+    answerNext("", Qt::Key_Return, &said);
+    drop({urlOf(putSample("bee.svg", "sprites/sun.svg"))}, {100, 100});
+    EXPECT_TRUE(said.contains("could not be copied to the sprites")) << said.toStdString();
 }
 
 TEST_F(Opened, ASecondStartHandsItsFileToTheRunningProgram) {

@@ -52,6 +52,7 @@ TEST(Measure, ARunIsWatchedStepByStep) {
             if (measure.name == name) return measure.of(watch, ed);
         return -1.0;
     };
+    EXPECT_EQ(value("settled"), 0);
     // Up by 40, down again and to the left by 80, then a step that moves a node by one twip alone.
     nodeAt(ed, 1).Y -= 160, nodeAt(ed, 1).Vy = -12;
     watch.stepped(ed, 0.5F);
