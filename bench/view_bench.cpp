@@ -65,6 +65,7 @@ void tickBesidePaints(benchmark::State& state) {
             QApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 BENCHMARK(tickBesidePaints)
+    ->Arg(100)
     ->Arg(10000)
     ->Arg(50000)
     ->Arg(100000)

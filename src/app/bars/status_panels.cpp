@@ -13,9 +13,15 @@ constexpr int sideMargin = 6;
 
 }  // namespace
 
-void StatusPanel::show(const QString& text) {
-    if (this->text() == text) return;
+bool StatusPanel::show(const QString& text) {
+    if (this->text() == text) return false;
     setText(text);
+    measure();
+    return true;
+}
+
+void StatusPanel::measure() {
+    needed_ = fontMetrics().horizontalAdvance(text());
     renewTip();
 }
 
@@ -24,19 +30,22 @@ void StatusPanel::setTip(const QString& tip) {
     renewTip();
 }
 
-QString StatusPanel::fitting() const {
-    return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
-}
-
-void StatusPanel::renewTip() { setToolTip(fitting() == text() ? tip_ : text()); }
+void StatusPanel::renewTip() { setToolTip(isWhole() ? tip_ : text()); }
 
 void StatusPanel::resizeEvent(QResizeEvent* event) {
     QLabel::resizeEvent(event);
     renewTip();
 }
 
+void StatusPanel::changeEvent(QEvent* event) {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) measure();
+}
+
 void StatusPanel::paintEvent(QPaintEvent*) {
-    QPainter(this).drawText(contentsRect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, fitting());
+    const QRect room = contentsRect();
+    const QString shown = isWhole() ? text() : fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
+    QPainter(this).drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
 }
 
 StatusPanels::StatusPanels(QStatusBar& bar) : bar_(bar) {
@@ -56,7 +65,11 @@ StatusPanels::StatusPanels(QStatusBar& bar) : bar_(bar) {
 
 void StatusPanels::fit() {
     constexpr int margins = 5;  // above and below the panels, as Qt lays a status bar out
-    bar_.setFixedHeight(std::max(designHeight, bar_.fontMetrics().height() + margins));
+    const int height = std::max(designHeight, bar_.fontMetrics().height() + margins);
+    bar_.setFixedHeight(height);
+    // Of a label whose size is fixed both ways a new text lays out nothing, and the clock has one with every
+    // tick.
+    for (StatusPanel* panel : panels_) panel->setFixedHeight(height - margins);
     for (std::size_t i = 0; i < std::size(designWidths); ++i) {
         panels_[i]->setFixedWidth(designWidths[i]);
         widen(i);
@@ -66,15 +79,13 @@ void StatusPanels::fit() {
 // Only ever wider: a panel that shrank with every other text would make its neighbours dance.
 void StatusPanels::widen(std::size_t number) {
     StatusPanel& panel = *panels_[number];
-    const int needed = panel.fontMetrics().horizontalAdvance(panel.text()) + 2 * sideMargin + 1;
+    const int needed = panel.needed() + 2 * sideMargin + 1;
     if (needed > panel.minimumWidth()) panel.setFixedWidth(needed);
 }
 
 void StatusPanels::show(const std::array<std::string, 5>& texts) {
-    for (std::size_t i = 0; i < panels_.size(); ++i) {
-        panels_[i]->show(QString::fromStdString(texts[i]));
-        if (i < std::size(designWidths)) widen(i);
-    }
+    for (std::size_t i = 0; i < panels_.size(); ++i)
+        if (panels_[i]->show(QString::fromStdString(texts[i])) && i < std::size(designWidths)) widen(i);
 }
 
 }  // namespace zentrik

@@ -12,17 +12,21 @@ namespace zentrik {
 class StatusPanel : public QLabel {
 public:
     using QLabel::QLabel;
-    void show(const QString& text);
-    void setTip(const QString& tip);  // the tool tip while the text is whole
+    bool show(const QString& text);         // whether it is another
+    int needed() const { return needed_; }  // pixels, for the whole text
+    void setTip(const QString& tip);        // the tool tip while the text is whole
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     QString tip_;
+    int needed_ = 0;
 
-    QString fitting() const;
+    bool isWhole() const { return needed_ <= contentsRect().width(); }
+    void measure();
     void renewTip();
 };
 

@@ -24,10 +24,9 @@ QToolButton* makeButton(const char* name, QWidget& parent) {
 // what: the step a click would take; empty for none.
 void tell(QToolButton& button, const QString& name, const QString& what, KeyAct act) {
     const QString label = what.isEmpty() ? name : name + ": " + what;
-    const QString tip = label + " (" + QKeySequence(keyFor(act)).toString() + ")";
-    if (button.toolTip() == tip) return;
-    button.setToolTip(tip);
+    if (button.accessibleName() == label) return;
     button.setAccessibleName(label);
+    button.setToolTip(label + " (" + QKeySequence(keyFor(act)).toString() + ")");
     button.setEnabled(!what.isEmpty());
 }
 
