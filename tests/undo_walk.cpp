@@ -1,7 +1,5 @@
 #include "undo_walk.h"
 
-#include "basics/units.h"
-#include "display/scene.h"
 #include "edit/mouse.h"
 #include "edit/phase_mouse.h"
 #include "effects/fireworks.h"
@@ -9,7 +7,6 @@
 #include "library/library.h"
 #include "random_model.h"
 #include "rig.h"
-#include "scenes/scenes.h"
 #include "sim/run.h"
 #include "ui/command_toolbar.h"
 #include "ui/commands/copy_paste.h"
@@ -18,9 +15,8 @@
 #include "ui/property_toolbar.h"
 #include "ui/undo.h"
 
-#include <QCryptographicHash>
-#include <QImage>
-#include <QPainter>
+#include <array>
+#include <cstdio>
 #include <random>
 #include <string_view>
 #include <utility>
@@ -69,21 +65,26 @@ public:
         return imageOf(ed_) == last ? "" : "redoing everything does not give the last model";
     }
 
-    std::string trail(int events) {
+    std::string trail(int events, const std::function<std::string(const Editor&)>& picture) {
         std::string text;
         for (int i = 0; i < events; ++i) {
             what_.clear();
             while (what_.empty()) event();
-            text += what_ + " " + hashOf(seen(i % 3 == 0)) + " " + panel(ed_, 5).substr(0, 60) + "\n";
+            text += what_ + " " + hashOf(seen() + (i % 3 == 0 ? picture(ed_) : "")) + " " +
+                    panel(ed_, 5).substr(0, 60) + "\n";
         }
         return text;
     }
 
 private:
     static std::string hashOf(const std::string& bytes) {
-        return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex().first(8).toStdString();
+        std::uint32_t hash = 0x811c9dc5;  // FNV-1a
+        for (const char byte : bytes) hash = (hash ^ static_cast<unsigned char>(byte)) * 0x01000193U;
+        std::array<char, 9> text{};
+        std::snprintf(text.data(), text.size(), "%08x", hash);
+        return text.data();
     }
-    std::string seen(bool painted) {
+    std::string seen() {
         std::string all = imageOf(ed_) + host_.transcript;
         host_.transcript.clear();
         for (const std::string& text : ed_.panels) append(all, text);
@@ -105,14 +106,7 @@ private:
               ed_.PhaseOverLink, ed_.LastShooter, ed_.Cycles, ed_.NodeRadius, ed_.LinkColor, ed_.NodeColor,
               ed_.BackColor, ed_.spriteEntry, ed_.pathErased, static_cast<std::int32_t>(ed_.pathDots.size())})
             append(all, number);
-        if (!painted) return all;
-        QImage image(600, 400, QImage::Format_RGB32);
-        image.fill(Qt::black);
-        QPainter painter(&image);
-        drawScene(painter, ed_, {});
-        painter.end();
-        return all.append(reinterpret_cast<const char*>(image.constBits()),
-                          static_cast<std::size_t>(image.sizeInBytes()));
+        return all;
     }
     int below(int n) { return static_cast<int>(random_() % static_cast<unsigned>(n)); }
     static const MenuRow* findMenu(std::string_view name) {
@@ -237,17 +231,9 @@ std::string imageOf(const Editor& ed) {
     return image.append(reinterpret_cast<const char*>(&settings), sizeof settings);
 }
 
-std::string walkedTrail(std::uint32_t seed, int events, const std::string& programFolder) {
-    Editor model = scenes::latticeOf(20);
-    model.chance.seedSource = [] { return std::uint64_t{7}; };
-    for (std::int32_t i = 1; i <= lastNode(model); ++i) {
-        Node& node = nodeAt(model, i);
-        node.X = node.X % 7000 + 500, node.Y = node.Y % 4000 + 800;
-        node.Locked = i % 5 == 0;
-        node.color = i * 1234567 % (1 << 24);
-    }
-    for (std::int32_t j = 1; j <= lastLink(model); ++j) linkAt(model, j).Animator = j % 3 == 0;
-    return Walk(seed, std::move(model), programFolder).trail(events);
+std::string walkedTrail(std::uint32_t seed, int events, Editor model,
+                        const std::function<std::string(const Editor& ed)>& picture) {
+    return Walk(seed, std::move(model), "/nonexistent/zentrik").trail(events, picture);
 }
 
 std::string undoWalk(std::uint32_t seed, int events, const std::string& programFolder) {

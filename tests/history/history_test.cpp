@@ -2,6 +2,7 @@
 
 #include "history/history.h"
 
+#include "display/scene.h"
 #include "edit/mouse.h"
 #include "random_model.h"
 #include "rig.h"
@@ -16,6 +17,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QImage>
+#include <QPainter>
 #include <algorithm>
 #include <string_view>
 
@@ -157,12 +160,34 @@ TEST(UndoWalks, LeadBackToTheFirstModelAndForthToTheLast) {
         EXPECT_EQ(undoWalk(seed, 120, ZENTRIK_SOURCE_DIR), "") << "seed " << seed;
 }
 
+std::string painted(const Editor& ed) {
+    QImage image(600, 400, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    drawScene(painter, ed, {});
+    painter.end();
+    return {reinterpret_cast<const char*>(image.constBits()), static_cast<std::size_t>(image.sizeInBytes())};
+}
+
+Editor walkedModel() {
+    Editor model = scenes::latticeOf(20);
+    model.chance.seedSource = [] { return std::uint64_t{7}; };
+    for (std::int32_t i = 1; i <= lastNode(model); ++i) {
+        Node& node = nodeAt(model, i);
+        node.X = node.X % 7000 + 500, node.Y = node.Y % 4000 + 800;
+        node.Locked = i % 5 == 0;
+        node.color = i * 1234567 % (1 << 24);
+    }
+    for (std::int32_t j = 1; j <= lastLink(model); ++j) linkAt(model, j).Animator = j % 3 == 0;
+    return model;
+}
+
 // A line that differs from trails.txt is the first event after which something is otherwise than it was.
 // After a change that is meant, the text in the working folder takes its place.
 TEST(UndoWalks, GoOnTheTrailsWrittenDown) {
     std::string trails;
     for (std::uint32_t seed = 101; seed <= 116; ++seed)
-        trails += "== " + std::to_string(seed) + "\n" + walkedTrail(seed, 80, "/nonexistent/zentrik");
+        trails += "== " + std::to_string(seed) + "\n" + walkedTrail(seed, 80, walkedModel(), painted);
     putFile("trails.txt", trails);
     const std::string known = contentOf(ZENTRIK_SOURCE_DIR "/tests/trails.txt");
     const auto [now, before] = std::mismatch(trails.begin(), trails.end(), known.begin(), known.end());
