@@ -172,8 +172,8 @@ protected:
 };
 
 TEST_F(ImproveCommand, FindsTheSameBetterOneEveryTime) {
-    const Said one = zentrikCli(improve("one.bot") + Words{"--runs=120"});
-    const Said two = zentrikCli(improve("two.bot") + Words{"--runs=120"});
+    const Said one = zentrikCli(improve("one.bot") + Words{"--runs=120", "--jobs=1"});
+    const Said two = zentrikCli(improve("two.bot") + Words{"--runs=120", "--jobs=3"});
     const Said other = zentrikCli(improve("other.bot", "2") + Words{"--runs=120"});
     ASSERT_EQ(one.status, 0) << one.error;
     EXPECT_EQ(one.out, two.out);
@@ -199,7 +199,7 @@ TEST_F(ImproveCommand, TheShippedExampleWalksThatFar) {
         return said.status == 0 ? std::lround(leadingNumber(cellsOf(linesOf(said.out)[1])[2])) : 0;
     };
     EXPECT_EQ(distance(sample("walker")), 6842);
-    EXPECT_EQ(distance(ZENTRIK_SOURCE_DIR "/docs/examples/better_walker.bot"), 14683);
+    EXPECT_EQ(distance(ZENTRIK_SOURCE_DIR "/docs/examples/better_walker.bot"), 17602);
 }
 
 TEST_F(ImproveCommand, AnInterruptEndsItAndKeepsTheBest) {
@@ -221,14 +221,35 @@ TEST_F(ImproveCommand, AnInterruptEndsItAndKeepsTheBest) {
     EXPECT_EQ(process.readAllStandardError().toStdString(), "") << "nobody watches";
 }
 
-TEST_F(ImproveCommand, AFullDiskEndsItAndKeepsTheBestBefore) {
-    const Said before = zentrikCli(improve("best.bot") + Words{"--runs=60"});
-    const std::string best = contentOf(file("best.bot"));
-    ASSERT_NE(best, "") << before.error;
-    const FailingDisk disk(DiskCall::write, 1);
-    const Said said = zentrikCli(improve("best.bot", "3") + Words{"--runs=120"});
-    EXPECT_EQ(said.status, 1);
-    EXPECT_EQ(said.error, "zentrik-cli improve: " + file("best.bot") + ": No space left on device.\n");
+// What a full disk, a kill or Ctrl+C leave is a project and the worths of the runs that were made.
+TEST_F(ImproveCommand, AFullDiskKeepsTheBestBeforeAndCanBeGoneOnFrom) {
+    const Words words = improve("best.bot") + Words{"--runs=60", "--jobs=1"};
+    const std::string whole = zentrikCli(words).out, best = contentOf(file("best.bot"));
+    std::filesystem::remove(file("best.bot"));
+    {
+        const FailingDisk disk(DiskCall::write, 3);  // the head of the runs, a first best, and another
+        const Said said = zentrikCli(words);
+        EXPECT_EQ(said.status, 1);
+        EXPECT_EQ(said.error, "zentrik-cli improve: " + file("best.bot") + ": No space left on device.\n");
+    }
+    EXPECT_NE(contentOf(file("best.bot")), "");
+    EXPECT_NE(contentOf(file("best.bot")), best);
+    const std::string runs = contentOf(file("best.bot.runs"));
+    const auto goOn = [&](const std::string& from, const Words& more = {}) {
+        putFile(file("best.bot.runs"), from);
+        return zentrikCli(words + Words{"--continue"} + more);
+    };
+    using Case = std::tuple<std::string, Words, std::string>;
+    const std::string next = std::to_string(linesOf(runs).size() + 1);
+    for (const auto& [from, more, text] :
+         {Case{"notes\n", {}, ": These are no runs of a search."},
+          Case{runs, {"--least"}, ": These are the runs of another project, or of other options."},
+          Case{runs + "7 x\n", {}, ":" + next + ": This is no run."}}) {
+        const Said said = goOn(from, more);
+        EXPECT_EQ(said.error, "zentrik-cli improve: " + file("best.bot.runs") + text + "\n");
+        EXPECT_EQ(contentOf(file("best.bot.runs")), from);
+    }
+    EXPECT_EQ(goOn(runs + "99 46").out, whole) << "of a line that was cut off nothing is believed";
     EXPECT_EQ(contentOf(file("best.bot")), best);
     EXPECT_EQ(entriesIn(folder_.path), 1U);
 }

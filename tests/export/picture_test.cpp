@@ -105,7 +105,8 @@ TEST(Pictures, VectorFilesHoldLinesAndDiscs) {
     ed.buttons.sprite = false;
     const QByteArray svg = QByteArray::fromStdString(fileOf(ed, PictureFormat::svg));
     EXPECT_FALSE(svg.contains("<image"));
-    EXPECT_TRUE(svg.contains("width=\"251.883mm\"")) << svg.first(100).toStdString();  // 952 pixels, 96 an inch
+    EXPECT_TRUE(svg.contains("width=\"251.883mm\""))
+        << svg.first(100).toStdString();  // 952 pixels, 96 an inch
     EXPECT_GE(svg.count("<circle") + svg.count("<ellipse"), 9 + 500);
     EXPECT_GE(svg.count("<polyline"), 16);
 
