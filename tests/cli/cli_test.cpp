@@ -81,6 +81,7 @@ TEST(InfoCommand, TellsWhatIsThere) {
     const QJsonValue walker = QJsonDocument::fromJson(QByteArray::fromStdString(json.out))[0];
     EXPECT_EQ(walker["title"].toString(), "Six legs out for a walk");
     EXPECT_EQ(walker["nodes"].toInt(), 28);
+    EXPECT_NEAR(walker["mass"].toDouble(), 71.4, 1e-4);
     EXPECT_EQ(walker["animators"].toInt(), 12);
     EXPECT_EQ(walker["connected objects"].toInt(), 1);
     EXPECT_EQ(walker["extent"]["right"].toInt(), 5600);

@@ -83,10 +83,10 @@ TEST(Measure, ATableHasThePartsAskedForAndEmptyCellsForWhatIsGone) {
     std::string row;
     appendTableRow(row, ed, 7, {{2, 8}, {1, 3}});
     EXPECT_EQ(row, "7,0.25,1400,2000,3,-4,,,,,400,20000,,,1300,2000,37.5,1000000,0\n");
-    nodeAt(ed, 2).Used = false;
+    nodeAt(ed, 2).Used = linkAt(ed, 1).Used = false;
     row.clear();
-    appendTableRow(row, ed, 8, {{2}, {}});
-    EXPECT_EQ(row.substr(0, 15), "8,0.25,,,,,1000");
+    appendTableRow(row, ed, 8, {{2}, {1}});
+    EXPECT_EQ(row.substr(0, 17), "8,0.25,,,,,,,1000");
 }
 
 }  // namespace
