@@ -1,5 +1,7 @@
 #include "settings/settings.h"
 
+#include "ui/menus.h"
+
 #include <gtest/gtest.h>
 
 #include <map>
@@ -61,6 +63,20 @@ TEST(Settings, RoundTripInOrderAndForm) {
     saveSettings(ed, std::nullopt, second);
     EXPECT_EQ(second.texts["MainWidth"], "15000") << "kept from an earlier run";
     EXPECT_EQ(second.order.size(), 2 * store.order.size() - 4);
+}
+
+TEST(Settings, KeepEveryMark) {
+    MemoryStore store;
+    Editor ed, again;
+    Placement placement;
+    for (const MenuRow& row : menuRows())
+        if (row.mark != nullptr) ed.marks.*row.mark = !(ed.marks.*row.mark);
+    saveSettings(ed, {}, store);
+    getSettings(again, placement, store);
+    for (const MenuRow& row : menuRows()) {
+        if (row.mark == nullptr || row.mark == &Marks::mnuDisplayPath) continue;  // the path begins anew
+        EXPECT_EQ(again.marks.*row.mark, ed.marks.*row.mark) << row.name;
+    }
 }
 
 TEST(Settings, WhatIsMissingOrDoesNotConvertGivesTheDefault) {
