@@ -80,8 +80,11 @@ public:
     // Of its pixels in a range those in the rows that are seen.
     template <class IsSeen>
     void draw(Range part, IsSeen isSeen) const {
-        // Counted from the true end, so that a clip moves nothing.
-        std::int64_t place = (from_.y << 32) + (part.first - from_.x) * step_;
+        // Counted from the true end, so that a clip moves nothing; without a sign, as what is far away wraps
+        // on the way.
+        const auto wrapping = [](std::int64_t whole) { return static_cast<std::uint64_t>(whole); };
+        auto place = static_cast<std::int64_t>((wrapping(from_.y) << 32) +
+                                               wrapping(part.first - from_.x) * wrapping(step_));
         QRgb* column = pixels_ + part.first * onward_;
         for (std::int64_t x = part.first; x <= part.last; ++x, place += step_, column += onward_) {
             const std::int64_t row = place >> 32;
