@@ -1,5 +1,6 @@
 #include "app/bars/status_panels.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStatusBar>
 #include <algorithm>

@@ -170,18 +170,18 @@ void Bitmap::picture(const QRect& place, std::span<const Tile> tiles) const {
     for (const Tile& tile : tiles) {
         const QPoint first(place.x() + tile.x, place.y() + tile.y);
         QRgb* to = at(first.x(), first.y());
-        Channels channels;
+        Channels four;
         if (whole) {
-            std::memcpy(&channels, to, sizeof channels);
-            channels = covered(channels, tile);
-            std::memcpy(to, &channels, sizeof channels);
+            std::memcpy(&four, to, sizeof four);
+            four = covered(four, tile);
+            std::memcpy(to, &four, sizeof four);
             continue;
         }
         for (std::size_t i = 0; i < 4; ++i) {
             if (!clip_.contains(first + QPoint(static_cast<int>(i), 0))) continue;
-            std::memcpy(&channels[4 * i], to + i, 4);
-            channels = covered(channels, tile);
-            std::memcpy(to + i, &channels[4 * i], 4);
+            std::memcpy(&four[4 * i], to + i, 4);
+            four = covered(four, tile);
+            std::memcpy(to + i, &four[4 * i], 4);
         }
     }
 }
