@@ -43,11 +43,11 @@ export PATH="$place/bin:$PATH"
 
 # compare NAME: the table that an example left in the folder of its name.
 compare() {
-    failed=$(find "$place/tried" -name "$1_*" | wc -l)
-    if cmp -s "$place/whole.csv" "$place/$1/sweep.csv" && [ "$failed" -eq 40 ]; then
+    tried=$(find "$place/tried" -name "$1_*" | wc -l)
+    if cmp -s "$place/whole.csv" "$place/$1/sweep.csv" && [ "$tried" -eq 40 ]; then
         echo "ok      $1"
     else
-        echo "FAILED  $1: $failed of 40 shards were tried, see $place/$1.log"
+        echo "FAILED  $1: $tried of 40 shards were tried, see $place/$1.log"
         status=1
     fi
 }

@@ -171,6 +171,14 @@ protected:
     }
 };
 
+TEST_F(ImproveCommand, WhatCannotRunEndsItFromAnyThread) {
+    const Said said = zentrikCli({"improve", sample("walker"), "--vary=TimeInterval=-1:20", "--time=3",
+                                  "--measure=x", "--jobs=3", "--out", file("best.bot")});
+    EXPECT_EQ(said.status, 2);
+    EXPECT_NE(said.error.find("--time 3 does not end with a TimeInterval of -0."), std::string::npos)
+        << said.error;
+}
+
 TEST_F(ImproveCommand, FindsTheSameBetterOneEveryTime) {
     const Said one = zentrikCli(improve("one.bot") + Words{"--runs=120", "--jobs=1"});
     const Said two = zentrikCli(improve("two.bot") + Words{"--runs=120", "--jobs=3"});
@@ -239,6 +247,9 @@ TEST_F(ImproveCommand, AFullDiskKeepsTheBestBeforeAndCanBeGoneOnFrom) {
         putFile(file("best.bot.runs"), from);
         return zentrikCli(words + Words{"--continue"} + more);
     };
+    EXPECT_EQ(zentrikCli(words).error,
+              "zentrik-cli improve: " + file("best.bot.runs") +
+                  " is of a search that was ended: go on with --continue, or remove it.\n");
     using Case = std::tuple<std::string, Words, std::string>;
     const std::string next = std::to_string(linesOf(runs).size() + 1);
     for (const auto& [from, more, text] :

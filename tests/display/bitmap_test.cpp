@@ -66,7 +66,7 @@ TEST(Bitmap, LinesLookLikeThePaintersAndAreTheSameFromEitherEnd) {
         const QImage ours = drawn(a, b);
         EXPECT_EQ(ours, drawn(b, a));
         compare(ours, byPainter(a, b), apart);
-        // Every step along the longer axis holds one pixel's worth of ink, half of it at the ends: no gaps.
+        // Every step along the longer axis holds one pixel's worth of ink: no gaps.
         const bool steep = std::abs(b.y - a.y) > std::abs(b.x - a.x);
         for (std::int64_t step = std::min(steep ? a.y : a.x, steep ? b.y : b.x) + 1;
              step < std::max(steep ? a.y : a.x, steep ? b.y : b.x); ++step) {

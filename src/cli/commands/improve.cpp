@@ -7,6 +7,7 @@
 #include "cli/runs/experiment.h"
 #include "cli/runs/kept_runs.h"
 #include "cli/runs/model.h"
+#include "files/write_target.h"
 #include "host/quiet_host.h"
 #include "project/hand_over.h"
 #include "project/writer.h"
@@ -80,8 +81,8 @@ public:
             const std::vector<double> worths = makeAll(places);
             if (worths.size() == Evolution::count) evolution.tell(worths);
         }
-        if (best_.isFound()) writeBest();
         if (failure_) std::rethrow_exception(failure_);
+        if (!isWritten_) writeBest();
         if (!Interrupt::came()) kept_.remove();
     }
 
@@ -126,7 +127,8 @@ private:
     double start_ = worst;
     std::int64_t made_ = 1;  // with the run of the project as it is
     Found best_;
-    std::mutex one_;  // at a time, of what follows a run
+    bool isWritten_ = true;  // the best, if one was found
+    std::mutex one_;         // at a time, of what follows a run
     std::exception_ptr failure_;
 
     static std::int64_t coresHere() { return std::max(1U, std::thread::hardware_concurrency()); }
@@ -162,7 +164,7 @@ private:
         const auto work = [&] {
             Editor ed;
             for (std::size_t k = next++; k < places.size(); k = next++)
-                worths[k] = make(ed, first + static_cast<std::int64_t>(k), valuesAt(places[k]));
+                worths[k] = make(ed, first + static_cast<std::int64_t>(k), places[k]);
         };
         {
             std::vector<std::jthread> others;
@@ -173,36 +175,48 @@ private:
         return worths;
     }
 
-    // Makes a run, or is told what it was worth when it was made.
-    double make(Editor& ed, std::int64_t run, const std::vector<double>& values) {
-        const std::optional<double> before = kept_.find(run);
-        const double worth = before ? *before : worthOf(ed, values);
-        const std::lock_guard lock(one_);
-        if (hasToEnd()) return worst;
+    // Makes a run, or is told what it was worth when it was made. Whatever thread it is on, a failure ends
+    // all.
+    double make(Editor& ed, std::int64_t run, const Evolution::Place& place) {
         try {
-            if (best_.yieldsTo(worth, run)) {
-                best_ = {values, worth, run};
-                if (!before) writeBest();  // whatever happens from here on, it is on disk
-            }
-            if (!before) kept_.append(run, worth);
-        } catch (const Failure&) {
-            failure_ = std::current_exception();
+            const std::vector<double> values = valuesAt(place);
+            const std::optional<double> before = kept_.find(run);
+            const double worth = before ? *before : worthOf(ed, values);
+            const std::lock_guard lock(one_);
+            if (hasToEnd()) return worst;
+            note(run, values, worth, before.has_value());
+            return worth;
+        } catch (...) {
+            const std::lock_guard lock(one_);
+            if (!failure_) failure_ = std::current_exception();
+            return worst;
         }
+    }
+
+    void note(std::int64_t run, const std::vector<double>& values, double worth, bool isKept) {
+        if (best_.yieldsTo(worth, run)) {
+            best_ = {values, worth, run};
+            isWritten_ = false;
+            if (!isKept) writeBest();  // whatever happens from here on, it is on disk
+        }
+        if (!isKept) kept_.append(run, worth);
         ++made_;
         progress_.show(made_, ", best " + realText(sign_ * best_.worth));
-        return worth;
     }
 
     void writeBest() {
         Editor ed;
         experiment_.prepare(ed, best_.values);
         writeBytes(file_, projectBytes(ed), streams_);
+        isWritten_ = true;
     }
 };
 
 void refuseWhatCannotBeFound(const Experiment& experiment, const Arguments& arguments) {
     const std::string file = arguments.value("out").value_or("-");
     if (file == "-") throw Failure{wrongUse, "--out must name a file for the best."};
+    if (const std::string problem = writeTarget(file, {}).problem; !problem.empty())
+        throw Failure{finding, file + ": " + problem};
     if (experiment.asked().size() > 1) throw Failure{wrongUse, "Only one measure can be improved."};
     for (const Variable& variable : experiment.variables())
         if (variable.from == variable.to || variable.step != 0)

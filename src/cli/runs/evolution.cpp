@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::size_t parents = Evolution::count / 2;
 constexpr double firstStep = 0.15, lastStep = 1e-4;  // then it begins elsewhere
+constexpr double leastSpread = 1e-15;                // of an axis, which divides
 
 // How much a parent counts, the best one first; together 1.
 std::array<double, parents> parentWeights() {
@@ -115,7 +116,7 @@ void Evolution::follow(const std::vector<Place>& chosen) {
         spreadPath_[j] = (1 - r.spreadPath) * spreadPath_[j] + (isSteady ? path : 0);
         double drawn = 0;
         for (std::size_t i = 0; i < parents; ++i) drawn += r.weights[i] * chosen[i][j] * chosen[i][j];
-        spread_[j] = (1 - r.rankOne - r.rankParents) * spread_[j] +
+        spread_[j] = leastSpread + (1 - r.rankOne - r.rankParents) * spread_[j] +
                      r.rankOne * spreadPath_[j] * spreadPath_[j] + r.rankParents * drawn;
     }
     step_ = std::min(0.5, step_ * std::exp(r.stepPath / r.damping * (length / r.length - 1)));

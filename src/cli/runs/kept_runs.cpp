@@ -4,6 +4,7 @@
 #include "cli/numbers.h"
 #include "files/path.h"
 
+#include <QCryptographicHash>
 #include <bit>
 #include <cerrno>
 #include <filesystem>
@@ -16,17 +17,18 @@ namespace {
 
 constexpr std::string_view firstWords = "Zentrik runs of ";
 
-// FNV-1a, 64 bits.
 std::string hashOf(const std::string& text) {
-    std::uint64_t hash = 0xcbf29ce484222325U;
-    for (const char byte : text) hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001b3U;
-    return std::to_string(hash);
+    return QCryptographicHash::hash(text, QCryptographicHash::Sha1).toHex().toStdString();
 }
 
 }  // namespace
 
 KeptRuns::KeptRuns(std::string file, const std::string& what, bool goesOn, Streams& streams)
     : file_(std::move(file)) {
+    // The work of a night may be in it.
+    if (!goesOn && std::filesystem::exists(pathOf(file_)))
+        throw Failure{finding,
+                      file_ + " is of a search that was ended: go on with --continue, or remove it."};
     const std::string head = std::string(firstWords) + hashOf(what) + "\n";
     writeBytes(file_, goesOn ? read(head, streams) : head, streams);
     out_.reset(std::fopen(file_.c_str(), "ab"));

@@ -15,7 +15,7 @@ namespace zentrik::cli {
 class KeptRuns {
 public:
     // what: the words and the project that the runs belong to. goesOn: reads the file, which must be there
-    // and be of the same; otherwise begins it anew. Throws a Failure that names the file.
+    // and be of the same; otherwise there must be none yet. Throws a Failure that names the file.
     KeptRuns(std::string file, const std::string& what, bool goesOn, Streams& streams);
 
     // What a run was worth, if it was made.

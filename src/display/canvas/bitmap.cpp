@@ -170,7 +170,7 @@ void Bitmap::picture(const QRect& place, std::span<const Tile> tiles) const {
     for (const Tile& tile : tiles) {
         const QPoint first(place.x() + tile.x, place.y() + tile.y);
         QRgb* to = at(first.x(), first.y());
-        Channels four;
+        Channels four{};
         if (whole) {
             std::memcpy(&four, to, sizeof four);
             four = covered(four, tile);

@@ -34,8 +34,8 @@ public:
     // None where the painter's unit is not a pixel of an image of 32 bits, or its clip is no rectangle.
     static std::optional<Bitmap> under(const QPainter& painter);
 
-    // A smooth line of one pixel's width from the middle of a pixel to that of another, both of which it
-    // covers by half. The same from either end; one of no length is not seen.
+    // A smooth line of one pixel's width from a pixel to another, both of which it covers. The same from
+    // either end; one of no length is not seen.
     void line(Pixel from, Pixel to, QRgb opaque) const;
 
     // The picture that the tiles were made of; place: its upper left corner and its size.
