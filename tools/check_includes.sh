@@ -31,10 +31,11 @@ CORE                        MODEL sim effects files project library edit history
 ui/commands       none      CORE
 ui                none      CORE ui/commands
 settings          none      MODEL project ui/commands
-export            Q.*       CORE display/canvas display
-export/pages      Q.*       CORE web display/canvas display export
-export/films      Q.*       CORE display/canvas display export export/pages
-SHOWN                       CORE settings display/canvas display export export/pages export/films
+plot              painting  MODEL sim measure display/canvas
+export            Q.*       CORE display/canvas display plot
+export/pages      Q.*       CORE web display/canvas display plot export
+export/films      Q.*       CORE display/canvas display plot export export/pages
+SHOWN                       CORE settings display/canvas display plot export export/pages export/films
 cli               Q.*       SHOWN
 cli/runs          Q.*       SHOWN cli
 cli/commands      Q.*       SHOWN cli cli/runs
@@ -44,7 +45,8 @@ app/bars          .*        WINDOW app/keeping
 app/boxes         .*        WINDOW app/keeping app/bars
 app/sharing       .*        WINDOW app/keeping app/bars app/boxes
 app/views         .*        WINDOW app/keeping app/bars
-app/window        .*        WINDOW app/keeping app/bars app/boxes app/sharing app/views
+app/plot          .*        WINDOW app/keeping app/bars app/boxes app/sharing app/views
+app/window        .*        WINDOW app/keeping app/bars app/boxes app/sharing app/views app/plot
 app               .*        WINDOW app/keeping app/boxes app/window
 END
 }

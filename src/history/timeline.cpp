@@ -15,7 +15,6 @@ namespace {
 constexpr std::int64_t stride = 16;  // steps between two moments of a run, as long as there is room
 constexpr std::int64_t runway = 32;  // steps before a destination at which a moment is kept, for the next
                                      // step back
-constexpr std::uint64_t spread = 0xD1342543DE82EF95U;  // parts the chance of one step from the next
 
 std::size_t bytesOf(const Moment& moment) {
     return sizeof moment + (moment.difference ? moment.difference->size() : 0);
@@ -30,22 +29,16 @@ std::size_t bytesOfAll(const Timeline& timeline) {
         [](std::size_t sum, const RecordedRun& run) { return sum + run.bytes + bytesOf(*run.first); });
 }
 
-Moment momentOf(const RecordedRun& run, const Editor& ed, std::int64_t step, bool pinned) {
+Moment momentOf(const RecordedRun& run, const Editor& ed, std::int64_t step, bool pinned,
+                bool start = false) {
     std::optional<Difference> difference = differenceBetween(*run.first, ed);
     return {step,
             pinned,
+            start,
             difference ? std::make_shared<const Difference>(*std::move(difference)) : nullptr,
             stepInputsOf(ed),
             ed.InitialVelocityPending,
             ed.Cycles};
-}
-
-// The last moment of a step or before it.
-auto momentBefore(RecordedRun& run, std::int64_t step) {
-    const auto behind =
-        std::upper_bound(run.moments.begin(), run.moments.end(), step,
-                         [](std::int64_t wanted, const Moment& m) { return wanted < m.step; });
-    return behind - 1;
 }
 
 void drop(RecordedRun& run, std::vector<Moment>::iterator moment) {
@@ -88,7 +81,8 @@ void keepWithinLimit(Timeline& timeline) {
 
 void keep(Timeline& timeline, Moment moment) {
     RecordedRun& run = timeline.run;
-    const auto place = run.moments.empty() ? run.moments.begin() : momentBefore(run, moment.step) + 1;
+    const auto place = std::upper_bound(run.moments.begin(), run.moments.end(), moment.step,
+                                        [](std::int64_t step, const Moment& m) { return step < m.step; });
     run.bytes += bytesOf(moment);
     run.moments.insert(place, std::move(moment));
     keepWithinLimit(timeline);
@@ -100,58 +94,37 @@ void dropWhatCameAfter(Timeline& timeline) {
     const std::int64_t at = timeline.at;
     if (run.last == at) return;
     timeline.former.push_back(run);
-    run.last = at;
+    run.parent = std::exchange(run.branch, ++timeline.branches);
+    run.branchedAt = run.last = at;
     while (run.moments.back().step > at) drop(run, run.moments.end() - 1);
     std::erase_if(run.places, [at](const auto& place) { return place.second > at; });
 }
 
-void begin(Timeline& timeline, Editor& ed) {
+void begin(Timeline& timeline, Editor& ed, bool isStart) {
     timeline.at = 0;
     timeline.edited = false;
     timeline.run = {};
     timeline.run.first = std::make_shared<const Contents>(ed);
+    timeline.run.branch = ++timeline.branches;
     timeline.run.seed = ed.chance.seedSource();
     timeline.run.places[timeline.state] = 0;
-    keep(timeline, momentOf(timeline.run, ed, 0, true));
+    keep(timeline, momentOf(timeline.run, ed, 0, true, isStart));
 }
 
 // Makes the model as it stands a moment of its own.
-void pinPresent(Timeline& timeline, const Editor& ed) {
+void pinPresent(Timeline& timeline, const Editor& ed, bool isStart = false) {
     dropWhatCameAfter(timeline);
-    keep(timeline, momentOf(timeline.run, ed, timeline.at, true));
+    keep(timeline, momentOf(timeline.run, ed, timeline.at, true, isStart));
     timeline.edited = false;
-}
-
-// make: makes the step of this number.
-template <class Make>
-void step(const RecordedRun& run, Editor& ed, std::int64_t number, Make make) {
-    ed.chance.tie(run.seed + static_cast<std::uint64_t>(number) * spread);
-    make(ed);
-    ed.chance.loosen();
-}
-
-void stepUnseen(Editor& ed) {
-    countCycle(ed);
-    advance(ed);
-}
-
-void takeTo(const RecordedRun& run, const Moment& moment, Editor& ed) {
-    Contents& contents = ed;
-    contents = *run.first;
-    if (moment.difference) apply(*moment.difference, Way::forth, contents);
-    stepInputsOf(ed) = moment.inputs;
-    ed.InitialVelocityPending = moment.InitialVelocityPending;
-    ed.Cycles = moment.Cycles;
 }
 
 // A model that was taken to a step from the moment before it.
 Editor replayTo(Timeline& timeline, std::int64_t target) {
-    const Moment from = *momentBefore(timeline.run, target);
-    Editor replay;
-    takeTo(timeline.run, from, replay);
+    const Moment& from = momentBefore(timeline.run, target);
+    Editor replay = modelAt(timeline.run, from);
     for (std::int64_t number = from.step; number < target; ++number) {
         if (number == target - runway) keep(timeline, momentOf(timeline.run, replay, number, false));
-        step(timeline.run, replay, number, stepUnseen);
+        makeStep(timeline.run, replay, number, stepUnseen);
     }
     return replay;
 }
@@ -167,11 +140,11 @@ void tick(Timeline& timeline, Editor& ed) {
     RecordedRun& run = timeline.run;
     const bool isStart = !timeline.running && !ed.SingleStep;
     if (run.moments.empty())
-        begin(timeline, ed);
-    else if (isStart || timeline.edited || stepInputsOf(ed) != momentBefore(run, timeline.at)->inputs)
-        pinPresent(timeline, ed);
+        begin(timeline, ed, isStart);
+    else if (isStart || timeline.edited || stepInputsOf(ed) != momentBefore(run, timeline.at).inputs)
+        pinPresent(timeline, ed, isStart);
     dropWhatCameAfter(timeline);
-    step(run, ed, timeline.at, Timer1_Timer);
+    makeStep(run, ed, timeline.at, Timer1_Timer);
     run.last = ++timeline.at;
     timeline.running = ed.Timer1.enabled;
     if (timeline.at % stride == 0) keep(timeline, momentOf(run, ed, timeline.at, false));

@@ -7,50 +7,13 @@
 // A run that the model leaves, and one whose later part is dropped, stays as it was: where undo leads back
 // into it, it is there again.
 
-#include "history/difference.h"
+#include "history/recorded_run.h"
 #include "model/editor.h"
 
 #include <cstdint>
-#include <map>
-#include <memory>
-#include <tuple>
-#include <utility>
 #include <vector>
 
 namespace zentrik {
-
-// What a step reads besides the model.
-inline auto stepInputsOf(auto& ed) {
-    auto& m = ed.marks;
-    return std::tie(m.mnuWalls, m.mnuCeiling, m.mnuIgnoreBarriers, m.mnuReverseModel, m.mnuUseDirectional,
-                    m.mnuPersistentFireworks, ed.timerFireWorks.enabled, m.mnuRandom, ed.buttons.slow,
-                    ed.buttons.animation, ed.buttons.ball, ed.NodeRadius, ed.sceneWidth, ed.sceneHeight);
-}
-template <class... T>
-std::tuple<T...> valuesOf(const std::tuple<T&...>& references) {
-    return references;
-}
-using StepInputs = decltype(valuesOf(stepInputsOf(std::declval<Editor&>())));
-
-struct Moment {
-    std::int64_t step = 0;
-    bool pinned = false;  // no step leads here from the moment before
-    // From the first; none where they are the same. Former runs share it.
-    std::shared_ptr<const Difference> difference;
-    StepInputs inputs;
-    bool InitialVelocityPending = false;
-    std::int32_t Cycles = 0;
-};
-
-struct RecordedRun {
-    std::shared_ptr<const Contents> first;
-    std::vector<Moment> moments;  // in order; none before the first step
-    std::size_t bytes = 0;        // of the moments
-    std::int64_t last = 0;        // how far it went, in steps
-    std::uint64_t seed = 0;       // of its chance
-    // The steps at which states lie that undo knows, by their numbers (see History::state).
-    std::map<std::uint64_t, std::int64_t> places;
-};
 
 struct Timeline {
     // Bytes of all runs. The oldest former ones go first, then moments where they are dense and far away.
@@ -59,6 +22,7 @@ struct Timeline {
     std::vector<RecordedRun> former;  // the newest is the last
     std::int64_t at = 0;              // the step of the run at which the model is
     std::uint64_t state = 0;          // the last one that was noted
+    std::uint64_t branches = 0;       // of runs, so far
     bool running = false;             // the last step was one of a run that goes on
     bool edited = false;              // something else changed the model since then, or may have
     std::int32_t replacedCount = 0;

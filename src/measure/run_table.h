@@ -1,7 +1,7 @@
 #pragma once
 // The table of a run as comma-separated text: a line of names with units, then a row a step.
 
-#include "model/editor.h"
+#include "measure/curves.h"
 
 #include <cstdint>
 #include <string>
@@ -9,18 +9,18 @@
 
 namespace zentrik {
 
-// The nodes and links that have columns, in this order; the whole model's columns are always there.
-struct TableColumns {
-    std::vector<std::int32_t> nodes, links;
-};
-// The selected node and the selected link; every used node and link where neither is selected.
+using TableColumns = std::vector<Curve>;
+
+// Every quantity of these nodes and links, in this order, and of the whole.
+TableColumns columnsOf(const std::vector<std::int32_t>& nodes, const std::vector<std::int32_t>& links);
+// Those of the selected node and the selected link; of every used node and link where neither is selected.
 TableColumns selectedColumns(const Editor& ed);
 
+// Step and time come before all columns.
 std::string tableHeader(const TableColumns& columns);
 
-// Step, time; place and velocity of the nodes; length and force of the links; centre of mass, kinetic,
-// spring and gravity energy of the whole. Cells of what is not there, or no more, are empty. Numbers are
-// those of the project file: point as decimal mark, never a locale's.
+// Cells of what is not there, or no more, are empty. Numbers are those of the project file: point as decimal
+// mark, never a locale's.
 void appendTableRow(std::string& out, const Editor& ed, std::int64_t step, const TableColumns& columns);
 
 }  // namespace zentrik

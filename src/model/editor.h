@@ -127,6 +127,7 @@ struct Editor : Contents {
     std::int32_t pathErased = 0;       // counts erasures, so that a view knows to start afresh
 
     std::string programFolder;  // where zoo and sprites are
+    std::string plotPlace;      // of the plot's window, as Qt tells it; empty until it was open
     std::string shareFolder;    // where a picture or film was saved last; empty for none yet
 };
 

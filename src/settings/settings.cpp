@@ -14,7 +14,7 @@ namespace {
 
 // Stand beside the table: whether the window comes back maximised, and where pictures are saved.
 constexpr const char* maximizedKey = "Maximized";
-constexpr const char* shareFolderKey = "ShareFolder";
+constexpr const char *shareFolderKey = "ShareFolder", *plotPlaceKey = "PlotPlace";
 
 // Where a row's value lives, for reading (const records) and for writing.
 template <class EditorType, class PlacementType>
@@ -62,6 +62,7 @@ void getSettings(Editor& ed, Placement& placement, SettingsStore& store) {
     }
     ed.windowMaximized = store.read(maximizedKey) == "True";
     ed.shareFolder = store.read(shareFolderKey).value_or("");
+    ed.plotPlace = store.read(plotPlaceKey).value_or("");
     setNodeRadius(ed, ed.NodeRadius);
     ed.timerFireWorks.enabled = ed.marks.mnuDisplayFireWorks;
 }
@@ -74,6 +75,7 @@ void saveSettings(const Editor& ed, const std::optional<Placement>& placement, S
     }
     store.write(maximizedKey, booleanText(ed.windowMaximized));
     if (!ed.shareFolder.empty()) store.write(shareFolderKey, ed.shareFolder);
+    if (!ed.plotPlace.empty()) store.write(plotPlaceKey, ed.plotPlace);
 }
 
 }  // namespace zentrik

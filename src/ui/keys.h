@@ -25,7 +25,9 @@ enum class KeyAct {
     copy,
     paste,
     copyPicture,
-    presets,  // of the button that has the keyboard
+    plot,          // opened, or closed
+    plotSelected,  // node and link
+    presets,       // of the button that has the keyboard
 };
 
 struct KeyRow {

@@ -2,6 +2,7 @@
 
 #include "app/bars/share_button.h"
 #include "app/sharing/recording.h"
+#include "basics/numbers.h"
 #include "cli_rig.h"
 #include "export/pages/live_page.h"
 #include "failing_disk.h"
@@ -255,6 +256,31 @@ TEST_F(SharingTest, AFolderThatIsGoneIsSaid) {
     awaitFilm();
     EXPECT_EQ(filmText(), "film.gif could not be made.\nNo such file or directory.");
     EXPECT_FALSE(recording()->findChild<QPushButton*>("openFolder")->isVisible());
+}
+
+TEST_F(SharingTest, APlotLeavesAsPictureAndAsTable) {
+    runAWhile();
+    QTest::mouseClick(find("plotButton"), Qt::LeftButton);
+    const auto* plot = find<PlotWindow>("PlotWindow");
+    settle();
+    QTest::mouseClick(find("copyPlot"), Qt::LeftButton);
+    const QMimeData* copied = QApplication::clipboard()->mimeData();
+    EXPECT_EQ(copied->imageData().value<QImage>().size(), plot->plotSize());
+    EXPECT_TRUE(copied->data("image/svg+xml").contains("<path"));
+
+    fill({{"format", 0}, {"scale", 2}});
+    name(out("plot"));
+    QTest::mouseClick(find("savePlot"), Qt::LeftButton);
+    EXPECT_EQ(QImage(QString::fromStdString(out("plot.png"))).size(), plot->plotSize() * 2);
+
+    name(out("way"));
+    QTest::mouseClick(find("savePlotTable"), Qt::LeftButton);
+    awaitFilm();
+    const std::vector<std::string> lines = linesOf(contentOf(out("way.csv")));
+    ASSERT_EQ(lines.size(), static_cast<std::size_t>(plot->plot().series.end()) + 1);
+    EXPECT_TRUE(lines[0].ends_with(",energy (mass twips^2/time unit^2)")) << lines[0];
+    const double last = plot->plot().series.all(4).least;
+    EXPECT_NE(contentOf(out("way.csv")).find(realText(last)), std::string::npos);
 }
 
 }  // namespace

@@ -62,7 +62,7 @@ void FilmDialog::tell() {
     const FilmPlan plan = planOf(ed_, choice());
     summary_->setText(QString("%1 pictures of %2, %3 s to play")
                           .arg(pictureCount(ed_, plan))
-                          .arg(sizeText(ed_, plan.look))
+                          .arg(sizeText(sceneSize(ed_), plan.look))
                           .arg(playingTime(ed_, plan), 0, 'f', 1));
 }
 

@@ -33,8 +33,8 @@ QDialogButtonBox* endButtons(QDialog& dialog, const QString& accept) {
     return buttons;
 }
 
-QString sizeText(const Editor& ed, const Look& look) {
-    const QSize size = sceneSize(ed) * look.scale;
+QString sizeText(QSize picture, const Look& look) {
+    const QSize size = picture * look.scale;
     return QString("%1 %2 %3 pixels").arg(size.width()).arg(QChar(0xD7)).arg(size.height());
 }
 

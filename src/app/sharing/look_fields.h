@@ -24,6 +24,6 @@ public:
 QDialogButtonBox* endButtons(QDialog& dialog, const QString& accept);
 
 // "1428 x 310 pixels"
-QString sizeText(const Editor& ed, const Look& look);
+QString sizeText(QSize picture, const Look& look);
 
 }  // namespace zentrik

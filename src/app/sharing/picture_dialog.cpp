@@ -24,14 +24,14 @@ QComboBox* addFormats(QFormLayout& form, PictureFormat preset) {
 
 }  // namespace
 
-PictureDialog::PictureDialog(const Editor& ed, const PictureChoice& preset, QWidget* parent)
+PictureDialog::PictureDialog(QSize size, const PictureChoice& preset, QWidget* parent)
     : QDialog(parent),
       format_(addFormats(formOf(*this), preset.format)),
       fields_(*static_cast<QFormLayout*>(layout()), preset.look) {
     setObjectName("PictureBox");
     setWindowTitle("Save Picture");
     auto* summary = new QLabel;
-    const auto tell = [this, &ed, summary] { summary->setText(sizeText(ed, choice().look)); };
+    const auto tell = [this, size, summary] { summary->setText(sizeText(size, choice().look)); };
     connect(fields_.scale, &QSpinBox::valueChanged, this, tell);
     tell();
     auto* form = static_cast<QFormLayout*>(layout());

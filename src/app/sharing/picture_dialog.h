@@ -16,7 +16,8 @@ struct PictureChoice {
 // Asks what kind of picture it is to be.
 class PictureDialog : public QDialog {
 public:
-    PictureDialog(const Editor& ed, const PictureChoice& preset, QWidget* parent);
+    // size: of the picture, device-independent pixels.
+    PictureDialog(QSize size, const PictureChoice& preset, QWidget* parent);
 
     PictureChoice choice() const;
 

@@ -62,12 +62,22 @@ void Sharing::copyPicture() {
     Subject subject(ed_);
     const Look look{window_.devicePixelRatioF(), false};
     subject.sprites.setRatio(look.scale);
-    auto* data = new QMimeData;
-    data->setImageData(sceneImage(subject, look));
-    data->setData("image/svg+xml",
-                  QByteArray::fromStdString(pictureFile(subject, PictureFormat::svg, {}).bytes));
-    QApplication::clipboard()->setMimeData(data);
+    copy(sceneImage(subject, look), pictureFile(subject, PictureFormat::svg, {}));
     say("The scene was copied as a picture.");
+}
+
+void Sharing::copyDrawing(const Drawing& drawing) {
+    if (host_.isAsking()) return;
+    const PictureFormatRow& shapes = pictureFormats()[static_cast<std::size_t>(PictureFormat::svg)];
+    copy(imageOf(drawing, {window_.devicePixelRatioF(), false}), shapes.make(drawing, {}));
+    say("The plot was copied as a picture.");
+}
+
+void Sharing::copy(const QImage& image, const PictureFile& shapes) {
+    auto* data = new QMimeData;
+    data->setImageData(image);
+    data->setData("image/svg+xml", QByteArray::fromStdString(shapes.bytes));
+    QApplication::clipboard()->setMimeData(data);
 }
 
 QString Sharing::askName(const QString& kind, const QString& suffix) {
@@ -81,14 +91,27 @@ QString Sharing::askName(const QString& kind, const QString& suffix) {
 }
 
 void Sharing::savePicture() {
-    PictureDialog dialog(ed_, picture_, &window_);
+    save(sceneSize(ed_), [this](const PictureFormatRow& format, const Look& look) {
+        Subject subject(ed_);
+        return pictureFile(subject, format, look);
+    });
+}
+
+void Sharing::saveDrawing(const Drawing& drawing) {
+    if (host_.isAsking()) return;
+    save(drawing.size,
+         [&](const PictureFormatRow& format, const Look& look) { return format.make(drawing, look); });
+}
+
+void Sharing::save(QSize size, const std::function<PictureFile(const PictureFormatRow&, const Look&)>& make) {
+    PictureDialog dialog(size, picture_, &window_);
     if (host_.show(dialog) != QDialog::Accepted) return;
     picture_ = dialog.choice();
-    const QString suffix = pictureFormats()[static_cast<std::size_t>(picture_.format)].suffix;
+    const PictureFormatRow& format = pictureFormats()[static_cast<std::size_t>(picture_.format)];
+    const QString suffix = format.suffix;
     const QString file = askName(suffix.toUpper() + " picture", suffix);
     if (file.isEmpty()) return;
-    Subject subject(ed_);
-    const PictureFile made = pictureFile(subject, picture_.format, picture_.look);
+    const PictureFile made = make(format, picture_.look);
     const std::string problem =
         made.problem.empty() ? writeFile(file.toStdString(), made.bytes) : made.problem;
     saved(file, problem);
@@ -166,6 +189,15 @@ void Sharing::saveTable() {
          [ed = ed_, steps = stepsOf(ed_, table_), path = file.toStdString()](const FilmProgress& goOn) {
              return makeTable(ed, steps, path, goOn);
          });
+}
+
+void Sharing::saveCurves(const RecordedRun& run, Stretch stretch, const std::vector<Curve>& curves) {
+    if (host_.isAsking() || isBusy()) return;
+    const QString file = askName("CSV table", "csv");
+    if (file.isEmpty()) return;
+    work("Save Table", file, [run, stretch, curves, path = file.toStdString()](const FilmProgress& goOn) {
+        return makeCurveTable(run, stretch, curves, path, goOn);
+    });
 }
 
 }  // namespace zentrik

@@ -4,6 +4,7 @@
 #include "app/sharing/picture_dialog.h"
 #include "app/sharing/recording.h"
 #include "app/sharing/table_dialog.h"
+#include "export/plot_picture.h"
 
 #include <QPointer>
 #include <memory>
@@ -21,6 +22,10 @@ public:
     std::function<void(const std::function<void(Editor&)>&)> change;
 
     void begin(Share what);
+    void copyDrawing(const Drawing& drawing);
+    void saveDrawing(const Drawing& drawing);
+    // The table of some curves over a part of a run.
+    void saveCurves(const RecordedRun& run, Stretch stretch, const std::vector<Curve>& curves);
     void cancelRecording();
 
 private:
@@ -34,6 +39,8 @@ private:
 
     void copyPicture();
     void savePicture();
+    void copy(const QImage& image, const PictureFile& shapes);
+    void save(QSize size, const std::function<PictureFile(const PictureFormatRow&, const Look&)>& make);
     void recordAnimation();
     void makeFilm(const std::shared_ptr<const Editor>& from, const QString& file);
     void saveLivePage();

@@ -108,6 +108,16 @@ void SceneView::keyPressEvent(QKeyEvent* event) {
     if (!keyPointer_->pressed(*event, mouse)) DrawingView::keyPressEvent(event);
 }
 
+void SceneView::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Keyboard) menuWanted(mapToGlobal(rect().center()), true);
+}
+
+void SceneView::mousePressEvent(QMouseEvent* event) {
+    const bool forMenu = event->button() == Qt::RightButton && event->modifiers() == Qt::ControlModifier;
+    if (forMenu && menuWanted(event->globalPosition().toPoint(), false)) return;
+    DrawingView::mousePressEvent(event);
+}
+
 void SceneView::mouseMoveEvent(QMouseEvent* event) {
     keyPointer_->letGo(mouse);
     keyPointer_->hide();

@@ -48,6 +48,10 @@ public:
     ~SceneView() override;
 
     SpritePictures sprites;
+    // A menu is asked for at a place of the screen, by a key for what is selected or else for what is under
+    // the pointer. A plain right click is the drawing's own. False where there is
+    // nothing to offer.
+    std::function<bool(QPoint place, bool byKey)> menuWanted;
 
     // The pointer that keys move, if there is one, else the mouse's, else the middle; twips.
     PointF pointerPlace() const;
@@ -60,6 +64,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:

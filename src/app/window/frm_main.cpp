@@ -55,8 +55,9 @@ frmMain::frmMain(const QString& folder)
       frmPath_(new PathWindow(ed_, this)),
       parts_{bars_, *picS_, *Frame1_, *picPhase_},
       place_(*this),
+      plotting_(*this, events_, sharing_, place_),
       drops_(*this, events_, *picS_),
-      keys_(*this, events_, sharing_, parts_) {
+      keys_(*this, events_, sharing_, plotting_, parts_) {
     setObjectName("frmMain");
     setWindowIcon(programIcon());
     statusBar()->setObjectName("StatusBar1");
@@ -132,6 +133,7 @@ void frmMain::changeEvent(QEvent* event) {
         bars_.followPalette();
         undo_->drawIcons();
         share_->drawIcon();
+        plotting_.drawIcon();
         showRecord();
     }
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
@@ -193,6 +195,7 @@ void frmMain::showRecord() {
     if (std::exchange(ed_.marksStale, false)) picS_->pacer.request();
     if (std::exchange(ed_.phaseStale, false)) picPhase_->showRecord();
     if (frmPath_->isVisible()) frmPath_->pacer.request();
+    plotting_.follow();
 }
 
 // A name may be of any length while it is typed.

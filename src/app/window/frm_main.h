@@ -9,6 +9,7 @@
 #include "app/window/drops.h"
 #include "app/window/events.h"
 #include "app/window/menu_bar.h"
+#include "app/window/plotting.h"
 #include "app/window/time_wheel.h"
 #include "app/window/window_keys.h"
 #include "app/window/window_parts.h"
@@ -74,6 +75,7 @@ private:
     PathWindow* const frmPath_;
     const WindowParts parts_;
     WindowPlace place_;
+    Plotting plotting_;
     Drops drops_;
     const WindowKeys keys_;
 

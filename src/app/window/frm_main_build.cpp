@@ -108,6 +108,7 @@ void frmMain::fillCorner() {
     row->setContentsMargins(0, 0, 4, 0);
     row->setSpacing(0);
     row->addWidget(undo_);
+    row->addWidget(plotting_.button);
     row->addWidget(share_);
     menuBar()->setCornerWidget(corner);
     undo_->undo = [this] { events_.undo(); };
@@ -123,6 +124,10 @@ void frmMain::connectViews() {
     picPhase_->mouse = mouseEvents(events_, stripMouse);
     picS_->mouse.leave = [this] {
         if (ed_.rubberBand) events_.follow([](Editor& ed, Host&) { redrawScene(ed); });
+    };
+    picS_->menuWanted = [this](QPoint place, bool byKey) {
+        return plotting_.offer(place, byKey ? ed_.SelectedNode : ed_.HoverNode,
+                               byKey ? ed_.SelectedLink : ed_.HoverLink);
     };
     frmPath_->clicked = [this] { events_.follow([](Editor& ed, Host&) { clearPath(ed); }); };
     frmPath_->closed = [this] { events_.follow([](Editor& ed, Host&) { ed.marks.mnuDisplayPath = false; }); };

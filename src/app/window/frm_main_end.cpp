@@ -33,6 +33,7 @@ void frmMain::comeForward() {
 // The settings and the project "resume". False when the latter could not be saved.
 bool frmMain::storeWork(Host& host) {
     ed_.windowMaximized = isMaximized();
+    plotting_.keepPlace();
     if (const std::string problem = settings_.store(ed_, place_.present()); !problem.empty())
         host.messageBox(problem, "Zentrik", BoxIcon::exclamation);
     return SaveFile(ed_, host, "resume");
@@ -51,6 +52,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     events_.host.closeHelp();
     sharing_.cancelRecording();
     frmPath_->hide();
+    plotting_.hide();
     event->accept();
 }
 

@@ -31,7 +31,8 @@ void connectKey(const char* keys, QWidget& where, Qt::ShortcutContext context,
 
 }  // namespace
 
-WindowKeys::WindowKeys(QWidget& window, Events& events, Sharing& sharing, const WindowParts& parts)
+WindowKeys::WindowKeys(QWidget& window, Events& events, Sharing& sharing, Plotting& plotting,
+                       const WindowParts& parts)
     : events_(events), parts_(parts) {
     const std::map<KeyAct, std::function<void(const KeyRow&)>> acts{
         {KeyAct::press, [this](const KeyRow& row) { parts_.bars.commandPressed(commandOf(row)); }},
@@ -44,6 +45,8 @@ WindowKeys::WindowKeys(QWidget& window, Events& events, Sharing& sharing, const 
         {KeyAct::copy, [&](const KeyRow&) { events.follow(copyObject); }},
         {KeyAct::paste, [this](const KeyRow&) { paste(); }},
         {KeyAct::copyPicture, [&](const KeyRow&) { sharing.begin(Share::copyPicture); }},
+        {KeyAct::plot, [&](const KeyRow&) { plotting.toggle(); }},
+        {KeyAct::plotSelected, [&](const KeyRow&) { plotting.plotSelected(); }},
         {KeyAct::help, [&](const KeyRow&) { events.host.showManual(); }},
         {KeyAct::quit, [&](const KeyRow&) { window.close(); }},
     };

@@ -1,6 +1,7 @@
 #pragma once
 #include "app/sharing/sharing.h"
 #include "app/window/events.h"
+#include "app/window/plotting.h"
 #include "app/window/window_parts.h"
 #include "ui/keys.h"
 
@@ -9,7 +10,8 @@ namespace zentrik {
 // Wires the table of keys to the window.
 class WindowKeys {
 public:
-    WindowKeys(QWidget& window, Events& events, Sharing& sharing, const WindowParts& parts);
+    WindowKeys(QWidget& window, Events& events, Sharing& sharing, Plotting& plotting,
+               const WindowParts& parts);
 
 private:
     Events& events_;

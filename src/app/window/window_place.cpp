@@ -66,10 +66,12 @@ void WindowPlace::followScreen() {
 }
 
 // Wholly visible with its frame, even below a window that reaches down to the end of the screen.
-void WindowPlace::placeBelow(QWidget& other) const {
+void WindowPlace::placeBelow(QWidget& other) const { placeBelow(other, window_.frameGeometry().size() / 2); }
+
+void WindowPlace::placeBelow(QWidget& other, QSize size) const {
     const QRect main = window_.frameGeometry();
-    const QRect place(main.left() + main.width() / 4, main.top() + main.height() + pixels(100),
-                      main.width() / 2, main.height() / 2);
+    const QRect place(
+        {main.left() + (main.width() - size.width()) / 2, main.top() + main.height() + pixels(100)}, size);
     const QSize frame = (other.frameGeometry().size() - other.size()).expandedTo(usualFrame);
     const QRect outer =
         insideArea({place.topLeft(), place.size() + frame}, window_.screen()->availableGeometry());

@@ -19,6 +19,7 @@ public:
     void followScreen();
     // Puts a window below the main one, or as near to there as the screen has room.
     void placeBelow(QWidget& other) const;
+    void placeBelow(QWidget& other, QSize size) const;
 
 private:
     QMainWindow& window_;

@@ -11,8 +11,9 @@ namespace zentrik::cli {
 
 namespace {
 
-constexpr const Command* table[] = {&checkCommand,   &infoCommand,  &runCommand,   &exportCommand,
-                                    &galleryCommand, &sweepCommand, &mergeCommand, &improveCommand};
+constexpr const Command* table[] = {&checkCommand,  &infoCommand,  &runCommand,
+                                    &exportCommand, &plotCommand,  &galleryCommand,
+                                    &sweepCommand,  &mergeCommand, &improveCommand};
 
 const Command* find(const std::string& name) {
     for (const Command* command : table)

@@ -7,8 +7,8 @@
 
 namespace zentrik::cli {
 
-extern const Command checkCommand, infoCommand, runCommand, exportCommand, galleryCommand, sweepCommand,
-    mergeCommand, improveCommand;
+extern const Command checkCommand, infoCommand, runCommand, exportCommand, plotCommand, galleryCommand,
+    sweepCommand, mergeCommand, improveCommand;
 
 std::span<const Command* const> commands();
 

@@ -83,7 +83,7 @@ ExitStatus exportPicture(Editor& ed, const PictureFormatRow& format, const std::
         const int side = static_cast<int>(std::min<std::int64_t>(*number, 1 << 15));
         look.scale = fitThumbnail(subject, {side, side});
     }
-    const PictureFile made = format.make(subject, look);
+    const PictureFile made = pictureFile(subject, format, look);
     if (!made.problem.empty()) throw Failure{finding, shownName(file) + ": " + made.problem};
     writeBytes(file, made.bytes, streams);
     return stoppedEarly(arguments, steps > 0 ? whyStopped(ed) : "");

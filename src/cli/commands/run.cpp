@@ -26,23 +26,21 @@ constexpr OptionRow options[] = {
     {nullptr, "hash", nullptr, "Write a hash of the state that is then, the same on every machine."},
 };
 
-TableColumns columnsOf(const Editor& ed, const Arguments& arguments) {
+TableColumns columnsFor(const Editor& ed, const Arguments& arguments) {
     const auto list = [&](const char* name, const char* usual, std::int32_t last, const char* what) {
         const std::string text = arguments.value(name).value_or(usual);
         return text == "none" ? std::vector<std::int32_t>() : readList(text, last, what);
     };
-    TableColumns columns{list("nodes", "all", lastNode(ed), "node"),
-                         list("links", "none", lastLink(ed), "link")};
-    if (!arguments.has("nodes"))
-        std::erase_if(columns.nodes, [&](std::int32_t i) { return !nodeAt(ed, i).Used; });
-    return columns;
+    std::vector<std::int32_t> nodes = list("nodes", "all", lastNode(ed), "node");
+    if (!arguments.has("nodes")) std::erase_if(nodes, [&](std::int32_t i) { return !nodeAt(ed, i).Used; });
+    return columnsOf(nodes, list("links", "none", lastLink(ed), "link"));
 }
 
 // The rows of the steps that are to have one.
 class Table {
 public:
     Table(const Editor& ed, const Arguments& arguments, Streams& streams)
-        : columns_(columnsOf(ed, arguments)),
+        : columns_(columnsFor(ed, arguments)),
           every_(arguments.number("every", 1).value_or(1)),
           output_(*arguments.value("table"), streams) {
         output_.text = tableHeader(columns_);
