@@ -78,6 +78,7 @@ public:
                 points_.append({x, panel_.place(std::isnan(ys_[i].first) ? ys_[i].least : ys_[i].first)});
                 column_ = ys_[i];
             }
+            last_ = ys_[i].first;
             column_ = {0, std::fmin(column_.least, ys_[i].least),
                        std::fmax(column_.greatest, ys_[i].greatest)};
         }
@@ -91,12 +92,16 @@ private:
     const std::vector<Span>&xs_, &ys_;
     QPolygonF points_;
     Span column_{};
+    double last_ = 0;
 
-    // Goes to the ends of the column that the last point stands in.
+    // Goes to the ends of the column that the last point stands in, the one that it leaves by last.
     void flush() {
         if (points_.isEmpty() || plot_.against != 0 || column_.least == column_.greatest) return;
-        const double x = points_.last().x();
-        points_ << QPointF(x, panel_.place(column_.least)) << QPointF(x, panel_.place(column_.greatest));
+        const double x = points_.last().x(), least = panel_.place(column_.least),
+                     greatest = panel_.place(column_.greatest), last = panel_.place(last_);
+        const bool falls = std::fabs(last - least) < std::fabs(last - greatest);
+        points_ << QPointF(x, falls ? greatest : least) << QPointF(x, falls ? least : greatest);
+        if (!std::isnan(last)) points_ << QPointF(x, last);
     }
     void end(QPainter& painter) {
         flush();

@@ -64,8 +64,8 @@ protected:
     }
 };
 
-// What was run before the window was opened is read afterwards, in a thread; what comes then, step by step. Both
-// are what a table of a fresh run says.
+// What was run before the window was opened is read afterwards, in a thread; what comes then, step by step.
+// Both are what a table of a fresh run says.
 TEST_F(PlotWindowTest, ShowsWhatARunsTableSays) {
     Editor fresh = ed();
     run(90);
@@ -83,7 +83,8 @@ TEST_F(PlotWindowTest, ShowsWhatARunsTableSays) {
         const ModelReading reading(fresh);
         EXPECT_NEAR(series().of(0)[step].first, dt() * static_cast<double>(step), 1e-5);
         for (std::size_t c = 0; c < curves.size(); ++c)
-            ASSERT_EQ(series().of(c + 1)[step].first, valueOf(reading, curves[c])) << step << nameOf(curves[c]);
+            ASSERT_EQ(series().of(c + 1)[step].first, valueOf(reading, curves[c]))
+                << step << nameOf(curves[c]);
         if (step == 0) beginRun(fresh), fresh.InitialVelocityPending = false;
         stepRun(fresh);
     }
@@ -123,14 +124,16 @@ TEST_F(PlotWindowTest, ZoomsByWheelAndDragAndFits) {
     open();
     const auto shown = [this] { return plot().plot().shown; };
     const auto turn = [this](QPoint at, QPoint by, Qt::KeyboardModifiers with) {
-        QWheelEvent event(at, find("plot")->mapToGlobal(at), {}, by, Qt::NoButton, with, Qt::NoScrollPhase, false);
+        QWheelEvent event(at, find("plot")->mapToGlobal(at), {}, by, Qt::NoButton, with, Qt::NoScrollPhase,
+                          false);
         QApplication::sendEvent(find("plot"), &event);
         settle();
     };
     turn(placeOf(40), {0, 240}, {});
     ASSERT_TRUE(shown());
     EXPECT_NEAR(shown()->to - shown()->from, 0.64 * 100 * dt(), 1e-4) << "of an axis to 2, after 80 steps";
-    EXPECT_NEAR((40 * dt() - shown()->from) / (shown()->to - shown()->from), 0.4, 0.01) << "it stays in place";
+    EXPECT_NEAR((40 * dt() - shown()->from) / (shown()->to - shown()->from), 0.4, 0.01)
+        << "it stays in place";
     const Range before = *shown();
     turn(placeOf(40), {0, -120}, Qt::ShiftModifier);
     EXPECT_GT(shown()->from, before.from);

@@ -144,5 +144,68 @@ TEST_F(ExportCommand, AnInterruptLeavesNothing) {
     EXPECT_EQ(entriesIn(folder_.path), 0U);
 }
 
+using PlotCommand = CommandLine;
+
+// The same numbers as the table of the run, and a picture of them.
+TEST_F(PlotCommand, DrawsCurvesOrWritesThem) {
+    const std::string table = file("way.csv");
+    EXPECT_EQ(
+        zentrikCli({"plot", sample("bouncer"), "-n50", "-cnode 1.Y", "--curve=energy", "-o", table}).error,
+        "");
+    zentrikCli({"run", sample("bouncer"), "-n50", "--table", file("all.csv")});
+    const std::vector<std::string> some = linesOf(contentOf(table)),
+                                   all = linesOf(contentOf(file("all.csv")));
+    ASSERT_EQ(some.size(), 52U);
+    EXPECT_EQ(some[0], "step,time (time units),node 1 y (twips),energy (mass twips^2/time unit^2)");
+    ASSERT_EQ(all.size(), some.size());
+    const auto cell = [](const std::string& line, int n) {
+        return QString::fromStdString(line).section(',', n, n);
+    };
+    for (std::size_t step = 1; step < some.size(); ++step) {
+        EXPECT_EQ(cell(some[step], 2), cell(all[step], 3)) << step;
+        EXPECT_EQ(cell(some[step], 3), cell(all[step], -1)) << step;
+    }
+    const auto picture = [&](std::vector<std::string> options, const char* name = "plot.png") {
+        std::vector<std::string> words{"plot", sample("oscillators"), "-n300", "--curve=node 5 height"};
+        words.insert(words.end(), options.begin(), options.end());
+        words.insert(words.end(), {"-o", file(name)});
+        EXPECT_EQ(zentrikCli(words).error, "");
+        return QImage(QString::fromStdString(file(name)));
+    };
+    const QImage plain = picture({"--size=500x300"});
+    EXPECT_EQ(plain.size(), QSize(500, 300));
+    EXPECT_EQ(plain.pixelColor(2, 2), QColor(Qt::white));
+    EXPECT_EQ(picture({"--size=500x300", "--scale=2"}).size(), QSize(1000, 600));
+    EXPECT_LT(picture({"--size=500x300", "--dark"}).pixelColor(2, 2).lightness(), 60);
+    EXPECT_NE(picture({"--size=500x300", "--against=node 5.Vy"}), plain);
+    EXPECT_FALSE(picture({"--scale=2"}, "plot.svg").isNull());
+    EXPECT_TRUE(contentOf(file("plot.svg")).find("<path") != std::string::npos);
+    picture({}, "plot.pdf");
+    EXPECT_TRUE(contentOf(file("plot.pdf")).starts_with("%PDF"));
+}
+
+TEST_F(PlotCommand, SaysWhatItCannotPlot) {
+    const auto said = [&](std::vector<std::string> options) {
+        options.insert(options.begin(), {"plot", sample("bouncer"), "-n5"});
+        const Said answer = zentrikCli(options);
+        EXPECT_EQ(answer.status, 2);
+        return answer.error.substr(0, answer.error.find('\n'));
+    };
+    const std::string out = "-o" + file("p.png");
+    EXPECT_EQ(said({}), "zentrik-cli plot: -o must say which file to write.");
+    EXPECT_EQ(said({out, "-cnode 1.hight"}),
+              "zentrik-cli plot: There is no curve \"node 1.hight\". Did you mean height?");
+    EXPECT_EQ(said({out, "-cnode 2.y"}), "zentrik-cli plot: There is nothing to plot: node 2 y.");
+    EXPECT_EQ(said({out, "--size=9x9"}),
+              "zentrik-cli plot: --size takes a width and a height of 100 to 8000, as in 900x420.");
+    EXPECT_EQ(said({"-o" + file("p.txt")}),
+              "zentrik-cli plot: The name of " + file("p.txt") + " must end in .png, .svg, .pdf or .csv.");
+    const Said massless =
+        zentrikCli({"plot", sample("bouncer"), "-n5", "--set=node 1.Mass=0", "-o", file("m.png")});
+    EXPECT_EQ(massless.status, 1);
+    EXPECT_NE(massless.error.find("mass of 0"), std::string::npos);
+    EXPECT_FALSE(QImage(QString::fromStdString(file("m.png"))).isNull()) << "what there was is drawn";
+}
+
 }  // namespace
 }  // namespace zentrik

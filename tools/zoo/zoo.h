@@ -22,6 +22,10 @@ Editor firstWalker();
 Editor cannon();
 Editor moon();
 
+// To be measured.
+Editor bouncer();
+Editor oscillators();
+
 // Hanging from the top.
 Editor acrobats();
 Editor bridge();
