@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QTemporaryDir>
+#include <QToolButton>
 
 namespace zentrik {
 
@@ -45,6 +46,7 @@ BENCHMARK(programStart)->Unit(benchmark::kMillisecond);
 
 // A tick of the running window with its share of the paints, period 1 ms. What a paint takes must not become
 // the period of the model.
+// Arguments: nodes, and whether the plot shows the run's energies.
 void tickBesidePaints(benchmark::State& state) {
     const QTemporaryDir folder;
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
@@ -60,15 +62,18 @@ void tickBesidePaints(benchmark::State& state) {
         ed.buttons.start = true;
         startClicked(ed, host);
     });
+    if (state.range(1) != 0) window.findChild<QToolButton*>("plotButton")->click();
     for (auto _ : state)
         for (const std::int32_t cycles = window.editor().Cycles; window.editor().Cycles == cycles;)
             QApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 BENCHMARK(tickBesidePaints)
-    ->Arg(100)
-    ->Arg(10000)
-    ->Arg(50000)
-    ->Arg(100000)
+    ->Args({100, 0})
+    ->Args({1000, 0})
+    ->Args({1000, 1})
+    ->Args({10000, 0})
+    ->Args({50000, 0})
+    ->Args({100000, 0})
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
 

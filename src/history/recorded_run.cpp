@@ -55,15 +55,10 @@ void goThrough(const RecordedRun& run, std::int64_t from, std::int64_t to,
 }
 
 Stretch stretchAt(const RecordedRun& run, std::int64_t step) {
-    Stretch found{run.moments.empty() ? 0 : run.moments.front().step, run.last};
-    for (const Moment& moment : run.moments) {
-        if (!moment.start) continue;
-        if (moment.step <= step)
-            found.begin = moment.step;
-        else
-            return {found.begin, moment.step};
-    }
-    return found;
+    const std::int64_t oldest = run.moments.empty() ? 0 : run.moments.front().step;
+    const auto next = std::upper_bound(run.starts.begin(), run.starts.end(), step);
+    const std::int64_t begin = next == run.starts.begin() ? 0 : *(next - 1);
+    return {std::max(begin, oldest), next == run.starts.end() ? run.last : *next};
 }
 
 }  // namespace zentrik

@@ -31,7 +31,6 @@ using StepInputs = decltype(valuesOf(stepInputsOf(std::declval<Editor&>())));
 struct Moment {
     std::int64_t step = 0;
     bool pinned = false;  // no step leads here from the moment before
-    bool start = false;   // of the animation
     // From the first; none where they are the same. Former runs share it.
     std::shared_ptr<const Difference> difference;
     StepInputs inputs;
@@ -41,10 +40,11 @@ struct Moment {
 
 struct RecordedRun {
     std::shared_ptr<const Contents> first;
-    std::vector<Moment> moments;  // in order; none before the first step
-    std::size_t bytes = 0;        // of the moments
-    std::int64_t last = 0;        // how far it went, in steps
-    std::uint64_t seed = 0;       // of its chance
+    std::vector<Moment> moments;       // in order; none before the first step
+    std::size_t bytes = 0;             // of the moments
+    std::int64_t last = 0;             // how far it went, in steps
+    std::uint64_t seed = 0;            // of its chance
+    std::vector<std::int64_t> starts;  // of the animation, by their steps, in order
     // No two ways that a run takes share a number. Where one was left the other goes on as `branch`, with the
     // steps up to `branchedAt` from `parent`.
     std::uint64_t branch = 0, parent = 0;

@@ -29,12 +29,10 @@ std::size_t bytesOfAll(const Timeline& timeline) {
         [](std::size_t sum, const RecordedRun& run) { return sum + run.bytes + bytesOf(*run.first); });
 }
 
-Moment momentOf(const RecordedRun& run, const Editor& ed, std::int64_t step, bool pinned,
-                bool start = false) {
+Moment momentOf(const RecordedRun& run, const Editor& ed, std::int64_t step, bool pinned) {
     std::optional<Difference> difference = differenceBetween(*run.first, ed);
     return {step,
             pinned,
-            start,
             difference ? std::make_shared<const Difference>(*std::move(difference)) : nullptr,
             stepInputsOf(ed),
             ed.InitialVelocityPending,
@@ -98,9 +96,10 @@ void dropWhatCameAfter(Timeline& timeline) {
     run.branchedAt = run.last = at;
     while (run.moments.back().step > at) drop(run, run.moments.end() - 1);
     std::erase_if(run.places, [at](const auto& place) { return place.second > at; });
+    std::erase_if(run.starts, [at](std::int64_t start) { return start > at; });
 }
 
-void begin(Timeline& timeline, Editor& ed, bool isStart) {
+void begin(Timeline& timeline, Editor& ed) {
     timeline.at = 0;
     timeline.edited = false;
     timeline.run = {};
@@ -108,13 +107,13 @@ void begin(Timeline& timeline, Editor& ed, bool isStart) {
     timeline.run.branch = ++timeline.branches;
     timeline.run.seed = ed.chance.seedSource();
     timeline.run.places[timeline.state] = 0;
-    keep(timeline, momentOf(timeline.run, ed, 0, true, isStart));
+    keep(timeline, momentOf(timeline.run, ed, 0, true));
 }
 
 // Makes the model as it stands a moment of its own.
-void pinPresent(Timeline& timeline, const Editor& ed, bool isStart = false) {
+void pinPresent(Timeline& timeline, const Editor& ed) {
     dropWhatCameAfter(timeline);
-    keep(timeline, momentOf(timeline.run, ed, timeline.at, true, isStart));
+    keep(timeline, momentOf(timeline.run, ed, timeline.at, true));
     timeline.edited = false;
 }
 
@@ -140,10 +139,11 @@ void tick(Timeline& timeline, Editor& ed) {
     RecordedRun& run = timeline.run;
     const bool isStart = !timeline.running && !ed.SingleStep;
     if (run.moments.empty())
-        begin(timeline, ed, isStart);
+        begin(timeline, ed);
     else if (isStart || timeline.edited || stepInputsOf(ed) != momentBefore(run, timeline.at).inputs)
-        pinPresent(timeline, ed, isStart);
+        pinPresent(timeline, ed);
     dropWhatCameAfter(timeline);
+    if (isStart) run.starts.push_back(timeline.at);
     makeStep(run, ed, timeline.at, Timer1_Timer);
     run.last = ++timeline.at;
     timeline.running = ed.Timer1.enabled;

@@ -32,8 +32,13 @@ double forceOf(const ModelReading& reading, std::int32_t j) {
     return springForce(link, linkLength(reading.ed, link), restLength(link, reading.clock));
 }
 
-double energyOf(const ModelReading& reading) {
-    return kineticEnergy(reading.ed) + springEnergy(reading.ed) + gravityEnergy(reading.ed);
+template <std::size_t kind>
+double energyOf(const ModelReading& reading, std::int32_t) {
+    return reading.energies()[kind];
+}
+double wholeEnergyOf(const ModelReading& reading, std::int32_t) {
+    const auto& [kinetic, spring, gravity] = reading.energies();
+    return kinetic + spring + gravity;
 }
 
 constexpr const char *twips = "twips", *perTime = "twips/time unit", *forceUnit = "mass twips/time unit^2",
@@ -56,10 +61,10 @@ constexpr Quantity table[] = {
     {Of::link, "rest length", twips, restOf, true},
     {Of::whole, "centre x", twips, [](R r, Slot) { return centreOfMass(r.ed).x; }},
     {Of::whole, "centre y", twips, [](R r, Slot) { return centreOfMass(r.ed).y; }},
-    {Of::whole, "kinetic energy", energyUnit, [](R r, Slot) { return kineticEnergy(r.ed); }},
-    {Of::whole, "spring energy", energyUnit, [](R r, Slot) { return springEnergy(r.ed); }},
-    {Of::whole, "gravity energy", energyUnit, [](R r, Slot) { return gravityEnergy(r.ed); }},
-    {Of::whole, "energy", energyUnit, [](R r, Slot) { return energyOf(r); }},
+    {Of::whole, "kinetic energy", energyUnit, energyOf<0>},
+    {Of::whole, "spring energy", energyUnit, energyOf<1>},
+    {Of::whole, "gravity energy", energyUnit, energyOf<2>},
+    {Of::whole, "energy", energyUnit, wholeEnergyOf},
 };
 // clang-format on
 
@@ -85,6 +90,11 @@ Place ModelReading::pull(std::int32_t node) const {
         of(link.N2).x -= towards.x, of(link.N2).y -= towards.y;
     });
     return pulls_[static_cast<std::size_t>(node)];
+}
+
+const std::array<double, 3>& ModelReading::energies() const {
+    if (!energies_) energies_ = {kineticEnergy(ed), springEnergy(ed), gravityEnergy(ed)};
+    return *energies_;
 }
 
 std::span<const Quantity> quantities() { return table; }

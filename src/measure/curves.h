@@ -6,6 +6,7 @@
 #include "model/editor.h"
 #include "sim/forces.h"
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string>
@@ -23,9 +24,12 @@ public:
     const AnimatorClock clock;
     // With which its links and its weight pull a node; wind, drag and what it touches are not in it.
     Place pull(std::int32_t node) const;
+    // Kinetic, spring and gravity energy of the whole.
+    const std::array<double, 3>& energies() const;
 
 private:
     mutable std::vector<Place> pulls_;  // by node; empty until asked for
+    mutable std::optional<std::array<double, 3>> energies_;
 };
 
 enum class Of { whole, node, link };

@@ -45,7 +45,7 @@ std::vector<double> upwardCrossings(const std::vector<Span>& times, const std::v
 
 double periodOf(const std::vector<double>& crossings) {
     if (crossings.size() < 3) return 0;
-    constexpr double alike = 0.05; // of the mean, by which a swing may be longer or shorter
+    constexpr double alike = 0.05;  // of the mean, by which a swing may be longer or shorter
     const double mean = (crossings.back() - crossings.front()) / static_cast<double>(crossings.size() - 1);
     for (std::size_t i = 1; i < crossings.size(); ++i)
         if (std::fabs(crossings[i] - crossings[i - 1] - mean) > alike * std::fabs(mean)) return 0;

@@ -146,7 +146,7 @@ TEST(Curves, MeasureAPeriodAndABounce) {
         EXPECT_NEAR(period, 2 * std::numbers::pi * times / 10, 0.003 * times);
         EXPECT_EQ(figuresOf(swings, 1, 0, 50).period, 0) << "too short a part";
     }
-    const RunSeries bounces = runOf("bouncer", {heights[0]}, 4000);
+    const RunSeries bounces = runOf("bouncer", {heights[0]}, 8000);
     const auto& heightsNow = bounces.of(1);
     std::vector<double> tops{heightsNow.front().first};
     for (std::size_t i = 1; i + 1 < heightsNow.size(); ++i)

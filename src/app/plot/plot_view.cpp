@@ -23,7 +23,8 @@ bool zoomsByDrag(const QMouseEvent& event) {
 
 }  // namespace
 
-PlotView::PlotView(const RunSeries& series, QWidget* parent) : QWidget(parent), series_(series) {
+PlotView::PlotView(const RunSeries& series, QWidget* parent)
+    : QWidget(parent), series_(series), pacer_(*this) {
     setObjectName("plot");
     setAccessibleName("Plot");
     setMouseTracking(true);
@@ -52,19 +53,9 @@ void PlotView::showAfresh(std::optional<std::int64_t> now) {
 }
 
 void PlotView::showMore(std::optional<std::int64_t> now, bool runs) {
-    const auto before = std::exchange(now_, now);
-    const bool legendDue = !runs || legendAge_.elapsed() >= legendPeriod;
-    if (legendDue) legendCurrent_ = false;
-    if (against_ != 0 || !current_ || frame() != frame_) return update();
-    update(columnOf(before) | columnOf(now));
-    if (legendDue) update(QRect(frame_.legend.topLeft() / frame_.ratio, rect().bottomRight()));
-}
-
-// Where the line through a step stands, with what is drawn beside it.
-QRect PlotView::columnOf(std::optional<std::int64_t> step) const {
-    if (!step || series_.size() == 0) return {};
-    const double x = frame_.place(series_.of(0)[series_.spanAt(*step)].first) / frame_.ratio;
-    return QRect(static_cast<int>(x) - 4, 0, 10, height());
+    now_ = now;
+    if (!runs || legendAge_.elapsed() >= legendPeriod) legendCurrent_ = false;
+    pacer_.request();
 }
 
 void PlotView::setAgainst(std::size_t curve) {
@@ -117,6 +108,10 @@ void PlotView::keepLegend() {
 }
 
 void PlotView::paintEvent(QPaintEvent*) {
+    pacer_.measure([this] { paint(); });
+}
+
+void PlotView::paint() {
     keepPicture();
     keepLegend();
     QPainter painter(this);

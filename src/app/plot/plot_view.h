@@ -1,4 +1,5 @@
 #pragma once
+#include "app/views/paint_pacer.h"
 #include "plot/plot.h"
 
 #include <QElapsedTimer>
@@ -40,6 +41,7 @@ protected:
 
 private:
     const RunSeries& series_;
+    PaintPacer pacer_;
     std::size_t against_ = 0;
     std::optional<Range> shown_;
     std::optional<std::int64_t> now_, pointed_;
@@ -53,7 +55,7 @@ private:
     PlotFrame frame() const;
     void keepPicture();
     void keepLegend();
-    QRect columnOf(std::optional<std::int64_t> step) const;
+    void paint();
     void choose(QPointF place);
     void showRange(Range range);
     void point(std::optional<std::int64_t> step);

@@ -58,29 +58,6 @@ PlotWindow::PlotWindow(QWidget* parent)
 }
 
 void PlotWindow::layOut() {
-    against_->setObjectName("against");
-    against_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    progress_->setObjectName("progress");
-    progress_->setAccessibleName("Progress");
-    progress_->setFormat("Reading the run: %p %");
-    progress_->setVisible(false);
-    auto* row = new QHBoxLayout;
-    auto* label = new QLabel("&Against:");
-    label->setBuddy(against_);
-    auto* fit = new QPushButton("&Fit");
-    fit->setObjectName("fit");
-    fit->setToolTip("Shows the whole run, as a double click in the plot does");
-    connect(fit, &QPushButton::clicked, this, [this] { view_->fit(); });
-    for (QWidget* part : std::initializer_list<QWidget*>{label, against_, fit, progress_})
-        row->addWidget(part);
-    row->addStretch();
-    for (const ButtonRow& button : buttons) {
-        auto* made = new QPushButton(button.caption);
-        made->setObjectName(button.name);
-        made->setToolTip(button.tip);
-        connect(made, &QPushButton::clicked, this, [this, what = button.what] { shared(what); });
-        row->addWidget(made);
-    }
     auto* parts = new QSplitter(this);
     parts->addWidget(list_);
     parts->addWidget(view_);
@@ -89,7 +66,34 @@ void PlotWindow::layOut() {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
     column->addWidget(parts, 1);
-    column->addLayout(row);
+    column->addLayout(makeRow());
+}
+
+QHBoxLayout* PlotWindow::makeRow() {
+    against_->setObjectName("against");
+    against_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    progress_->setObjectName("progress");
+    progress_->setAccessibleName("Progress");
+    progress_->setFormat("Reading the run: %p %");
+    progress_->setVisible(false);
+    auto* label = new QLabel("&Against:");
+    label->setBuddy(against_);
+    auto* row = new QHBoxLayout;
+    const auto add = [row](const char* name, const char* caption, const char* tip, auto press) {
+        auto* button = new QPushButton(caption);
+        button->setObjectName(name);
+        button->setToolTip(tip);
+        connect(button, &QPushButton::clicked, row, press);
+        row->addWidget(button);
+    };
+    row->addWidget(label);
+    row->addWidget(against_);
+    add("fit", "&Fit", "Shows the whole run, as a double click in the plot does", [this] { view_->fit(); });
+    row->addWidget(progress_);
+    row->addStretch();
+    for (const ButtonRow& button : buttons)
+        add(button.name, button.caption, button.tip, [this, what = button.what] { shared(what); });
+    return row;
 }
 
 void PlotWindow::choose(const std::vector<Curve>& curves) {

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 class QComboBox;
+class QHBoxLayout;
 class QProgressBar;
 
 namespace zentrik {
@@ -47,8 +48,8 @@ private:
     QTimer look_;  // at the progress
 
     void layOut();
+    QHBoxLayout* makeRow();
     void chosen();
-    void listAgainst();
     void showProgress();
 };
 
