@@ -169,6 +169,13 @@ TEST_F(Recovery, ALimitOfTheFileSizeEndsNothingAndSpoilsNothing) {
     EXPECT_EQ(contentOf(files[0]) + contentOf(files[1]), before);
 }
 
+TEST_F(Recovery, WhatIsFiledAtTheEndLeavesNoCopy) {
+    click({100, 100});
+    window_->keepWorkAndEnd();
+    window_.reset();
+    EXPECT_EQ(leftNames(), "");
+}
+
 TEST_F(Recovery, WhatCannotBeFiledAtTheEndIsLeftAsACopy) {
     click({100, 100});
     fs::remove_all(folder_.path / "zoo");

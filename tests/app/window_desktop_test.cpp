@@ -21,6 +21,16 @@ struct DesktopFont {
     ~DesktopFont() { QApplication::setFont(before); }
 };
 
+TEST_F(Window, StatusPanelsStandSideBySide) {
+    for (int number = 1; number <= 5; ++number) {
+        const auto* panel = find<QLabel>(qPrintable(QString("Panel%1").arg(number)));
+        EXPECT_TRUE(panel->isVisible() && panel->width() > 60 && panel->height() > 10) << number;
+        if (number == 1) continue;
+        EXPECT_GT(panel->x(),
+                  find<QLabel>(qPrintable(QString("Panel%1").arg(number - 1)))->geometry().right());
+    }
+}
+
 TEST_F(Window, BarsTakeTheRoomTheirFontNeeds) {
     const DesktopFont desktop;
     window_->resize(window_->minimumSize());

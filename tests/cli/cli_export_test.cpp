@@ -47,6 +47,9 @@ TEST_F(ExportCommand, MakesTheSameFilmsAndTablesAsTheWindow) {
     makeTable(ed, 50, file("ours"), [](const FilmState&) { return true; });
     EXPECT_TRUE(contentOf(file("t.csv")) == contentOf(file("ours")));
     EXPECT_EQ(linesOf(contentOf(file("ours"))).size(), 52U);
+    EXPECT_TRUE(
+        makeTable(ed, 50, file("none.csv"), [](const FilmState& now) { return now.done < 0.5; }).cancelled);
+    EXPECT_FALSE(std::filesystem::exists(file("none.csv")));
     if (!missing("ffmpeg").empty()) GTEST_SKIP() << missing("ffmpeg");
 }
 

@@ -59,7 +59,12 @@ async function drag(out) {
   told.forth = hashOf(live), told.last = live.last();
   live.down(-1e6, -1e6, 0);
   told.missed = live.down(x + 200, y - 200, 0);
-  told.near = live.down(x + 900, y - 300, 5000), live.up(x, y);
+  told.near = live.down(x + 1200, y - 300, 5000), live.up(x, y);
+  live.down(-1e6, -1e6, 0);
+  live.next(false), live.nudge(300, -200), live.step();
+  told.nudged = hashOf(live), told.nudgedAt = live.at();
+  live.nudge(-450, 100), live.goTo(live.at() - 1), live.goTo(live.at() + 1);
+  told.pinned = hashOf(live);
   live.to('gravity', 0.5);
   live.down(-1e6, -1e6, 0);
   live.reset();

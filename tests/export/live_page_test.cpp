@@ -4,8 +4,10 @@
 
 #include "browser.h"
 #include "cli_rig.h"
+#include "edit/hit.h"
 #include "edit/mouse.h"
 #include "export/picture.h"
+#include "host/quiet_host.h"
 #include "measure/state_hash.h"
 #include "model/redraw.h"
 #include "model/store.h"
@@ -131,6 +133,25 @@ TEST_F(LivePages, ADragIsTheMouseAndTimeGoesBack) {
     EXPECT_EQ(said("dragged"), hex(stateHash(ed)));
     EXPECT_EQ(said("forth"), stopped());
     EXPECT_TRUE(contentOf(file("taken.bot")) == projectBytes(ed)) << "what Save would write";
+    // By keys: the next node is chosen, moved, and the run goes back to what was done by hand.
+    stopAnimation(ed);
+    NoSelections(ed);
+    QuietHost nobody;
+    NextNode(ed);
+    const auto nudge = [&ed](float dx, float dy) {
+        const auto [X, Y] = std::pair(float(selectedNode(ed)->X), float(selectedNode(ed)->Y));
+        picS_MouseMove(ed, 0, X, Y);
+        picS_MouseDown(ed, leftButton, X, Y);
+        picS_MouseMove(ed, leftButton, X + dx, Y + dy);
+        picS_MouseUp(ed, leftButton, X + dx, Y + dy);
+    };
+    nudge(300, -200);
+    singleClicked(ed, nobody);
+    ticks(1);
+    EXPECT_EQ(said("nudged"), hex(stateHash(ed)));
+    EXPECT_EQ(told["nudgedAt"].toInt(), 76);
+    nudge(-450, 100);
+    EXPECT_EQ(said("pinned"), hex(stateHash(ed)));
     EXPECT_EQ(told["backGravity"].toDouble(), 0.5);
     EXPECT_EQ(told["last"].toInt(), 75);
     EXPECT_EQ(told["held"].toInt(), 1);

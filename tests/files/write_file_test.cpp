@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <chrono>
 
@@ -99,16 +100,32 @@ TEST(WriteFile, KeepsTheOldFileWhereverTheDiskFails) {
 
 TEST(WriteFile, SweepsOnlyOldOrdinaryFilesOfItsOwnNaming) {
     const TemporaryFolder folder;
+    // A file that a save of the same number left is in nobody's way.
+    const std::string again = (folder.path / "again").string();
+    putFile(again + "." + std::to_string(::getpid()) + "-0.zentrik-part", "left");
+    EXPECT_EQ(writeFile(again, "new"), "");
+    EXPECT_EQ(contentOf(again), "new");
+    fs::remove(again + "." + std::to_string(::getpid()) + "-0.zentrik-part");
+    fs::remove(again);
     // What a save names its file aside, and names that only look like it.
-    const char* const names[] = {
-        "a.bot.123-0.zentrik-part", "a.bot",           "a.bot.x-0.zentrik-part",
-        "a.bot.123.zentrik-part",   ".zentrik-part",   "a.bot.123-0.zentrik-part.bot",
-        "young.1-0.zentrik-part",   "a.bot.123-0.part"};
+    const char* const names[] = {"a.bot.123-0.zentrik-part",
+                                 "a.bot",
+                                 "a.bot.x-0.zentrik-part",
+                                 "a.bot.123.zentrik-part",
+                                 ".zentrik-part",
+                                 "a.bot.123-0.zentrik-part.bot",
+                                 "young.1-0.zentrik-part",
+                                 "a.bot.123-0.part",
+                                 "plan9-0.zentrik-part",
+                                 ".1-0.zentrik-part"};
     for (const char* name : names) {
         putFile(folder.path / name, "x");
         const int hours = std::string(name).starts_with("young") ? 0 : 2;
         fs::last_write_time(folder.path / name, fs::file_time_type::clock::now() - std::chrono::hours(hours));
     }
+    putFile(folder.path / "b.1-0.zentrik-part", "of a program with a short number");
+    fs::last_write_time(folder.path / "b.1-0.zentrik-part",
+                        fs::file_time_type::clock::now() - std::chrono::hours(2));
     fs::create_directory(folder.path / "folder.1-0.zentrik-part");
     fs::create_symlink("a.bot", folder.path / "link.1-0.zentrik-part");
     sweepLeftovers(folder.path.string());

@@ -1,5 +1,6 @@
 #include "settings/settings.h"
 
+#include "ui/command_toolbar.h"
 #include "ui/menus.h"
 
 #include <gtest/gtest.h>
@@ -65,18 +66,27 @@ TEST(Settings, RoundTripInOrderAndForm) {
     EXPECT_EQ(second.order.size(), 2 * store.order.size() - 4);
 }
 
-TEST(Settings, KeepEveryMark) {
+TEST(Settings, KeepEveryMarkAndPressedButton) {
     MemoryStore store;
     Editor ed, again;
     Placement placement;
     for (const MenuRow& row : menuRows())
         if (row.mark != nullptr) ed.marks.*row.mark = !(ed.marks.*row.mark);
+    const auto kept = [](const CommandRow& row) {
+        return row.pressed && row.pressed != &Buttons::start && row.pressed != &Buttons::activeline;
+    };
+    for (const CommandRow& row : commandRows())
+        if (kept(row)) ed.buttons.*row.pressed = !(ed.buttons.*row.pressed);
     saveSettings(ed, {}, store);
     getSettings(again, placement, store);
     for (const MenuRow& row : menuRows()) {
         if (row.mark == nullptr || row.mark == &Marks::mnuDisplayPath) continue;  // the path begins anew
         EXPECT_EQ(again.marks.*row.mark, ed.marks.*row.mark) << row.name;
     }
+    for (const CommandRow& row : commandRows())
+        if (kept(row)) {
+            EXPECT_EQ(again.buttons.*row.pressed, ed.buttons.*row.pressed) << row.key;
+        }
 }
 
 TEST(Settings, WhatIsMissingOrDoesNotConvertGivesTheDefault) {

@@ -220,7 +220,11 @@ TEST(SpriteCommands, GiveSprites) {
     imgSprite_Click(desk.ed, 2);
     EXPECT_EQ(desk.ed.Nodes[1].SpriteIndex, 0);
     desk.ed.SelectedNode = 1;
+    for (const int outside : {-1, 3, 1000}) imgSprite_Click(desk.ed, outside);
+    EXPECT_EQ(desk.ed.Nodes[1].SpriteIndex, 0);
+    desk.ed.sceneStale = false;
     imgSprite_Click(desk.ed, 2);
+    EXPECT_TRUE(desk.ed.sceneStale);
     EXPECT_EQ(desk.ed.Nodes[1].Sprite, "bee.svg");
     EXPECT_EQ(desk.ed.spriteEntry, 2);
     int bees = 0;
