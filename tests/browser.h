@@ -30,12 +30,14 @@ inline QString browse(const TemporaryFolder& folder, const QStringList& what) {
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
-// A page's first rows, as wide as the browser's window.
+// A page's first rows, as wide as the browser's window, once its scripts have nothing left to do: the
+// browser's own time runs as fast as they do, so that a busy machine takes no picture too early.
 inline QImage shownBy(const std::string& page, const TemporaryFolder& folder, QSize size,
                       const QStringList& options = {}) {
     const QString shot = QString::fromStdString((folder.path / "shot.png").string());
     browse(folder,
-           options + QStringList{QString("--window-size=%1,%2").arg(size.width()).arg(size.height() + 200),
+           options + QStringList{"--virtual-time-budget=3000",
+                                 QString("--window-size=%1,%2").arg(size.width()).arg(size.height() + 200),
                                  "--screenshot=" + shot, QString::fromStdString("file://" + page)});
     return QImage(shot).copy(QRect(QPoint(), size));
 }

@@ -196,7 +196,7 @@ TEST_F(LivePages, ABrowserShowsWhatTheWindowShows) {
         QImage shown;
         for (int tries = 0; tries < 10 && difference(shown, scene).perMille > 8; ++tries)
             shown = shownBy(file("page.html"), folder_, scene.size() + QSize(0, 60),
-                            {"--force-prefers-reduced-motion", "--virtual-time-budget=3000"})
+                            {"--force-prefers-reduced-motion"})
                         .copy(0, 1, scene.width(), scene.height());
         // No more than smoothing makes; numbers are lettered by the browser.
         EXPECT_LE(difference(shown, scene).perMille, 8);
