@@ -55,12 +55,12 @@ void nameTicks(QPainter& painter, const Plot& plot, const PlotFrame& frame, cons
     letters.print(painter, {body.right() - letters.width(name), body.bottom() + line}, name);
 }
 
-// Where several spans fall into a column of pixels, or a span has several steps, the line goes through the
-// least and the greatest as well.
+// Goes from the first value of one column of pixels to that of the next, and on its way to the least and the
+// greatest of the spans between them, where these lie farther out.
 class CurveLine {
 public:
     CurveLine(const Plot& plot, const PlotFrame& frame, const Panel& panel, std::size_t curve)
-        : plot_(plot),
+        : byTime_(plot.against == 0),
           frame_(frame),
           panel_(panel),
           xs_(plot.series.of(plot.against)),
@@ -68,43 +68,42 @@ public:
 
     void draw(QPainter& painter, Spans spans) {
         for (std::size_t i = spans.from; i < spans.to; ++i) {
-            const double x = frame_.place(xs_[i].first);
-            if (std::isnan(x) || ys_[i].count == 0) {
+            const double x = frame_.place(xs_[i].first), y = ys_[i].first;
+            if (std::isnan(x) || std::isnan(y)) {
                 end(painter);
                 continue;
             }
-            if (plot_.against != 0 || points_.isEmpty() || std::fabs(x - points_.last().x()) >= 1) {
-                flush();
-                points_.append({x, panel_.place(std::isnan(ys_[i].first) ? ys_[i].least : ys_[i].first)});
+            if (!byTime_ || points_.isEmpty() || std::fabs(x - points_.last().x()) >= 1) {
+                goOut(y);
+                points_.append({x, panel_.place(y)});
                 column_ = ys_[i];
             }
-            last_ = ys_[i].first;
-            column_ = {0, std::fmin(column_.least, ys_[i].least),
-                       std::fmax(column_.greatest, ys_[i].greatest)};
+            column_.least = std::fmin(column_.least, ys_[i].least);
+            column_.greatest = std::fmax(column_.greatest, ys_[i].greatest);
+            last_ = y;
         }
         end(painter);
     }
 
 private:
-    const Plot& plot_;
+    const bool byTime_;
     const PlotFrame& frame_;
     const Panel& panel_;
     const std::vector<Span>&xs_, &ys_;
     QPolygonF points_;
-    Span column_{};
+    Span column_{};  // since the last point
     double last_ = 0;
 
-    // Goes to the ends of the column that the last point stands in, the one that it leaves by last.
-    void flush() {
-        if (points_.isEmpty() || plot_.against != 0 || column_.least == column_.greatest) return;
-        const double x = points_.last().x(), least = panel_.place(column_.least),
-                     greatest = panel_.place(column_.greatest), last = panel_.place(last_);
-        const bool falls = std::fabs(last - least) < std::fabs(last - greatest);
-        points_ << QPointF(x, falls ? greatest : least) << QPointF(x, falls ? least : greatest);
-        if (!std::isnan(last)) points_ << QPointF(x, last);
+    // next: the value to which it goes on.
+    void goOut(double next) {
+        if (points_.isEmpty() || !byTime_) return;
+        const double x = points_.last().x();
+        for (const double far : {column_.least, column_.greatest})
+            if (far < std::min(column_.first, next) || far > std::max(column_.first, next))
+                points_ << QPointF(x, panel_.place(far)) << QPointF(x, panel_.place(last_));
     }
     void end(QPainter& painter) {
-        flush();
+        goOut(last_);
         if (points_.size() == 1) points_.append(points_.last() + QPointF(frame_.ratio, 0));
         painter.drawPolyline(points_);
         points_.clear();
