@@ -7,13 +7,13 @@
 
 namespace zentrik {
 
-struct Difference {
+struct PictureDifference {
     int largest = 0;      // of a colour's part, of 255
     double perMille = 0;  // parts that differ by more than 8
 };
 
-inline Difference difference(const QImage& a, const QImage& b) {
-    Difference found;
+inline PictureDifference difference(const QImage& a, const QImage& b) {
+    PictureDifference found;
     if (a.isNull() || a.size() != b.size()) return {255, 1000};
     const QImage left = a.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     const QImage right = b.convertToFormat(left.format());
@@ -28,7 +28,7 @@ inline Difference difference(const QImage& a, const QImage& b) {
 }
 
 // Softened, where places are whole pixels in the one and exact in the other.
-inline Difference softDifference(const QImage& a, const QImage& b) {
+inline PictureDifference softDifference(const QImage& a, const QImage& b) {
     const auto soft = [](const QImage& image) {
         return image.scaled(image.size() / 3, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     };

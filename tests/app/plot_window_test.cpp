@@ -5,6 +5,8 @@
 #include "history/recorded_run.h"
 #include "measure/run_table.h"
 #include "model/redraw.h"
+#include "pictures.h"
+#include "scenes/scenes.h"
 #include "sim/model_run.h"
 #include "sim/step.h"
 #include "window_rig.h"
@@ -209,6 +211,40 @@ TEST_F(PlotWindowTest, WhatIsRemovedAndBroughtBackLeavesAGap) {
     EXPECT_EQ(series().size(), 0U) << "nothing was run of an empty scene";
     run(2);
     EXPECT_EQ(series().end(), 3);
+}
+
+TEST_F(PlotWindowTest, TakesTenThousandNodes) {
+    window_->perform("Change", [](Editor& ed, Host&) {
+        const Editor model = scenes::latticeOf(10000);
+        ed.Nodes = model.Nodes, ed.Links = model.Links;
+        redrawScene(ed);
+    });
+    run(70);
+    open();
+    EXPECT_EQ(find<QTreeWidget>("curves")->topLevelItemCount(), 1 + UsedNodes(ed()) + UsedLinks(ed()));
+    tick("Node 9999", "force");
+    run(2);
+    EXPECT_EQ(series().end(), 73);
+    EXPECT_EQ(series().of(5).back().first,
+              valueOf(ModelReading(ed()), curveNamed("node 9999.force").value()));
+}
+
+// Whatever was drawn step by step, and put together since.
+TEST(PlotView, LooksAlikeHoweverItGrew) {
+    RunSeries series({curveNamed("node 1.x").value()}, 0, 64);
+    PlotView grown(series, nullptr), fresh(series, nullptr);
+    for (PlotView* view : {&grown, &fresh}) view->resize(500, 260);
+    Editor ed = scenes::fullScreen();
+    scenes::addNodes(ed, {{0, 0}});
+    for (int step = 0; step < 590; ++step) {
+        nodeAt(ed, 1).X = step * (step % 50 == 0 ? 7 : 5);
+        series.add(ed);
+        grown.showMore(step, false);
+        if (step % 3 == 0 || step > 580) grown.grab();
+    }
+    fresh.showAfresh(589);
+    const PictureDifference by = softDifference(grown.grab().toImage(), fresh.grab().toImage());
+    EXPECT_LE(by.perMille, 0.3);
 }
 
 }  // namespace

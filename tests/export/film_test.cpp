@@ -57,7 +57,7 @@ void expectToShow(QImageReader& film, const Editor& ed, const FilmPlan& plan) {
             ASSERT_TRUE(film.read(&frame));
             until += film.nextImageDelay();
         }
-        const Difference by = difference(frame, sceneImage(reel.subject(), plan.look));
+        const PictureDifference by = difference(frame, sceneImage(reel.subject(), plan.look));
         ASSERT_LE(by.largest, 32);
         ASSERT_LE(by.perMille, 1);
         ++shown;
@@ -145,7 +145,7 @@ TEST_F(Films, APageIsSmallAndShowsTheRunInABrowser) {
         SCOPED_TRACE(picture);
         const QImage scene = sceneImage(reel.subject(), plan.look);
         const std::string page = path("walker.html") + "#t=" + QString::number(picture / 25.0).toStdString();
-        const Difference by = softDifference(shownBy(page, folder_, scene.size()), scene);
+        const PictureDifference by = softDifference(shownBy(page, folder_, scene.size()), scene);
         EXPECT_LE(by.largest, 100);
         EXPECT_LE(by.perMille, 30);
     }
@@ -168,7 +168,7 @@ TEST_F(Films, VideosShowTheRun) {
             const QImage scene = sceneImage(reel.subject(), plan.look);
             const QImage frame(QString(pattern).replace("%d", QString::number(++number)));
             ASSERT_EQ(frame.height(), 208) << "even";
-            const Difference by = softDifference(frame.copy(scene.rect()), scene);
+            const PictureDifference by = softDifference(frame.copy(scene.rect()), scene);
             ASSERT_LE(by.perMille, 2) << number;
             ASSERT_LE(by.largest, 40) << number;
         } while (reel.next());

@@ -75,7 +75,7 @@ TEST(Pictures, AnSvgLooksLikeTheScene) {
     Editor ed = everything();
     const auto compare = [&](const QRect& part, double perMille) {
         const QImage scene = sceneImage(Subject(ed), {});
-        const Difference by = softDifference(
+        const PictureDifference by = softDifference(
             rendered(fileOf(ed, PictureFormat::svg), scene.size()).copy(part), scene.copy(part));
         EXPECT_LE(by.largest, 100);
         EXPECT_LE(by.perMille, perMille);

@@ -84,12 +84,13 @@ void PlotView::zoom(double factor, double around) {
 void PlotView::keepPicture() {
     const PlotFrame wanted = frame();
     const Plot shown = plot();
-    const bool afresh = !current_ || wanted != frame_;
+    const bool afresh = !current_ || wanted != frame_ || stride_ != series_.stride();
     if (!afresh && drawn_ == series_.size()) return;
     if (afresh) {
         frame_ = wanted;
         picture_ = QPixmap(frame_.size);
         drawn_ = 0;
+        stride_ = series_.stride();
         legendCurrent_ = false;
     }
     QPainter painter(&picture_);

@@ -48,7 +48,8 @@ private:
     std::optional<int> bandFrom_, bandTo_;  // of a zoom by drag, pixels
     PlotFrame frame_;
     QPixmap picture_, legend_;  // as drawn last
-    std::size_t drawn_ = 0;     // spans of the curves
+    std::size_t drawn_ = 0;     // spans of the curves, each of so many steps
+    std::int64_t stride_ = 1;
     bool current_ = false, legendCurrent_ = false;
     QElapsedTimer legendAge_;
 
