@@ -7,7 +7,7 @@
 set -eu
 cd "$(dirname "$0")/.."
 filter='Golden.*:Lettering.*:Scene.*:PhaseStrip.*:Path.*:Stamp*:Canvas*:Pictures.*:Films.*:Seen.*:Overlays.*:Sprites*'
-filter="$filter:ExportCommand.*:Pointing*:Manual*:SharingTest.*:Window.*:Menus*:Layout*"
+filter="$filter:ExportCommand.*:Pointing*:Manual*:SharingTest.*:Plot*:Window.*:Menus*:Layout*"
 if [ "${1:-}" = --all ]; then filter='*'; shift; fi
 build=${1:-}
 for built in build/developer build/program; do [ -n "$build" ] || [ ! -x $built/zentrik_tests ] || build=$built; done

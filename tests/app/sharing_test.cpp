@@ -265,7 +265,7 @@ TEST_F(SharingTest, APlotLeavesAsPictureAndAsTable) {
     settle();
     QTest::mouseClick(find("copyPlot"), Qt::LeftButton);
     const QMimeData* copied = QApplication::clipboard()->mimeData();
-    EXPECT_EQ(copied->imageData().value<QImage>().size(), plot->plotSize());
+    EXPECT_EQ(copied->imageData().value<QImage>().size(), plot->plotSize() * window_->devicePixelRatioF());
     EXPECT_TRUE(copied->data("image/svg+xml").contains("<path"));
 
     fill({{"format", 0}, {"scale", 2}});
