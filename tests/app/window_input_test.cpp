@@ -1,5 +1,6 @@
 // Boxes, drags and keys of the real window.
 
+#include "app/boxes/input_box.h"
 #include "ui/commands/online.h"
 #include "window_rig.h"
 
@@ -42,6 +43,13 @@ TEST_F(Window, BoxesAreAsWideAsTheirTitles) {
         host.messageBox("!", "A title that is far longer than its message", BoxIcon::plain);
     });
     EXPECT_GT(width, title + 100);
+}
+
+TEST_F(Window, PromptsAreNoMarkup) {
+    const InputBox marked(InputBox::Kind::text, "<b>i</b>", "", nullptr),
+        plain(InputBox::Kind::text, "i", "", nullptr);
+    const auto width = [](const InputBox& box) { return box.findChild<QLabel*>("")->sizeHint().width(); };
+    EXPECT_GT(width(marked), 2 * width(plain));
 }
 
 TEST_F(Window, ADragEndsWhenTheButtonIsUp) {

@@ -16,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <set>
 
 namespace zentrik {
 namespace {
@@ -180,6 +181,22 @@ TEST_F(TimeTravel, GivesBackTheCyclesThatTheColoursChangeBy) {
     EXPECT_TRUE(asItWas());
     go(6);
     EXPECT_TRUE(imageOf(ed_) == last);
+}
+
+// A step's chance is its own: tied to the run, and yet another at every step.
+TEST_F(TimeTravel, EveryStepHasAChanceOfItsOwn) {
+    Editor ed = scenes::fullScreen();
+    scenes::addNodes(ed, {{3000, 1000}, {4000, 1000}, {5000, 1000}});
+    ed.marks.mnuRandom = true;
+    begin(std::move(ed));
+    std::set<std::vector<std::int32_t>> seen;
+    for (int round = 0; round < 5; ++round) {
+        run(10);
+        std::vector<std::int32_t> colours;
+        for (const Node& node : ed_.Nodes) colours.push_back(node.color);
+        seen.insert(colours);
+    }
+    EXPECT_EQ(seen.size(), 5U);
 }
 
 TEST_F(TimeTravel, StartingGoesOnFromThere) {
