@@ -183,6 +183,22 @@ TEST_F(TimeTravel, GivesBackTheCyclesThatTheColoursChangeBy) {
     EXPECT_TRUE(imageOf(ed_) == last);
 }
 
+TEST_F(TimeTravel, AStretchIsFromAStartToTheNext) {
+    Editor ed = scenes::fullScreen();
+    scenes::addNodes(ed, {{3000, 1000}});
+    begin(ed);
+    run(20);
+    stop();
+    command([&] { ed_.buttons.start = true, startClicked(ed_, host_); });
+    run(10);
+    const auto stretch = [this](std::int64_t step) {
+        const Stretch found = stretchAt(timeline_.run, step);
+        return std::pair(found.begin, found.end);
+    };
+    EXPECT_EQ(stretch(19), std::pair(std::int64_t{0}, std::int64_t{20}));
+    EXPECT_EQ(stretch(25), std::pair(std::int64_t{20}, std::int64_t{30}));
+}
+
 // A step's chance is its own: tied to the run, and yet another at every step.
 TEST_F(TimeTravel, EveryStepHasAChanceOfItsOwn) {
     Editor ed = scenes::fullScreen();
