@@ -65,6 +65,8 @@ async function drag(out) {
   told.nudged = hashOf(live), told.nudgedAt = live.at();
   live.nudge(-450, 100), live.goTo(live.at() - 1), live.goTo(live.at() + 1);
   told.pinned = hashOf(live);
+  live.nudge(10, 10), live.move(5000, 1000);
+  told.letGo = hashOf(live);
   live.to('gravity', 0.5);
   live.down(-1e6, -1e6, 0);
   live.reset();

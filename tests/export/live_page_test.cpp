@@ -152,6 +152,9 @@ TEST_F(LivePages, ADragIsTheMouseAndTimeGoesBack) {
     EXPECT_EQ(told["nudgedAt"].toInt(), 76);
     nudge(-450, 100);
     EXPECT_EQ(said("pinned"), hex(stateHash(ed)));
+    nudge(10, 10);
+    picS_MouseMove(ed, 0, 5000, 1000);
+    EXPECT_EQ(said("letGo"), hex(stateHash(ed))) << "nothing is held by then";
     EXPECT_EQ(told["backGravity"].toDouble(), 0.5);
     EXPECT_EQ(told["last"].toInt(), 75);
     EXPECT_EQ(told["held"].toInt(), 1);
