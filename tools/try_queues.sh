@@ -3,7 +3,8 @@
 # first try, and compares what they make with the sweep of one process. Prints a line each; ends with 1 when one
 # differs. Installs both engines and a server of ssh; starts two of these servers and a cluster of one machine, on
 # the loopback, and ends them. Where Slurm cannot be set up, it is left out with a sentence. To be run as root, best
-# in a system of its own: see bare_room.sh.
+# in a system of its own, which bare_room.sh makes:
+#     bare_room.sh bookworm ./run "cmake --build build/program --target zentrik-cli" "tools/try_queues.sh build/program"
 # Usage: try_queues.sh FOLDER_OF_ZENTRIK_CLI
 set -eu
 cd "$(dirname "$0")/.."
