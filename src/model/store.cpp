@@ -3,7 +3,6 @@
 #include "basics/numbers.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace zentrik {
@@ -18,14 +17,6 @@ std::int32_t countUsed(const std::vector<Record>& records) {
 }
 
 }  // namespace
-
-float linkLength(const Editor& ed, const Link& link) {
-    const Node& a = nodeAt(ed, link.N1);
-    const Node& b = nodeAt(ed, link.N2);
-    const double dx = static_cast<double>(a.X) - b.X;
-    const double dy = static_cast<double>(a.Y) - b.Y;
-    return toReal(std::sqrt(dy * dy + dx * dx));
-}
 
 PointF linkMidpoint(const Editor& ed, const Link& link) {
     const Node& a = nodeAt(ed, link.N1);

@@ -4,6 +4,8 @@
 #include "basics/prefetch.h"
 #include "model/editor.h"
 
+#include <cmath>
+
 namespace zentrik {
 
 inline std::int32_t lastNode(const Editor& ed) { return static_cast<std::int32_t>(ed.Nodes.size()) - 1; }
@@ -58,7 +60,11 @@ void forEachNode(EditorType& ed, Visit visit) {
 }
 
 // Distance of a link's two existing ends, twips.
-float linkLength(const Editor& ed, const Link& link);
+inline float linkLength(const Editor& ed, const Link& link) {
+    const Node &a = nodeAt(ed, link.N1), &b = nodeAt(ed, link.N2);
+    const double dx = static_cast<double>(a.X) - b.X, dy = static_cast<double>(a.Y) - b.Y;
+    return static_cast<float>(std::sqrt(dy * dy + dx * dx));
+}
 // Midpoint of a link with existing ends, twips.
 PointF linkMidpoint(const Editor& ed, const Link& link);
 
