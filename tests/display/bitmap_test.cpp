@@ -60,7 +60,7 @@ TEST(Bitmap, LinesLookLikeThePaintersAndAreTheSameFromEitherEnd) {
     Apart apart;
     for (int round = 0; round < 400; ++round) {
         const auto any = [&](int extent) {
-            return static_cast<std::int64_t>(chance.next() * static_cast<float>(extent));
+            return static_cast<std::int32_t>(chance.next() * static_cast<float>(extent));
         };
         const Pixel a{any(64), any(48)}, b{any(64), any(48)};
         const QImage ours = drawn(a, b);
@@ -68,12 +68,11 @@ TEST(Bitmap, LinesLookLikeThePaintersAndAreTheSameFromEitherEnd) {
         compare(ours, byPainter(a, b), apart);
         // Every step along the longer axis holds one pixel's worth of ink: no gaps.
         const bool steep = std::abs(b.y - a.y) > std::abs(b.x - a.x);
-        for (std::int64_t step = std::min(steep ? a.y : a.x, steep ? b.y : b.x) + 1;
+        for (std::int32_t step = std::min(steep ? a.y : a.x, steep ? b.y : b.x) + 1;
              step < std::max(steep ? a.y : a.x, steep ? b.y : b.x); ++step) {
             int ink = 0;
             for (int across = 0; across < (steep ? 64 : 48); ++across)
-                ink += 255 - qRed(steep ? ours.pixel(across, static_cast<int>(step))
-                                        : ours.pixel(static_cast<int>(step), across));
+                ink += 255 - qRed(steep ? ours.pixel(across, step) : ours.pixel(step, across));
             const bool inside =
                 std::min({a.x, b.x, a.y, b.y}) > 0 && std::max(a.x, b.x) < 63 && std::max(a.y, b.y) < 47;
             if (inside) {
@@ -89,7 +88,7 @@ TEST(Bitmap, AClipChangesNoPixelInsideItAndNoneOutside) {
     constexpr double most = std::numeric_limits<std::int32_t>::max();
     for (int round = 0; round < 3000; ++round) {
         const double reach = round % 3 == 0 ? 100 : round % 3 == 1 ? 3000 : most;
-        const auto any = [&] { return static_cast<std::int64_t>((chance.next() - 0.5) * 2 * reach); };
+        const auto any = [&] { return static_cast<std::int32_t>((chance.next() - 0.5) * 2 * reach); };
         const Pixel a{any(), any()}, b{round % 7 == 0 ? a.x : any(), round % 11 == 0 ? a.y : any()};
         const QRect clip(9, 7, 40, 30);
         QImage whole = drawn(a, b), expected = blank();

@@ -12,15 +12,10 @@ namespace zentrik {
 
 namespace {
 
-// The four channels of a colour, as far apart as products with 256 need, and back.
-constexpr std::uint64_t channels = 0x00FF00FF00FF00FF;
-std::uint64_t apart(std::uint64_t colour) { return (colour | colour << 24) & channels; }
-QRgb together(std::uint64_t parts) { return static_cast<QRgb>(parts | parts >> 24); }
-
 // under + (over - under) * part / 256
 QRgb mixed(std::uint64_t over, QRgb under, std::uint32_t part) {
     const std::uint64_t ground = apart(under);
-    return together(((ground << 8) + (over - ground) * part) >> 8 & channels);
+    return together(((ground << 8) + (over - ground) * part) >> 8);
 }
 
 using Channels = std::array<std::uint8_t, 16>;
@@ -42,6 +37,10 @@ QImage* imageUnder(const QPainter& painter) {
     return device->devType() == QInternal::Image ? static_cast<QImage*>(device) : nullptr;
 }
 
+struct Point {  // whose differences fit too
+    std::int64_t x, y;
+};
+
 struct Range {
     std::int64_t first = 0, last = 0;
 
@@ -53,7 +52,7 @@ struct Range {
 class Course {
 public:
     // onward, sideward: from a pixel to the next along either axis.
-    Course(Pixel from, Pixel to, std::uint64_t ink, QRgb* pixels, std::ptrdiff_t onward,
+    Course(Point from, Point to, std::uint64_t ink, QRgb* pixels, std::ptrdiff_t onward,
            std::ptrdiff_t sideward)
         : from_(from),
           to_(to),
@@ -91,12 +90,12 @@ public:
             const std::uint32_t share = static_cast<std::uint32_t>(place >> 24) & 0xFF;
             QRgb* pixel = column + row * sideward_;
             if (isSeen(row)) *pixel = mixed(ink_, *pixel, 256 - share);
-            if (isSeen(row + 1)) pixel[sideward_] = mixed(ink_, pixel[sideward_], share);
+            if (share != 0 && isSeen(row + 1)) pixel[sideward_] = mixed(ink_, pixel[sideward_], share);
         }
     }
 
 private:
-    const Pixel from_, to_;
+    const Point from_, to_;
     const double slope_;
     const std::int64_t step_;  // places are counted in parts of a pixel, 2^32 each
     const std::uint64_t ink_;
@@ -115,17 +114,25 @@ std::vector<Tile> tilesOf(const QImage& picture) {
         for (const auto* at = std::find_if(row, end, isSeen); at < end;
              at = at + 4 < end ? std::find_if(at + 4, end, isSeen) : end) {
             Tile& tile = tiles.emplace_back(Tile{static_cast<int>(at - row), y, {}, {}});
-            tile.shown.fill(255);
-            tile.over.fill(255);
-            const auto seen = std::min<std::ptrdiff_t>(4, end - at);
-            for (std::size_t i = 0; i < 4 * static_cast<std::size_t>(seen); ++i) {
-                const QRgb pixel = at[i / 4];
-                tile.shown[i] = static_cast<std::uint16_t>(255 - qAlpha(pixel));
-                tile.over[i] = static_cast<std::uint16_t>(256 * (pixel >> 8 * (i % 4) & 0xFF) + 255);
-            }
+            for (std::size_t i = 0; i < tile.shown.size(); ++i)
+                tile.shown[i] = static_cast<std::uint16_t>(255 - (at + i / 4 < end ? qAlpha(at[i / 4]) : 0));
         }
     }
+    colour(tiles, picture);
     return tiles;
+}
+
+void colour(std::span<Tile> tiles, const QImage& picture) {
+    for (Tile& tile : tiles) {
+        Channels seen{};
+        const auto* from = picture.constScanLine(tile.y) + std::size_t{4} * static_cast<unsigned>(tile.x);
+        if (tile.x + 4 <= picture.width())
+            std::memcpy(&seen, from, sizeof seen);
+        else
+            std::memcpy(&seen, from, std::size_t{4} * static_cast<unsigned>(picture.width() - tile.x));
+        for (std::size_t i = 0; i < seen.size(); ++i)
+            tile.over[i] = static_cast<std::uint16_t>(256 * seen[i] + 255);
+    }
 }
 
 std::optional<Bitmap> Bitmap::under(const QPainter& painter) {
@@ -148,7 +155,8 @@ std::optional<Bitmap> Bitmap::under(const QPainter& painter) {
     return bitmap;
 }
 
-void Bitmap::line(Pixel from, Pixel to, QRgb opaque) const {
+void Bitmap::line(Pixel a, Pixel b, QRgb opaque) const {
+    Point from{a.x, a.y}, to{b.x, b.y};
     const bool steep = std::abs(to.y - from.y) > std::abs(to.x - from.x);
     Range along{clip_.left(), clip_.right()}, across{clip_.top(), clip_.bottom()};
     if (steep) {
@@ -165,25 +173,27 @@ void Bitmap::line(Pixel from, Pixel to, QRgb opaque) const {
 }
 
 void Bitmap::picture(const QRect& place, std::span<const Tile> tiles) const {
-    const bool whole =
-        clip_.contains(place.adjusted(0, 0, 3, 0));  // the last tile of a row may reach further
-    for (const Tile& tile : tiles) {
-        const QPoint first(place.x() + tile.x, place.y() + tile.y);
-        QRgb* to = at(first.x(), first.y());
-        Channels four{};
-        if (whole) {
+    QRgb* const corner = at(place.x(), place.y());
+    const std::ptrdiff_t stride = stride_;
+    Channels four{};
+    if (clip_.contains(place.adjusted(0, 0, 3, 0))) {  // the last tile of a row may reach further
+        for (const Tile& tile : tiles) {
+            QRgb* const to = corner + tile.y * stride + tile.x;
             std::memcpy(&four, to, sizeof four);
             four = covered(four, tile);
             std::memcpy(to, &four, sizeof four);
-            continue;
         }
-        for (std::size_t i = 0; i < 4; ++i) {
-            if (!clip_.contains(first + QPoint(static_cast<int>(i), 0))) continue;
-            std::memcpy(&four[4 * i], to + i, 4);
-            four = covered(four, tile);
-            std::memcpy(to + i, &four[4 * i], 4);
-        }
+        return;
     }
+    for (const Tile& tile : tiles)
+        for (int i = 0; i < 4; ++i) {
+            if (!clip_.contains(place.topLeft() + QPoint(tile.x + i, tile.y))) continue;
+            QRgb* const to = corner + tile.y * stride + tile.x + i;
+            const auto channel = four.begin() + 4 * i;
+            std::memcpy(&*channel, to, 4);
+            four = covered(four, tile);
+            std::memcpy(to, &*channel, 4);
+        }
 }
 
 }  // namespace zentrik

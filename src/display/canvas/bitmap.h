@@ -15,9 +15,16 @@ class QPainter;
 
 namespace zentrik {
 
+// The four channels of a colour, as far apart as products with 256 need, and back.
+inline std::uint64_t apart(std::uint64_t colour) { return (colour | colour << 24) & 0x00FF00FF00FF00FF; }
+inline QRgb together(std::uint64_t parts) {
+    parts &= 0x00FF00FF00FF00FF;
+    return static_cast<QRgb>(parts | parts >> 24);
+}
+
 // A pixel, from the painter's origin; it may lie anywhere.
 struct Pixel {
-    std::int64_t x = 0, y = 0;
+    std::int32_t x = 0, y = 0;
 };
 
 // Four pixels of a premultiplied picture side by side, those that let everything be seen through left out.
@@ -28,6 +35,8 @@ struct Tile {
     std::array<std::uint16_t, 16> shown{}, over{};
 };
 std::vector<Tile> tilesOf(const QImage& picture);
+// Makes tiles those of the same picture in another colour.
+void colour(std::span<Tile> tiles, const QImage& picture);
 
 class Bitmap {
 public:

@@ -52,8 +52,8 @@ public:
 
 private:
     const double unit;                            // device pixels a twip
-    static std::int64_t nearest(double pixels) {  // halves upwards; no call
-        const auto whole = static_cast<std::int64_t>(pixels + 0.5);
+    static std::int32_t nearest(double pixels) {  // halves upwards; no call
+        const auto whole = static_cast<std::int32_t>(pixels + 0.5);
         return whole - (pixels + 0.5 < static_cast<double>(whole) ? 1 : 0);
     }
     double sharp(double twips) const {

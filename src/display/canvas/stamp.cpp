@@ -67,6 +67,10 @@ void Stamp::makeWeights() {
     QPainter painter(&weights_);
     drawShape(painter, shape_, QPointF(side / 2.0, side / 2.0), radius_, canvas_.thinWidth, QColor(255, 0, 0),
               QColor(0, 255, 0));
+    // Both together are the coverage, whatever rounding made of them.
+    auto* weights = reinterpret_cast<QRgb*>(weights_.bits());
+    std::transform(weights, weights + side * side, weights,
+                   [](QRgb w) { return qRgba(qRed(w), qAlpha(w) - qRed(w), 0, qAlpha(w)); });
 }
 
 // A colour has a few places where its picture may be kept; when others have them all, the first one yields.
@@ -91,19 +95,20 @@ const Stamp::Coloured& Stamp::picture(std::int32_t fill, std::int32_t outline) {
 }
 
 void Stamp::colour(Coloured& coloured) const {
-    const QRgb in = colourOf(coloured.fill).rgb(), rim = colourOf(coloured.outline).rgb();
+    const std::uint64_t in = apart(colourOf(coloured.fill).rgb()),
+                        rim = apart(colourOf(coloured.outline).rgb());
     const auto* from = reinterpret_cast<const QRgb*>(weights_.constBits());
     auto* to = reinterpret_cast<QRgb*>(coloured.image.bits());
     std::transform(from, from + weights_.width() * weights_.height(), to, [&](QRgb weight) {
-        const int fillPart = qRed(weight), rimPart = qGreen(weight), coverage = qAlpha(weight);
-        // Rounding must not lift a premultiplied part above the coverage: blending would overflow.
-        const auto mix = [&](int a, int b) {
-            return std::min((a * fillPart + b * rimPart + 127) / 255, coverage);
-        };
-        return qRgba(mix(qRed(in), qRed(rim)), mix(qGreen(in), qGreen(rim)), mix(qBlue(in), qBlue(rim)),
-                     coverage);
+        // Four sums of up to 255 * 255 beside each other, and each divided by 255, halves upwards.
+        constexpr std::uint64_t half = 0x0080008000800080;
+        const std::uint64_t sums = in * qRed(weight) + rim * qGreen(weight) + half;
+        return together((sums + (sums >> 8 & 0x00FF00FF00FF00FF)) >> 8);
     });
-    coloured.tiles = tilesOf(coloured.image);
+    if (coloured.tiles.empty())
+        coloured.tiles = tilesOf(coloured.image);
+    else
+        zentrik::colour(coloured.tiles, coloured.image);
 }
 
 }  // namespace zentrik
