@@ -232,6 +232,26 @@ TEST_F(PlotWindowTest, TakesTenThousandNodes) {
               valueOf(ModelReading(ed()), curveNamed("node 9999.force").value()));
 }
 
+// Nobody waits for what is read: neither who chooses other curves meanwhile, nor who closes the window.
+TEST_F(PlotWindowTest, OtherCurvesDoNotWaitForThoseBefore) {
+    window_->perform("Change", [](Editor& ed, Host&) {
+        const Editor model = scenes::latticeOf(10000);
+        ed.Nodes = model.Nodes, ed.Links = model.Links;
+    });
+    run(80);
+    QTest::mouseClick(find("plotButton"), Qt::LeftButton);
+    settle();
+    ASSERT_TRUE(plot().isReading());
+    auto* list = find<QTreeWidget>("curves");
+    QTreeWidgetItem* whole = list->topLevelItem(0);
+    for (int i : {0, 1}) whole->child(i)->setCheckState(0, Qt::Checked);
+    QApplication::processEvents();
+    EXPECT_TRUE(plot().isReading()) << "the end of the reading before was taken for that of this one";
+    QTest::mouseClick(find("plotButton"), Qt::LeftButton);
+    EXPECT_FALSE(plot().isVisible());
+    EXPECT_FALSE(plot().isReading());
+}
+
 // Whatever was drawn step by step, and put together since.
 TEST(PlotView, LooksAlikeHoweverItGrew) {
     RunSeries series({curveNamed("node 1.x").value()}, 0, 64);

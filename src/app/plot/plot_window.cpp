@@ -142,6 +142,14 @@ void PlotWindow::showEvent(QShowEvent* event) {
     changed();
 }
 
+// What is not seen is not read on, nor kept.
+void PlotWindow::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    if (event->spontaneous()) return;
+    reader_.choose(list_->chosen());
+    showProgress();
+}
+
 void PlotWindow::closeEvent(QCloseEvent* event) {
     closed();
     event->accept();

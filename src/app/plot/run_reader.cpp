@@ -83,8 +83,9 @@ void RunReader::start(const RecordedRun& run, const Stretch& stretch) {
     thread_->start(QThread::LowPriority);
 }
 
+// The news of a thread that was cancelled may still come when another one reads.
 void RunReader::finish() {
-    if (!thread_) return;
+    if (!thread_ || !thread_->isFinished()) return;
     thread_->wait();
     thread_.reset();
     series_ = std::move(made_);
