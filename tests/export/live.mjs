@@ -69,6 +69,9 @@ async function drag(out) {
   told.letGo = hashOf(live);
   live.to('gravity', 0.5);
   live.down(-1e6, -1e6, 0);
+  live.start(true);
+  for (let time = -1; live.clock() > time && live.at() < 30000; live.tick()) time = live.clock();
+  told.turned = live.at(), live.start(false);  // by a wall
   live.reset();
   told.reset = hashOf(live), told.nodes = live.count(3);
   console.log(JSON.stringify(told));
