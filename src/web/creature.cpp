@@ -107,6 +107,7 @@ void reset(Creature& creature) {
     repositionClicked(ed, nobody);
     ed.AnimationTime = creature.first.AnimationTime;
     ed.TimeDirection = creature.first.TimeDirection;
+    ed.InitialVelocityPending = false;  // as in a page just opened
     redrawStripAndScene(ed);
     endOfEdit(creature);
 }
