@@ -104,6 +104,13 @@ void appendCurves(std::vector<Curve>& curves, Of of, std::int32_t slot) {
         if (quantity.of == of) curves.push_back({&quantity, slot});
 }
 
+std::vector<Curve> usualCurves() {
+    std::vector<Curve> curves;
+    for (const Quantity& quantity : quantities())
+        if (std::string_view(quantity.unit) == energyUnit) curves.push_back({&quantity});
+    return curves;
+}
+
 std::string nameOf(const Curve& curve) {
     for (const auto& object : objects)
         if (object.of == curve.quantity->of && object.of != Of::whole)

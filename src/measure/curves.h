@@ -53,6 +53,9 @@ struct Curve {
 // Every quantity of a thing; of the whole all but the time.
 void appendCurves(std::vector<Curve>& curves, Of of, std::int32_t slot = none);
 
+// What a plot shows that nobody has chosen curves for: the whole's energies.
+std::vector<Curve> usualCurves();
+
 // "node 3 Vx", "kinetic energy".
 std::string nameOf(const Curve& curve);
 // That of a name, in letters of any case, the quantity after a blank or a point: "Node 3.vx". None where

@@ -29,15 +29,6 @@ constexpr ButtonRow buttons[] = {
     {"savePlotTable", "Save &Table...", "Writes these curves as a table, a row a step", PlotShare::saveTable},
 };
 
-// What a plot shows that nobody has chosen curves for.
-std::vector<Curve> usualCurves() {
-    std::vector<Curve> curves;
-    for (const Quantity& quantity : quantities())
-        if (quantity.of == Of::whole && std::string_view(quantity.name).ends_with("energy"))
-            curves.push_back({&quantity});
-    return curves;
-}
-
 }  // namespace
 
 PlotWindow::PlotWindow(QWidget* parent)

@@ -57,9 +57,7 @@ Curve curveOf(const Editor& ed, const std::string& name) {
 std::vector<Curve> curvesOf(const Editor& ed, const Arguments& arguments) {
     std::vector<Curve> curves;
     for (const std::string& name : arguments.all("curve")) curves.push_back(curveOf(ed, name));
-    if (curves.empty())
-        for (const Quantity& quantity : quantities())
-            if (std::string_view(quantity.name).ends_with("energy")) curves.push_back({&quantity});
+    if (curves.empty()) curves = usualCurves();
     if (const auto name = arguments.value("against")) curves.push_back(curveOf(ed, *name));
     return curves;
 }
