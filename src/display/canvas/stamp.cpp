@@ -102,7 +102,9 @@ void Stamp::colour(Coloured& coloured) const {
     std::transform(from, from + weights_.width() * weights_.height(), to, [&](QRgb weight) {
         // Four sums of up to 255 * 255 beside each other, and each divided by 255, halves upwards.
         constexpr std::uint64_t half = 0x0080008000800080;
-        const std::uint64_t sums = in * qRed(weight) + rim * qGreen(weight) + half;
+        const auto fillPart = static_cast<unsigned>(qRed(weight)),
+                   rimPart = static_cast<unsigned>(qGreen(weight));
+        const std::uint64_t sums = in * fillPart + rim * rimPart + half;
         return together((sums + (sums >> 8 & 0x00FF00FF00FF00FF)) >> 8);
     });
     if (coloured.tiles.empty())
