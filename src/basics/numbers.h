@@ -3,6 +3,7 @@
 // the expressions between them are evaluated in double precision and rounded when stored. Products
 // of integers are formed in double precision too: exact wherever 32 bits would do, never undefined.
 
+#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -11,10 +12,16 @@
 
 namespace zentrik {
 
+// Nearest integer of a number within 32 bits, halves to the even neighbour: beside 2^52 a double has no bits
+// left below 1, and its last ones are the integer.
+inline std::int32_t nearestInt(double value) {
+    return static_cast<std::int32_t>(std::bit_cast<std::int64_t>(value + 0x1.8p52));
+}
+
 // Nearest integer, halves to the even neighbour, saturating at the 32-bit ends; not-a-number gives 0.
 inline std::int32_t toInt(double value) {
     using Limits = std::numeric_limits<std::int32_t>;
-    if (value > Limits::min() && value < Limits::max()) return static_cast<std::int32_t>(std::llrint(value));
+    if (value > Limits::min() && value < Limits::max()) return nearestInt(value);
     if (std::isnan(value)) return 0;
     return value < 0 ? Limits::min() : Limits::max();
 }

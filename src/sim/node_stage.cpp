@@ -122,8 +122,8 @@ void NodeStage::commitPlainRun() const {
         Node& node = *run_.node[m];
         const double* const place = &arrivals_.place[2 * m];
         const float* const velocity = &arrivals_.velocity[2 * m];
-        node.X = static_cast<std::int32_t>(std::llrint(place[0]));
-        node.Y = static_cast<std::int32_t>(std::llrint(place[1]));
+        node.X = nearestInt(place[0]);
+        node.Y = nearestInt(place[1]);
         node.Vx = velocity[0];
         node.Vy = velocity[1];
         node.Fx = node.Fy = 0;
@@ -162,8 +162,8 @@ const char* NodeStage::move(std::int32_t i, Node& node, std::size_t lane) {
     node.Vx = arrivals_.velocity[2 * lane];
     node.Vy = arrivals_.velocity[2 * lane + 1];
     if (!inTheWorld(place[0], place[1])) return isFinite(node) ? leftTheWorld : notFinite;
-    node.X = static_cast<std::int32_t>(std::llrint(place[0]));
-    node.Y = static_cast<std::int32_t>(std::llrint(place[1]));
+    node.X = nearestInt(place[0]);
+    node.Y = nearestInt(place[1]);
     node.Fx = 0;
     node.Fy = 0;
     const char* problem = nullptr;
