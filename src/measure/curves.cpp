@@ -107,7 +107,8 @@ void appendCurves(std::vector<Curve>& curves, Of of, std::int32_t slot) {
 std::vector<Curve> usualCurves() {
     std::vector<Curve> curves;
     for (const Quantity& quantity : quantities())
-        if (std::string_view(quantity.unit) == energyUnit) curves.push_back({&quantity});
+        if (quantity.of == Of::whole && std::string_view(quantity.unit) == energyUnit)
+            curves.push_back({&quantity});
     return curves;
 }
 

@@ -118,11 +118,11 @@ std::vector<Tile> tilesOf(const QImage& picture) {
                 tile.shown[i] = static_cast<std::uint16_t>(255 - (at + i / 4 < end ? qAlpha(at[i / 4]) : 0));
         }
     }
-    colour(tiles, picture);
+    recolour(tiles, picture);
     return tiles;
 }
 
-void colour(std::span<Tile> tiles, const QImage& picture) {
+void recolour(std::span<Tile> tiles, const QImage& picture) {
     for (Tile& tile : tiles) {
         Channels seen{};
         const auto* from = picture.constScanLine(tile.y) + std::size_t{4} * static_cast<unsigned>(tile.x);

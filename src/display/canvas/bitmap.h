@@ -36,7 +36,7 @@ struct Tile {
 };
 std::vector<Tile> tilesOf(const QImage& picture);
 // Makes tiles those of the same picture in another colour.
-void colour(std::span<Tile> tiles, const QImage& picture);
+void recolour(std::span<Tile> tiles, const QImage& picture);
 
 class Bitmap {
 public:

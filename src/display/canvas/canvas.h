@@ -47,7 +47,7 @@ public:
     // the place itself, half a pixel in as on a screen.
     QPointF place(double x, double y) const { return {sharp(x), sharp(y)}; }
 
-    // The pixel that a place is in.
+    // The pixel that a place is in, of 32 bits as its twips are.
     Pixel pixel(double x, double y) const { return {nearest(x * unit), nearest(y * unit)}; }
 
 private:

@@ -110,7 +110,7 @@ void Stamp::colour(Coloured& coloured) const {
     if (coloured.tiles.empty())
         coloured.tiles = tilesOf(coloured.image);
     else
-        zentrik::colour(coloured.tiles, coloured.image);
+        recolour(coloured.tiles, coloured.image);
 }
 
 }  // namespace zentrik
